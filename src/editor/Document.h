@@ -1,0 +1,25 @@
+// What the program sees of a document window.
+#pragma once
+
+#include <QString>
+
+class QWidget;
+class RichTextBox;
+
+/// A document has no object behind it: its window's caption, modified flag and text control are all there is.
+class Document {
+  public:
+    virtual ~Document() = default;
+    /// The full path of its file; empty for a document that was never saved.
+    virtual QString Caption() const = 0;
+    virtual void SetCaption(const QString& path) = 0;
+    /// The window's Tag, "True" or "False": whether the text changed since it was loaded or saved.
+    virtual bool Modified() const = 0;
+    virtual void SetModified(bool modified) = 0;
+    virtual RichTextBox& txtInput() = 0;
+    /// The window itself, as the list of loaded forms holds it.
+    virtual QWidget& Window() = 0;
+    /// Asks about saving as closing the window does, and takes the window down unless the answer was Cancel.
+    /// Returns false on Cancel. The document may be gone when it returns true.
+    virtual bool Unload() = 0;
+};

@@ -1,0 +1,156 @@
+// The text control of a document: plain text, one colour per character, and the events of typing.
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+#include <QtGlobal>
+#include <optional>
+#include <Qsci/qsciscintillabase.h>
+
+class QPainter;
+class QRectF;
+
+/// A colour as the documents and settings hold it: red in the low byte, then green, then blue.
+using ColorNumber = int;
+
+/// How the bytes 13 and 10 standing raw in an RTF text are taken.
+enum class RawLineEnds {
+    Skip, ///< white space, as RTF has it: they vanish
+    Keep  ///< text: no file loses its lines where text files end lines with a bare LF
+};
+
+/// The rich-text control. Text is a QString whose characters are all of code page 1252, so that one character
+/// is one byte of the file; positions count characters from 0, and a CR and an LF are one each.
+///
+/// Every assignment (`Text`, `SelText`, `SelRTF`) is one undo step, and undo and redo bring the colours back.
+/// Signals come after the event or call that caused them is complete, in the order Change, SelChange; one
+/// Change for one event or call, however many steps it took.
+class RichTextBox : public QsciScintillaBase {
+    Q_OBJECT
+    Q_PROPERTY(QString Text READ Text WRITE SetText)
+    Q_PROPERTY(int SelStart READ SelStart WRITE SetSelStart)
+    Q_PROPERTY(int SelLength READ SelLength WRITE SetSelLength)
+    Q_PROPERTY(QString SelText READ SelText WRITE SetSelText)
+    Q_PROPERTY(int SelColor READ SelColor WRITE SetSelColor)
+    Q_PROPERTY(QString SelRTF WRITE SetSelRTF)
+    Q_PROPERTY(int RightMargin READ RightMargin WRITE SetRightMargin)
+    Q_PROPERTY(int BackColor READ BackColor WRITE SetBackColor)
+    Q_PROPERTY(QFont Font READ Font WRITE SetFont)
+    Q_PROPERTY(bool Enabled READ Enabled WRITE SetEnabled)
+
+  public:
+    /// The window messages that the program sends to the control, by their numbers.
+    enum class Message { CanUndo = 198, LeftButtonUp = 514, Cut = 768, Copy = 769, Paste = 770, Undo = 772 };
+
+    /// Options of Find, combined by OR.
+    enum FindOption { WholeWord = 2, MatchCase = 4 };
+
+    explicit RichTextBox(QWidget* parent = nullptr);
+    ~RichTextBox() override;
+
+    /// The whole text. Assigning puts the caret at 0 and writes in the colour at the caret.
+    QString Text() const;
+    void SetText(const QString& text);
+    /// The number of characters of the text, without fetching it.
+    int TextLength() const;
+    /// The characters [start, start + length), cut to what there is; never fetches more of the text.
+    QString TextRange(int start, int length) const;
+    /// The character at a position, or a null QChar outside the text. Constant time.
+    QChar CharAt(int position) const;
+    /// The colour of the character at a position (0-based), or -1 outside the text.
+    ColorNumber ColorAt(int position) const;
+
+    /// The start of the selection, or the caret. Assigning takes the selection away and moves the caret there;
+    /// a value outside the text is cut to it.
+    int SelStart() const;
+    void SetSelStart(int position);
+    /// The selection's length. Assigning keeps SelStart, and puts the caret behind the selection.
+    int SelLength() const;
+    void SetSelLength(int length);
+    /// The selected text. Assigning replaces the selection, in the colour at the caret, and leaves the caret
+    /// behind the new text with nothing selected.
+    QString SelText() const;
+    void SetSelText(const QString& text);
+    /// The colour of the selection's first character, or with nothing selected the colour that typed text
+    /// gets. Assigning colours the selection, or with nothing selected what is typed or assigned next there,
+    /// until the caret moves away. Undo counts no colouring.
+    ColorNumber SelColor() const;
+    void SetSelColor(ColorNumber color);
+    /// Replaces the selection by the text and colours of an RTF text (RtfReader); the caret stands behind it.
+    void SetSelRTF(const QString& rtf);
+
+    /// How raw line ends in RTF are taken: by default as the system's own text files ask.
+    RawLineEnds RawLineEndMode() const { return rawLineEnds_; }
+    void SetRawLineEndMode(RawLineEnds mode) { rawLineEnds_ = mode; }
+
+    /// 0 wraps lines at the window's edge; any other value, in twips, is a right margin far away: no wrap.
+    int RightMargin() const;
+    void SetRightMargin(int twips);
+    ColorNumber BackColor() const;
+    void SetBackColor(ColorNumber color);
+    QFont Font() const;
+    void SetFont(const QFont& font);
+    /// While off, keys, mouse and drops change nothing; the focus stays where it is.
+    bool Enabled() const;
+    void SetEnabled(bool enabled);
+    void SetFocus();
+
+    /// Searches forward for a text from start (0-based) to end, or to the end of the text when end is left out;
+    /// with neither given it searches the selection if there is one, else the whole text. Case is ignored
+    /// without MatchCase. On success selects the match and returns its position; else returns -1 and leaves
+    /// the selection alone. An empty text is never found.
+    int Find(const QString& text, std::optional<int> start = std::nullopt, std::optional<int> end = std::nullopt,
+             int options = 0);
+    /// The position of the nearest given character before a position (0-based, not included), or -1. Looks at
+    /// no more of the text than lies between. No selection changes.
+    int FindBackward(QChar character, int before) const;
+    /// The position of the first given character at or after a position, or -1; looks at no more than needed.
+    int FindForward(QChar character, int from) const;
+    /// The line of a position, both 0-based. A line ends with CR LF, CR or LF.
+    int GetLineFromChar(int position) const;
+
+    /// Carries out a window message. CanUndo answers 1 or 0, all others 0.
+    int Send(Message message);
+    /// Forgets all undo steps: what stands now is where undo ends.
+    void EmptyUndoBuffer();
+    /// The line end of the document: that of its first line, CR LF where there is none.
+    QString LineEnd() const;
+
+    /// Draws the text from a position (0-based) in its colours on white, into a page's rectangle in the
+    /// painter's units, and returns the first position not drawn. With draw off only measures.
+    int FormatRange(bool draw, QPainter& painter, const QRectF& page, int from);
+
+    /// The caret in pixels of the viewport: left edge and top of its line.
+    QPoint CaretPixel() const;
+
+    /// Painting waits while a hold lives: what others know as hiding the control during a write.
+    class PaintHold {
+      public:
+        explicit PaintHold(RichTextBox& box);
+        ~PaintHold();
+        PaintHold(const PaintHold&) = delete;
+        PaintHold& operator=(const PaintHold&) = delete;
+
+      private:
+        RichTextBox& box_;
+    };
+
+  Q_SIGNALS:
+    void Change();
+    void SelChange();
+    void GotFocus();
+    void LostFocus();
+    void DblClick();
+    /// A key goes down. KeyCode is the virtual key code (27 Esc, 37 to 40 the arrows, 48 to 57 the digits);
+    /// Shift adds 1 for Shift, 2 for Ctrl, 4 for Alt. A handler that sets KeyCode to 0 swallows the key.
+    void KeyDown(int& KeyCode, int Shift);
+    /// A key yields a character: its code of code page 1252 (8 Backspace, 13 Enter). A handler that sets it to
+    /// 0 swallows it; another code is typed in its place. It comes for input methods too, character by character.
+    void KeyPress(int& KeyAscii);
+    /// Mouse buttons: 1 left, 2 right, 4 middle; x and y in pixels of the viewport.
+    void MouseDown(int Button, int Shift, QPoint at);
+    void MouseUp(int Button, int Shift, QPoint at);
+
+  private:
+    RawLineEnds rawLineEnds_;
+};
