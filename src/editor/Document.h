@@ -3,6 +3,7 @@
 
 #include <QString>
 
+class DocumentModes;
 class QWidget;
 class RichTextBox;
 
@@ -17,6 +18,8 @@ class Document {
     virtual bool Modified() const = 0;
     virtual void SetModified(bool modified) = 0;
     virtual RichTextBox& txtInput() = 0;
+    /// The switch between source, design and browser view; null for a document that has none.
+    virtual DocumentModes* Modes() { return nullptr; }
     /// The window itself, as the list of loaded forms holds it.
     virtual QWidget& Window() = 0;
     /// Asks about saving as closing the window does, and takes the window down unless the answer was Cancel.
