@@ -1,0 +1,88 @@
+// The primitives by which menus, toolbar, user buttons and dialogs put HTML into the active document.
+#include "editor/InsertTag.h"
+
+#include "editor/ColorizeText.h"
+#include "editor/Document.h"
+#include "editor/Frame.h"
+#include "editor/WriteColoredText.h"
+#include "platform/Prompts.h"
+#include "platform/RichTextBox.h"
+#include "platform/Settings.h"
+
+namespace {
+
+bool LowerCaseTags(Frame& frame) {
+    return frame.Store().ReadFlag(Keys::LowerCaseTags);
+}
+
+} // namespace
+
+void InsertTag(Frame& frame, QString& open, QString& close, bool keepCase) {
+    if (!keepCase && LowerCaseTags(frame)) {
+        open = open.toLower();
+        close = close.toLower();
+    }
+    Document* document = frame.ActiveForm();
+    if (!document)
+        return;
+    RichTextBox& txtInput = document->txtInput();
+    const QString selected = txtInput.SelText();
+    WriteColoredText(frame, open, TagColorCode(open), false);
+    ColorizeText(frame, selected, true, false);
+    WriteColoredText(frame, close, TagColorCode(close), false);
+    // The length as it is now: with colouring on, each CR LF in close counts the five characters of "\par ".
+    txtInput.SetSelStart(txtInput.SelStart() - static_cast<int>(close.size()));
+}
+
+void InsertTag(Frame& frame, const QString& open, const QString& close, bool keepCase) {
+    QString openCopy = open;
+    QString closeCopy = close;
+    InsertTag(frame, openCopy, closeCopy, keepCase);
+}
+
+QString BuildAttribute(Frame& frame, QString& name, QString& value, bool quoted, QString& bare) {
+    if (!bare.isEmpty()) {
+        if (LowerCaseTags(frame))
+            bare = bare.toLower();
+        return bare;
+    }
+    if (value.isEmpty())
+        return QString();
+    if (LowerCaseTags(frame))
+        name = name.toLower();
+    if (quoted)
+        value = QLatin1Char('"') + value + QLatin1Char('"');
+    return QLatin1Char(' ') + name + QLatin1Char('=') + value;
+}
+
+QString BuildAttribute(Frame& frame, const QString& name, const QString& value, bool quoted) {
+    QString nameCopy = name;
+    QString valueCopy = value;
+    QString bare;
+    return BuildAttribute(frame, nameCopy, valueCopy, quoted, bare);
+}
+
+QString BuildBare(Frame& frame, const QString& bare) {
+    QString name;
+    QString value;
+    QString bareCopy = bare;
+    return BuildAttribute(frame, name, value, false, bareCopy);
+}
+
+QString ReplaceInSelection(Frame& frame, const QString& text, const QString& find, const QString& replacement,
+                           Compare compare) {
+    QString result = text;
+    // An empty text would be found everywhere, for ever.
+    if (!find.isEmpty())
+        result.replace(find, replacement,
+                       compare == Compare::IgnoreCase ? Qt::CaseInsensitive : Qt::CaseSensitive);
+    if (Document* document = frame.ActiveForm())
+        document->txtInput().SetSelText(result);
+    else
+        // 91: there is no object to assign to, as programs of this kind have always numbered it.
+        frame.Ask().MsgBox(frame.Window(), QStringLiteral("Error - 91"), MsgButtons::OK, MsgIcon::Critical,
+                           QStringLiteral("The Tarnwick"));
+    frame.Ask().MsgBox(frame.Window(), QStringLiteral("Finished!"), MsgButtons::OK, MsgIcon::Information,
+                       QStringLiteral("The Tarnwick"));
+    return result;
+}

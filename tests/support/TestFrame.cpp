@@ -1,0 +1,72 @@
+// A frame without menus and strips, for tests of everything below the application.
+#include "support/TestFrame.h"
+
+#include "support/FreshUser.h"
+
+#include <QVBoxLayout>
+
+TestDocument::TestDocument(QWidget* parent) : QWidget(parent), input(new RichTextBox(this)) {
+    input->setObjectName(QStringLiteral("txtInput"));
+    auto* layout = new QVBoxLayout(this);
+    layout->addWidget(input);
+    Timer1.setSingleShot(true);
+    Timer1.setInterval(1150);
+    connect(input, &RichTextBox::Change, this, [this] { modified = true; });
+}
+
+TestDocument::~TestDocument() = default;
+
+bool TestDocument::Unload() {
+    deleteLater();
+    return true;
+}
+
+TestFrame::TestFrame() {
+    FreshUser();
+    settings = std::make_unique<Settings>();
+    window = std::make_unique<QWidget>();
+    window->resize(800, 600);
+    window->show();
+    forms = std::make_unique<Forms>();
+    TestFrame::NewDocument();
+}
+
+TestFrame::~TestFrame() {
+    // Documents and dialogs are the window's children: they go before the list that they leave.
+    window.reset();
+}
+
+void TestFrame::NewDocument() {
+    active = new TestDocument(window.get());
+    active->setObjectName(QStringLiteral("frmTemplate"));
+    active->setGeometry(0, 0, 800, 600);
+    active->show();
+    forms->Add(active);
+    active->input->SetFocus();
+}
+
+void TestFrame::SetStatusPanel(const QString& text, bool) {
+    statuses << text;
+}
+
+QAction* TestFrame::MenuEntry(const QString& name) {
+    return window->findChild<QAction*>(name);
+}
+
+void TestFrame::AddDocumentTab(const QString& path, const QString& caption) {
+    if (tabs.contains(path))
+        return;
+    tabs << path;
+    tabCaptions << caption;
+}
+
+void TestFrame::SetText(const QString& text) {
+    Box().SetText(text);
+    Box().SetSelStart(static_cast<int>(text.size()));
+    active->modified = false;
+}
+
+void TestFrame::CloseDocument() {
+    delete active;
+    active = nullptr;
+}

@@ -1,0 +1,87 @@
+// A frame without menus and strips, for tests of everything below the application.
+#pragma once
+
+#include "editor/Commands.h"
+#include "editor/Document.h"
+#include "editor/Forms.h"
+#include "editor/Frame.h"
+#include "platform/RichTextBox.h"
+#include "platform/Settings.h"
+#include "support/ScriptedPrompts.h"
+#include "support/Text.h"
+
+#include <memory>
+#include <QAction>
+#include <QPoint>
+#include <QStringList>
+#include <QTimer>
+#include <QWidget>
+#include <vector>
+
+/// A document window that is nothing but its text control.
+class TestDocument final : public QWidget, public Document {
+    Q_OBJECT
+
+  public:
+    explicit TestDocument(QWidget* parent);
+    ~TestDocument() override;
+
+    QString Caption() const override { return caption; }
+    void SetCaption(const QString& path) override { caption = path; }
+    bool Modified() const override { return modified; }
+    void SetModified(bool value) override { modified = value; }
+    RichTextBox& txtInput() override { return *input; }
+    QWidget& Window() override { return *this; }
+    bool Unload() override;
+
+    QString caption;
+    bool modified = false;
+    RichTextBox* input;
+    QTimer Timer1;
+};
+
+/// Starts with one open document, active. Every call that goes to the application is recorded.
+class TestFrame : public Frame {
+  public:
+    /// Empties the settings of the user before anything reads them.
+    TestFrame();
+    ~TestFrame() override;
+
+    Document* ActiveForm() override { return active; }
+    QWidget* Window() override { return window.get(); }
+    Forms& LoadedForms() override { return *forms; }
+    Settings& Store() override { return *settings; }
+    Prompts& Ask() override { return prompts; }
+    CommandSet& Commands() override { return commands; }
+    void NewDocument() override;
+    void OpenDocumentFile(const QString& path) override { opened << path; }
+    void SaveActiveDocument() override { ++saves; }
+    void PreviewInBrowser(const QString& path) override { previewed << path; }
+    void SetStatusPanel(const QString& text, bool now) override;
+    QAction* MenuEntry(const QString& name) override;
+    void AddDocumentTab(const QString& path, const QString& caption) override;
+    void RemoveDocumentTab(const QString& path) override { tabs.removeAll(path); }
+    void SelectDocumentTab(const QString& path) override { selectedTabs << path; }
+    void PopUpEditMenu(QPoint at) override { popUps.push_back(at); }
+    void SelectModeTab(const QString& caption) override { modeTabs << caption; }
+
+    /// The active document's control.
+    RichTextBox& Box() { return active->txtInput(); }
+    /// Puts a text into the active document, plain, caret at its end.
+    void SetText(const QString& text);
+    /// Closes the active document: there is none afterwards.
+    void CloseDocument();
+
+    ScriptedPrompts prompts;
+    CommandSet commands;
+    std::unique_ptr<QWidget> window;
+    std::unique_ptr<Forms> forms;
+    std::unique_ptr<Settings> settings;
+    TestDocument* active = nullptr;
+
+    QStringList opened, previewed, statuses, selectedTabs, modeTabs;
+    /// The paths of the document tabs, and their captions in the same order of adding.
+    QStringList tabs, tabCaptions;
+    std::vector<QPoint> popUps;
+    int saves = 0;
+};
