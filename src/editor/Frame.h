@@ -21,6 +21,8 @@ class Frame {
 
     /// The active document, or null with none open. It stays the active one while a dialog has the focus.
     virtual Document* ActiveForm() = 0;
+    /// Makes an open document the active one.
+    virtual void ActivateDocument(Document& document) = 0;
     /// The window that owns dialogs.
     virtual QWidget* Window() = 0;
     virtual Forms& LoadedForms() = 0;

@@ -48,6 +48,7 @@ class TestFrame : public Frame {
     ~TestFrame() override;
 
     Document* ActiveForm() override { return active; }
+    void ActivateDocument(Document& document) override { active = dynamic_cast<TestDocument*>(&document); }
     QWidget* Window() override { return window.get(); }
     Forms& LoadedForms() override { return *forms; }
     Settings& Store() override { return *settings; }
