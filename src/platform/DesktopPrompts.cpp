@@ -1,0 +1,227 @@
+// The prompts that a person sees: the desktop's own dialogs.
+#include "platform/DesktopPrompts.h"
+
+#include "platform/Cp1252.h"
+#include "platform/FileFilters.h"
+#include "platform/Path.h"
+
+#include <algorithm>
+#include <QApplication>
+#include <QCloseEvent>
+#include <QColorDialog>
+#include <QDir>
+#include <QFileDialog>
+#include <QGridLayout>
+#include <QInputDialog>
+#include <QKeyEvent>
+#include <QMessageBox>
+#include <QPointer>
+#include <QUrl>
+#include <utility>
+
+namespace {
+
+constexpr int PanelSide = 200;
+constexpr int CustomColorCount = 16;
+
+/// A message box. Where it offers no way out, neither Esc nor the window's close button may pick an answer.
+class Box final : public QMessageBox {
+  public:
+    using QMessageBox::QMessageBox;
+
+    bool mustAnswer = false;
+
+  protected:
+    void keyPressEvent(QKeyEvent* event) override {
+        if (mustAnswer && event->matches(QKeySequence::Cancel))
+            return;
+        QMessageBox::keyPressEvent(event);
+    }
+    void closeEvent(QCloseEvent* event) override {
+        if (mustAnswer)
+            event->ignore();
+        else
+            QMessageBox::closeEvent(event);
+    }
+};
+
+QMessageBox::StandardButtons Standard(MsgButtons buttons) {
+    switch (buttons) {
+    case MsgButtons::OKCancel:
+        return QMessageBox::Ok | QMessageBox::Cancel;
+    case MsgButtons::YesNo:
+        return QMessageBox::Yes | QMessageBox::No;
+    case MsgButtons::YesNoCancel:
+        return QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel;
+    case MsgButtons::OK:
+        break;
+    }
+    return QMessageBox::Ok;
+}
+
+QMessageBox::StandardButton First(MsgButtons buttons) {
+    return buttons == MsgButtons::OK || buttons == MsgButtons::OKCancel ? QMessageBox::Ok : QMessageBox::Yes;
+}
+
+QMessageBox::Icon Standard(MsgIcon icon) {
+    switch (icon) {
+    case MsgIcon::Critical:
+        return QMessageBox::Critical;
+    case MsgIcon::Question:
+        return QMessageBox::Question;
+    case MsgIcon::Exclamation:
+        return QMessageBox::Warning;
+    case MsgIcon::Information:
+        return QMessageBox::Information;
+    case MsgIcon::None:
+        break;
+    }
+    return QMessageBox::NoIcon;
+}
+
+MsgAnswer Answer(int button) {
+    switch (button) {
+    case QMessageBox::Ok:
+        return MsgAnswer::OK;
+    case QMessageBox::Yes:
+        return MsgAnswer::Yes;
+    case QMessageBox::No:
+        return MsgAnswer::No;
+    default:
+        return MsgAnswer::Cancel;
+    }
+}
+
+/// A panel that a dialog borrows; going out of scope gives it back to the parent it had.
+class BorrowedPanel {
+  public:
+    BorrowedPanel(QFileDialog& dialog, QWidget& panel)
+        : panel_(&panel), parent_(panel.parentWidget()), wasVisible_(panel.isVisible()) {
+        auto* grid = qobject_cast<QGridLayout*>(dialog.layout());
+        if (!grid)
+            return;
+        panel.setFixedSize(PanelSide, PanelSide);
+        // Qt's own dialog has its look-in line in row 0, the file list in row 1 and the name fields below.
+        grid->addWidget(&panel, 1, grid->columnCount(), Qt::AlignTop);
+        panel.show();
+    }
+    ~BorrowedPanel() {
+        if (!panel_)
+            return;
+        panel_->setParent(parent_);
+        panel_->setVisible(wasVisible_ && parent_);
+    }
+    BorrowedPanel(const BorrowedPanel&) = delete;
+    BorrowedPanel& operator=(const BorrowedPanel&) = delete;
+
+  private:
+    QPointer<QWidget> panel_;
+    QPointer<QWidget> parent_;
+    bool wasVisible_;
+};
+
+void SetUpFilters(QFileDialog& dialog, const FileRequest& request) {
+    const QStringList filters = NameFilters(request.filter);
+    if (filters.isEmpty())
+        return;
+    dialog.setNameFilters(filters);
+    const qsizetype index = std::clamp<qsizetype>(request.filterIndex, 1, filters.size());
+    dialog.selectNameFilter(filters[index - 1]);
+}
+
+FileAnswer AnswerOf(const QFileDialog& dialog) {
+    FileAnswer answer;
+    for (const QString& file : dialog.selectedFiles()) {
+        const QString path = QDir::toNativeSeparators(file);
+        if (answer.folder.isEmpty())
+            answer.folder = Path::Folder(path);
+        answer.names += Path::FileName(path);
+    }
+    return answer;
+}
+
+FileAnswer Run(QFileDialog& dialog, const FileRequest& request) {
+    // The names of the filters tell their patterns already. (Asked for first: setting filters looks at it.)
+    dialog.setOption(QFileDialog::HideNameFilterDetails);
+    dialog.setOption(QFileDialog::DontUseNativeDialog, request.panel != nullptr);
+    if (!request.folder.isEmpty())
+        dialog.setDirectory(request.folder);
+    SetUpFilters(dialog, request);
+    if (!request.fileName.isEmpty())
+        dialog.selectFile(request.fileName);
+    if (request.selectionChanged)
+        QObject::connect(&dialog, &QFileDialog::currentChanged, &dialog,
+                         [&request](const QString& path) { request.selectionChanged(path); });
+    std::optional<BorrowedPanel> panel;
+    if (request.panel)
+        panel.emplace(dialog, *request.panel);
+    return dialog.exec() == QDialog::Accepted ? AnswerOf(dialog) : FileAnswer();
+}
+
+} // namespace
+
+MsgAnswer DesktopPrompts::MsgBox(QWidget* owner, const QString& text, MsgButtons buttons, MsgIcon icon,
+                                 const QString& title) {
+    Box box(owner);
+    box.setWindowTitle(title);
+    box.setTextFormat(Qt::PlainText);
+    box.setText(QString(text).replace(QStringLiteral("\r\n"), QStringLiteral("\n")));
+    box.setIcon(Standard(icon));
+    box.setStandardButtons(Standard(buttons));
+    box.setDefaultButton(First(buttons));
+    box.mustAnswer = buttons == MsgButtons::YesNo;
+    return Answer(box.exec());
+}
+
+QString DesktopPrompts::InputBox(QWidget* owner, const QString& prompt, const QString& title,
+                                 const QString& standard) {
+    QInputDialog dialog(owner);
+    dialog.setInputMode(QInputDialog::TextInput);
+    dialog.setWindowTitle(title);
+    dialog.setLabelText(QString(prompt).replace(QStringLiteral("\r\n"), QStringLiteral("\n")));
+    dialog.setTextValue(standard);
+    return dialog.exec() == QDialog::Accepted ? Cp1252::Accept(dialog.textValue()) : QString();
+}
+
+std::optional<ColorNumber> DesktopPrompts::ChooseColor(QWidget* owner, QByteArray& customColors) {
+    customColors.resize(4 * CustomColorCount, '\0');
+    const auto part = [&](int index) { return static_cast<unsigned char>(customColors[index]); };
+    for (int i = 0; i < std::min(CustomColorCount, QColorDialog::customCount()); ++i)
+        QColorDialog::setCustomColor(i, QColor(part(4 * i), part(4 * i + 1), part(4 * i + 2)));
+    QColorDialog dialog(Qt::black, owner);
+    if (dialog.exec() != QDialog::Accepted)
+        return std::nullopt;
+    for (int i = 0; i < std::min(CustomColorCount, QColorDialog::customCount()); ++i) {
+        const QColor color = QColorDialog::customColor(i);
+        customColors[4 * i] = static_cast<char>(color.red());
+        customColors[4 * i + 1] = static_cast<char>(color.green());
+        customColors[4 * i + 2] = static_cast<char>(color.blue());
+        customColors[4 * i + 3] = '\0';
+    }
+    const QColor chosen = dialog.selectedColor();
+    return chosen.red() | chosen.green() << 8 | chosen.blue() << 16;
+}
+
+FileAnswer DesktopPrompts::OpenFile(QWidget* owner, const FileRequest& request) {
+    QFileDialog dialog(owner);
+    dialog.setAcceptMode(QFileDialog::AcceptOpen);
+    if (request.multiSelect)
+        dialog.setFileMode(QFileDialog::ExistingFiles);
+    else
+        dialog.setFileMode(request.mustExist ? QFileDialog::ExistingFile : QFileDialog::AnyFile);
+    return Run(dialog, request);
+}
+
+FileAnswer DesktopPrompts::SaveFile(QWidget* owner, const FileRequest& request) {
+    QFileDialog dialog(owner);
+    dialog.setAcceptMode(QFileDialog::AcceptSave);
+    dialog.setFileMode(QFileDialog::AnyFile);
+    // Whether to overwrite is the program's own question.
+    dialog.setOption(QFileDialog::DontConfirmOverwrite);
+    dialog.setDefaultSuffix(request.defaultExtension);
+    return Run(dialog, request);
+}
+
+void DesktopPrompts::Beep() {
+    QApplication::beep();
+}
