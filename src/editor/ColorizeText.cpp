@@ -30,8 +30,8 @@ void Write(Frame& frame, QStringView piece, const QString& colorWord) {
 }
 
 /// Writes the tags and what stands between them. Positions count from 1, as the rules below are told; last is
-/// where the last tag written ends, 0 before the first tag and after an unclosed "<". Returns false where the text
-/// holds no "<" at all and the caller kept the document.
+/// where the last tag written ends, 0 before the first tag and after an unclosed "<". Returns false where the
+/// text holds no "<" at all and the caller kept the document.
 bool WriteTags(Frame& frame, const QString& text, bool keepDocument, qsizetype& last) {
     bool first = keepDocument;
     qsizetype pos = 1;

@@ -1,13 +1,13 @@
 // The commands of menus, toolbar and buttons by name, and what each does.
 #pragma once
 
+#include <functional>
 #include <QHash>
 #include <QString>
 #include <QStringList>
-#include <functional>
 
-/// A command set (FileCommands, MenuTagCommands, …) fills rows; the menu and the toolbar look them up by the name of
-/// their entry ("mnuBold", "tb_bold"). An entry without a row is disabled.
+/// A command set (FileCommands, MenuTagCommands, …) fills rows; the menu and the toolbar look them up by the
+/// name of their entry ("mnuBold", "tb_bold"). An entry without a row is disabled.
 class CommandSet {
   public:
     using Handler = std::function<void()>;

@@ -1,15 +1,15 @@
 // Program-wide values of the source editor.
 #pragma once
 
-#include <QString>
 #include <array>
+#include <QString>
 
 struct EditorState {
-    /// The colour table: entries of an RTF \colortbl, slot 0 text, 1 tags, 2 links, 3 images, 4 embedded objects,
-    /// 5 comments. The settings call them EdTextColor0 to 5; this is that array.
+    /// The colour table: entries of an RTF \colortbl, slot 0 text, 1 tags, 2 links, 3 images, 4 embedded
+    /// objects, 5 comments. The settings call them EdTextColor0 to 5; this is that array.
     std::array<QString, 6> ColorTable{
-        QStringLiteral("\\red0\\green0\\blue0"),   QStringLiteral("\\red0\\green0\\blue255"),
-        QStringLiteral("\\red0\\green128\\blue0"), QStringLiteral("\\red255\\green0\\blue0"),
+        QStringLiteral("\\red0\\green0\\blue0"),     QStringLiteral("\\red0\\green0\\blue255"),
+        QStringLiteral("\\red0\\green128\\blue0"),   QStringLiteral("\\red255\\green0\\blue0"),
         QStringLiteral("\\red255\\green127\\blue0"), QStringLiteral("\\red128\\green128\\blue128"),
     };
     /// The coloured pieces gathered so far, shared by all document windows.

@@ -20,7 +20,8 @@ void Forms::Add(QWidget* form) {
 }
 
 QWidget* Forms::Find(const QString& name) const {
-    const auto found = std::ranges::find_if(forms_, [&](QWidget* form) { return form->objectName() == name; });
+    const auto found =
+        std::ranges::find_if(forms_, [&](QWidget* form) { return form->objectName() == name; });
     return found == forms_.end() ? nullptr : *found;
 }
 
@@ -29,7 +30,8 @@ void Forms::Unload(const QString& name) {
     if (!form)
         return;
     form->hide();
-    // It leaves the list at once, so that showing it again makes a new one; its handlers may still be running.
+    // It leaves the list at once, so that showing it again makes a new one; its handlers may still be
+    // running.
     std::erase(forms_, form);
     form->setObjectName(QString());
     form->deleteLater();

@@ -1,8 +1,8 @@
 // The main frame as everything below the application sees it.
 #pragma once
 
-#include <QString>
 #include <memory>
+#include <QString>
 #include <typeindex>
 #include <unordered_map>
 
@@ -44,8 +44,8 @@ class Frame {
     virtual void SetStatusPanel(const QString& text, bool now = false) = 0;
     /// The entry of the menus of that name ("mnuFileArray_0", "mEdit_3"), or null where there is none.
     virtual QAction* MenuEntry(const QString& name) = 0;
-    /// Puts a tab at the end of the document tabs: its key and Tag are the path. A path that has a tab keeps the one
-    /// it has: a key stands once.
+    /// Puts a tab at the end of the document tabs: its key and Tag are the path. A path that has a tab keeps
+    /// the one it has: a key stands once.
     virtual void AddDocumentTab(const QString& path, const QString& caption) = 0;
     /// Takes the tab of that key away; does nothing where there is none.
     virtual void RemoveDocumentTab(const QString& path) = 0;
@@ -56,7 +56,8 @@ class Frame {
     /// Selects a tab of the mode strip by its caption, "Edit", "Design" or "View".
     virtual void SelectModeTab(const QString& caption) = 0;
 
-    /// The one value of type T that belongs to this frame, made at first use: program-wide state, one struct a folder.
+    /// The one value of type T that belongs to this frame, made at first use: program-wide state, one struct
+    /// a folder.
     template <typename T> T& State() {
         auto& slot = states_[std::type_index(typeid(T))];
         if (!slot)

@@ -5,15 +5,17 @@
 
 class Frame;
 
-/// Wraps the selection of the active document in two strings, coloured, and leaves the caret before close. Without
-/// keepCase both are lowered first when LowerCaseTags is 1. Both may come back changed: lowered, "\par " for CR LF.
+/// Wraps the selection of the active document in two strings, coloured, and leaves the caret before close.
+/// Without keepCase both are lowered first when LowerCaseTags is 1. Both may come back changed: lowered,
+/// "\par " for CR LF.
 void InsertTag(Frame& frame, QString& open, QString& close, bool keepCase);
 
 /// The same for callers that need nothing back.
 void InsertTag(Frame& frame, const QString& open, const QString& close, bool keepCase);
 
-/// One attribute of a tag. bare alone gives bare; an empty value gives nothing; else ` NAME="value"` or ` NAME=value`.
-/// With LowerCaseTags at 1 name and bare are lowered in place; a quoted value gets its quotes in place.
+/// One attribute of a tag. bare alone gives bare; an empty value gives nothing; else ` NAME="value"` or `
+/// NAME=value`. With LowerCaseTags at 1 name and bare are lowered in place; a quoted value gets its quotes in
+/// place.
 QString BuildAttribute(Frame& frame, QString& name, QString& value, bool quoted, QString& bare);
 
 /// The same for callers that need nothing back.
@@ -22,7 +24,7 @@ QString BuildBare(Frame& frame, const QString& bare);
 
 enum class Compare { Exact = 0, IgnoreCase = 1 };
 
-/// Replaces every find in text, assigns the result to the active document's SelText, uncoloured, and says "Finished!".
-/// An empty find changes nothing. Returns the new text.
+/// Replaces every find in text, assigns the result to the active document's SelText, uncoloured, and says
+/// "Finished!". An empty find changes nothing. Returns the new text.
 QString ReplaceInSelection(Frame& frame, const QString& text, const QString& find, const QString& replacement,
                            Compare compare = Compare::Exact);

@@ -77,7 +77,7 @@ class RichTextBox : public QsciScintillaBase {
     ColorNumber SelColor() const;
     void SetSelColor(ColorNumber color);
     /// Replaces the selection by the text and colours of an RTF text (RtfReader); the caret stands behind it.
-    void SetSelRTF(const QString& rtf);
+    virtual void SetSelRTF(const QString& rtf);
 
     /// How raw line ends in RTF are taken: by default as the system's own text files ask.
     RawLineEnds RawLineEndMode() const { return rawLineEnds_; }

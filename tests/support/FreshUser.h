@@ -3,8 +3,8 @@
 
 #include <QString>
 
-/// Empties the test's own configuration folder and program folder. Main.cpp set them up at start, below a temporary
-/// folder that goes with the process; no test ever sees the settings of the person who runs it.
+/// Empties the test's own configuration folder and program folder. Main.cpp set them up at start, below a
+/// temporary folder that goes with the process; no test ever sees the settings of the person who runs it.
 void FreshUser();
 
 /// A temporary folder of this test process, made empty by FreshUser; without a separator at its end.

@@ -17,8 +17,8 @@ struct Asked {
     FileRequest request;
 };
 
-/// Answers come from queues, in order; a prompt with no answer left fails the test and is answered as Cancel (an OK box
-/// needs no answer). Every prompt is recorded in asked.
+/// Answers come from queues, in order; a prompt with no answer left fails the test and is answered as Cancel
+/// (an OK box needs no answer). Every prompt is recorded in asked.
 class ScriptedPrompts final : public Prompts {
   public:
     std::deque<MsgAnswer> messageAnswers;

@@ -5,7 +5,7 @@
 
 #include <QVBoxLayout>
 
-TestDocument::TestDocument(QWidget* parent) : QWidget(parent), input(new RichTextBox(this)) {
+TestDocument::TestDocument(QWidget* parent) : QWidget(parent), input(new RecordingBox(this)) {
     input->setObjectName(QStringLiteral("txtInput"));
     auto* layout = new QVBoxLayout(this);
     layout->addWidget(input);
@@ -64,6 +64,18 @@ void TestFrame::SetText(const QString& text) {
     Box().SetText(text);
     Box().SetSelStart(static_cast<int>(text.size()));
     active->modified = false;
+}
+
+std::vector<std::pair<QString, int>> TestFrame::Colors() {
+    std::vector<std::pair<QString, int>> stretches;
+    const QString text = Box().Text();
+    for (int i = 0; i < text.size(); ++i) {
+        const int color = Box().ColorAt(i);
+        if (stretches.empty() || stretches.back().second != color)
+            stretches.emplace_back(QString(), color);
+        stretches.back().first += text[i];
+    }
+    return stretches;
 }
 
 void TestFrame::CloseDocument() {

@@ -18,6 +18,22 @@
 #include <QWidget>
 #include <vector>
 
+/// A text control that keeps every RTF stream it was given.
+class RecordingBox final : public RichTextBox {
+    Q_OBJECT
+
+  public:
+    using RichTextBox::RichTextBox;
+    void SetSelRTF(const QString& rtf) override {
+        enabledDuringWrite = Enabled();
+        streams << rtf;
+        RichTextBox::SetSelRTF(rtf);
+    }
+
+    QStringList streams;
+    bool enabledDuringWrite = true;
+};
+
 /// A document window that is nothing but its text control.
 class TestDocument final : public QWidget, public Document {
     Q_OBJECT
@@ -36,7 +52,7 @@ class TestDocument final : public QWidget, public Document {
 
     QString caption;
     bool modified = false;
-    RichTextBox* input;
+    RecordingBox* input;
     QTimer Timer1;
 };
 
@@ -67,7 +83,9 @@ class TestFrame : public Frame {
     void SelectModeTab(const QString& caption) override { modeTabs << caption; }
 
     /// The active document's control.
-    RichTextBox& Box() { return active->txtInput(); }
+    RecordingBox& Box() { return *active->input; }
+    /// The colours of the active document's text, one stretch a row: text and colour number.
+    std::vector<std::pair<QString, int>> Colors();
     /// Puts a text into the active document, plain, caret at its end.
     void SetText(const QString& text);
     /// Closes the active document: there is none afterwards.

@@ -1,0 +1,162 @@
+// The colouring pass: the exact streams, every oddity of the scan, and the off state.
+#include "editor/ColorizeText.h"
+
+#include "editor/EditorState.h"
+#include "support/TestFrame.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+const QString header =
+    QStringLiteral("{{\\colortbl ;\\red0\\green0\\blue0;\\red0\\green0\\blue255;\\red0\\green128\\blue0;"
+                   "\\red255\\green0\\blue0;\\red255\\green127\\blue0;\\red128\\green128\\blue128;}");
+
+struct StreamRow {
+    const char* name;
+    const char* text;
+    const char* stream;   ///< behind the header
+    const char* document; ///< what stands in the control
+};
+
+class StreamTest : public testing::TestWithParam<StreamRow> {};
+
+TEST_P(StreamTest, OneAssignment) {
+    TestFrame frame;
+    frame.SetText(QStringLiteral("old"));
+    QString text = QString::fromLatin1(GetParam().text);
+    bool keepDocument = false;
+    ColorizeText(frame, text, keepDocument, false);
+    EXPECT_EQ(frame.Box().streams, QStringList{header + QString::fromLatin1(GetParam().stream)});
+    EXPECT_EQ(frame.Box().Text(), QString::fromLatin1(GetParam().document));
+    EXPECT_EQ(frame.Box().SelStart(), frame.Box().TextLength());
+    EXPECT_TRUE(frame.State<EditorState>().RtfFlushNow);
+    EXPECT_TRUE(frame.State<EditorState>().RtfBuffer.isEmpty());
+    EXPECT_FALSE(frame.Box().enabledDuringWrite);
+    EXPECT_TRUE(frame.Box().Enabled());
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Rows, StreamTest,
+    testing::Values(
+        StreamRow{"worked", "<B>x</B>", "\\cf1 \\cf2 <B>\\cf1 x\\cf2 </B>\\cf1 }", "<B>x</B>"},
+        StreamRow{"empty", "", "\\cf1 }", ""}, StreamRow{"plain", "abc", "\\cf1 abc}", "abc"},
+        StreamRow{"inner_open", "<a <b>c", "\\cf1 \\cf2 <a <b>\\cf1 c}", "<a <b>c"},
+        StreamRow{"comment_ends_at_first_close", "<!-- a > b -->", "\\cf1 \\cf6 <!-- a >\\cf1  b -->}",
+                  "<!-- a > b -->"},
+        StreamRow{"quotes_are_not_seen", "<a title=\">\">", "\\cf1 \\cf2 <a title=\">\\cf1 \">}",
+                  "<a title=\">\">"},
+        StreamRow{"lone_close", "a > b<I>", "\\cf1 a > b\\cf2 <I>\\cf1 }", "a > b<I>"},
+        StreamRow{"leading_close", "><B>", "\\cf1 >\\cf2 <B>\\cf1 }", "><B>"},
+        StreamRow{"unclosed_doubles", "x<p>1 < 2", "\\cf1 x\\cf2 <p>\\cf1 x<p>1 < 2}", "x<p>x<p>1 < 2"},
+        StreamRow{"first_unclosed_stands_once", "1 < 2", "\\cf1 1 < 2}", "1 < 2"},
+        StreamRow{"between_is_dropped", "<B>a < b", "\\cf1 \\cf2 <B>\\cf1 <B>a < b}", "<B><B>a < b"},
+        StreamRow{"escapes", "a\\b{c}<B>", "\\cf1 a\\\\b\\{c\\}\\cf2 <B>\\cf1 }", "a\\b{c}<B>"},
+        StreamRow{"line_ends", "a\r\n<B>\r\n", "\\cf1 a\\par \\cf2 <B>\\cf1 \\par }", "a\r\n<B>\r\n"},
+        StreamRow{"neighbours", "<B><I>", "\\cf1 \\cf2 <B>\\cf1 \\cf2 <I>\\cf1 }", "<B><I>"},
+        StreamRow{"open_touching_close", "<a<>b", "\\cf1 \\cf2 <a<>\\cf1 b}", "<a<>b"},
+        StreamRow{"link_and_image", "<A HREF=x><IMG SRC=y></A>",
+                  "\\cf1 \\cf3 <A HREF=x>\\cf1 \\cf4 <IMG SRC=y>\\cf1 \\cf3 </A>\\cf1 }",
+                  "<A HREF=x><IMG SRC=y></A>"}),
+    [](const auto& info) { return std::string(info.param.name); });
+
+class ColorizeTextTest : public testing::Test {
+  protected:
+    TestFrame frame;
+};
+
+TEST_F(ColorizeTextTest, WithoutATagTheKeptDocumentGetsOnePieceAndKeepDocumentComesBackFalse) {
+    frame.SetText(QStringLiteral("[]"));
+    frame.Box().SetSelStart(1);
+    QString text = QStringLiteral("a{b");
+    bool keepDocument = true;
+    ColorizeText(frame, text, keepDocument, true);
+    EXPECT_FALSE(keepDocument);
+    EXPECT_EQ(text, QStringLiteral("a\\{b"));
+    EXPECT_EQ(frame.Box().streams, QStringList{header + QStringLiteral("\\cf1 a\\{b}")});
+    EXPECT_EQ(frame.Box().Text(), QStringLiteral("[a{b]"));
+    EXPECT_EQ(frame.Box().SelStart(), 4) << "caretToTop has no effect without a tag";
+    EXPECT_FALSE(frame.Box().enabledDuringWrite);
+    EXPECT_TRUE(frame.Box().Enabled());
+}
+
+TEST_F(ColorizeTextTest, AnEmptyKeptTextWritesTheWordAlone) {
+    ColorizeText(frame, QString(), true, false);
+    EXPECT_EQ(frame.Box().streams, QStringList{header + QStringLiteral("\\cf1 }")});
+}
+
+TEST_F(ColorizeTextTest, AKeptDocumentIsWrittenAtItsSelection) {
+    frame.SetText(QStringLiteral("abcd"));
+    frame.Box().SetSelStart(1);
+    frame.Box().SetSelLength(2);
+    QString text = QStringLiteral("<B>");
+    bool keepDocument = true;
+    ColorizeText(frame, text, keepDocument, false);
+    EXPECT_TRUE(keepDocument);
+    EXPECT_EQ(frame.Box().Text(), QStringLiteral("a<B>d"));
+    EXPECT_EQ(frame.Box().SelStart(), 4) << "behind the inserted text";
+}
+
+TEST_F(ColorizeTextTest, CaretToTop) {
+    for (const char* text : {"<B>x", "abc", "x<p>1 < 2"}) {
+        ColorizeText(frame, QString::fromLatin1(text), false, true);
+        EXPECT_EQ(frame.Box().SelStart(), 0) << text;
+    }
+}
+
+TEST_F(ColorizeTextTest, TagsStandInTheirColors) {
+    ColorizeText(frame, QStringLiteral("t<B><A HREF=x><IMG><EMBED><!-- c -->"), false, false);
+    const std::vector<std::pair<QString, int>> expected = {{QStringLiteral("t"), 0},
+                                                           {QStringLiteral("<B>"), 16711680},
+                                                           {QStringLiteral("<A HREF=x>"), 32768},
+                                                           {QStringLiteral("<IMG>"), 255},
+                                                           {QStringLiteral("<EMBED>"), 32767},
+                                                           {QStringLiteral("<!-- c -->"), 8421504}};
+    EXPECT_EQ(frame.Colors(), expected);
+}
+
+TEST_F(ColorizeTextTest, OneUndoStepBringsTheReplacedTextBack) {
+    frame.SetText(QStringLiteral("abc"));
+    frame.Box().SetSelStart(0);
+    frame.Box().SetSelLength(3);
+    ColorizeText(frame, QStringLiteral("<B>x</B>"), true, false);
+    frame.Box().Send(RichTextBox::Message::Undo);
+    EXPECT_EQ(frame.Box().Text(), QStringLiteral("abc"));
+}
+
+TEST_F(ColorizeTextTest, WithoutADocumentOnlyTheTextIsEscaped) {
+    frame.CloseDocument();
+    QString text = QStringLiteral("{<B>");
+    bool keepDocument = false;
+    ColorizeText(frame, text, keepDocument, true);
+    EXPECT_EQ(text, QStringLiteral("\\{<B>"));
+}
+
+struct OffRow {
+    const char* name;
+    bool keepDocument;
+    const char* text;
+    const char* document;
+};
+
+class OffStateTest : public testing::TestWithParam<OffRow> {};
+
+TEST_P(OffStateTest, EscapesAndTheLastWordAreTyped) {
+    TestFrame frame;
+    frame.Store().Write(Keys::ColoredTags, QStringLiteral("0"));
+    ColorizeText(frame, QString::fromLatin1(GetParam().text), GetParam().keepDocument, false);
+    EXPECT_EQ(frame.Box().Text(), QString::fromLatin1(GetParam().document));
+    EXPECT_TRUE(frame.Box().streams.isEmpty());
+    EXPECT_TRUE(frame.Box().Enabled());
+}
+
+INSTANTIATE_TEST_SUITE_P(Rows, OffStateTest,
+                         testing::Values(OffRow{"tags", true, "<B>x</B>", "<B>x</B>\\cf1 "},
+                                         OffRow{"tags_new", false, "<B>x</B>y", "<B>x</B>\\cf1 y"},
+                                         OffRow{"no_tag_kept", true, "a{b}\\", "a\\{b\\}\\\\"},
+                                         OffRow{"no_tag_new", false, "ab", "\\cf1 ab"},
+                                         OffRow{"line_ends", true, "a\r\n<B>\r\n", "a\r\n<B>\\cf1 \r\n"},
+                                         OffRow{"unclosed", true, "x<p>1 < 2", "x<p>\\cf1 x<p>1 < 2"}),
+                         [](const auto& info) { return std::string(info.param.name); });
+
+} // namespace

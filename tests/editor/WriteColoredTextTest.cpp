@@ -1,0 +1,177 @@
+// The colour words of tags, the escapes, and the exact stream that each write sends.
+#include "editor/WriteColoredText.h"
+
+#include "editor/EditorState.h"
+#include "support/TestFrame.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+const QString header =
+    QStringLiteral("{{\\colortbl ;\\red0\\green0\\blue0;\\red0\\green0\\blue255;\\red0\\green128\\blue0;"
+                   "\\red255\\green0\\blue0;\\red255\\green127\\blue0;\\red128\\green128\\blue128;}");
+
+struct TagRow {
+    const char* tag;
+    const char* word;
+};
+
+class TagColorCodeTest : public testing::TestWithParam<TagRow> {};
+
+TEST_P(TagColorCodeTest, FirstMatchingRowWins) {
+    const QString tag = QString::fromLatin1(GetParam().tag);
+    EXPECT_EQ(TagColorCode(tag), QString::fromLatin1(GetParam().word));
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Rows, TagColorCodeTest,
+    testing::Values(TagRow{"<B>", "\\cf2 "}, TagRow{"", "\\cf2 "},
+                    TagRow{"<EMBED SRC=\"meta.img\">", "\\cf5 "}, TagRow{"<IMG SRC=\"a.gif\">", "\\cf4 "},
+                    TagRow{"<img src=\"A.GIF\">", "\\cf4 "}, TagRow{"<A HREF=\"x.htm\">", "\\cf3 "},
+                    TagRow{"<A HREF=\"x.img\">", "\\cf4 "}, TagRow{"<META NAME=\"a\">", "\\cf6 "},
+                    TagRow{"<META HREF=\"a\">", "\\cf3 "}, TagRow{"<A NAME=\"top\">", "\\cf3 "},
+                    TagRow{"<A  NAME=\"top\">", "\\cf2 "}, TagRow{"<META><A NAME=x>", "\\cf6 "},
+                    TagRow{"</A>", "\\cf3 "}, TagRow{"</ADDRESS>", "\\cf3 "}, TagRow{"</applet>", "\\cf3 "},
+                    TagRow{"<!-- /a -->", "\\cf3 "}, TagRow{"<!-- x -->", "\\cf6 "},
+                    TagRow{"<!-- img -->", "\\cf4 "}, TagRow{"<!DOCTYPE html>", "\\cf2 "}));
+
+TEST(Escapes, EachTouchesItsOwnCharacterOnly) {
+    QString text = QStringLiteral("a\\b{c}d");
+    EscapeBackslashes(text);
+    EXPECT_EQ(text, QStringLiteral("a\\\\b{c}d"));
+    EscapeOpenBraces(text);
+    EXPECT_EQ(text, QStringLiteral("a\\\\b\\{c}d"));
+    EscapeCloseBraces(text);
+    EXPECT_EQ(text, QStringLiteral("a\\\\b\\{c\\}d"));
+}
+
+class WriteColoredTextTest : public testing::Test {
+  protected:
+    void Write(QString text, const char* word) {
+        WriteColoredText(frame, text, QString::fromLatin1(word), false);
+    }
+    TestFrame frame;
+    EditorState& state = frame.State<EditorState>();
+};
+
+TEST_F(WriteColoredTextTest, GathersUntilThePieceThatFlushes) {
+    Write(QStringLiteral("x"), "\\cf1 ");
+    EXPECT_EQ(state.RtfBuffer, QStringLiteral("\\cf1 x"));
+    EXPECT_EQ(frame.Box().Text(), QString());
+    EXPECT_FALSE(state.RtfFlushNow);
+    state.RtfFlushNow = true;
+    Write(QStringLiteral("<B>"), "\\cf2 ");
+    EXPECT_EQ(frame.Box().streams, QStringList{header + QStringLiteral("\\cf1 x\\cf2 <B>}")});
+    EXPECT_EQ(frame.Box().Text(), QStringLiteral("x<B>"));
+    EXPECT_TRUE(state.RtfBuffer.isEmpty());
+    EXPECT_TRUE(state.RtfFlushNow) << "the flush leaves it on";
+}
+
+TEST_F(WriteColoredTextTest, PairsOfCrLfBecomeParagraphsInTheCallersHands) {
+    QString text = QStringLiteral("a\r\nb\rc\nd\r\n");
+    WriteColoredText(frame, text, QStringLiteral("\\cf1 "), false);
+    EXPECT_EQ(text, QStringLiteral("a\\par b\rc\nd\\par "));
+}
+
+TEST_F(WriteColoredTextTest, ALoneLfVanishesWhereRawLineEndsAreSkippedAndStaysWhereTheyAreKept) {
+    state.RtfFlushNow = true;
+    const std::pair<RawLineEnds, const char*> rows[] = {{RawLineEnds::Skip, "ab\r\nc"},
+                                                        {RawLineEnds::Keep, "a\nb\r\nc"}};
+    for (const auto& [mode, expected] : rows) {
+        frame.SetText(QString());
+        frame.Box().SetRawLineEndMode(mode);
+        Write(QStringLiteral("a\nb\r\nc"), "\\cf1 ");
+        EXPECT_EQ(frame.Box().Text(), QString::fromLatin1(expected));
+    }
+}
+
+TEST_F(WriteColoredTextTest, ResetEmptiesTheBufferAndWritesNothing) {
+    frame.SetText(QStringLiteral("abc"));
+    frame.Box().SetSelStart(0);
+    frame.Box().SetSelLength(2);
+    state.RtfBuffer = QStringLiteral("rest");
+    QString text;
+    WriteColoredText(frame, text, QString(), true);
+    EXPECT_TRUE(state.RtfBuffer.isEmpty());
+    EXPECT_EQ(frame.Box().Text(), QStringLiteral("abc"));
+    EXPECT_TRUE(frame.Box().streams.isEmpty());
+}
+
+TEST_F(WriteColoredTextTest, ResetWithColoringOffDeletesTheSelection) {
+    frame.Store().Write(Keys::ColoredTags, QStringLiteral("0"));
+    frame.SetText(QStringLiteral("abc"));
+    frame.Box().SetSelStart(0);
+    frame.Box().SetSelLength(2);
+    state.RtfBuffer = QStringLiteral("rest");
+    QString text;
+    WriteColoredText(frame, text, QString(), true);
+    EXPECT_EQ(frame.Box().Text(), QStringLiteral("c"));
+    EXPECT_EQ(state.RtfBuffer, QStringLiteral("rest"));
+}
+
+TEST_F(WriteColoredTextTest, OffWritesTheTextPlainAndUnchanged) {
+    frame.Store().Write(Keys::ColoredTags, QStringLiteral("0"));
+    QString text = QStringLiteral("a\r\n{b}");
+    WriteColoredText(frame, text, QStringLiteral("\\cf4 "), false);
+    EXPECT_EQ(text, QStringLiteral("a\r\n{b}"));
+    EXPECT_EQ(frame.Box().Text(), QStringLiteral("a\r\n{b}"));
+    EXPECT_TRUE(frame.Box().streams.isEmpty());
+}
+
+TEST_F(WriteColoredTextTest, AnyNumberButZeroColors) {
+    state.RtfFlushNow = true;
+    const std::pair<const char*, bool> rows[] = {{"2", true},  {"1", true},  {"-1", true},
+                                                 {"0", false}, {"x", false}, {"", false}};
+    for (const auto& [stored, colored] : rows) {
+        frame.Store().Write(Keys::ColoredTags, QString::fromLatin1(stored));
+        frame.Box().streams.clear();
+        Write(QStringLiteral("<B>"), "\\cf2 ");
+        EXPECT_EQ(!frame.Box().streams.isEmpty(), colored) << stored;
+    }
+}
+
+TEST_F(WriteColoredTextTest, WhatIsTypedNextHasTheTextColor) {
+    frame.Store().Write(Keys::TextColor[0], QStringLiteral("12345"));
+    state.RtfFlushNow = true;
+    Write(QStringLiteral("<B>"), "\\cf2 ");
+    EXPECT_EQ(frame.Box().SelColor(), 12345);
+    EXPECT_EQ(frame.Box().ColorAt(0), 16711680);
+    frame.Box().SetSelText(QStringLiteral("x"));
+    EXPECT_EQ(frame.Box().ColorAt(3), 12345);
+}
+
+TEST_F(WriteColoredTextTest, TheTableIsReadAtEachWriteAndTextAlreadyThereKeepsItsColor) {
+    state.RtfFlushNow = true;
+    Write(QStringLiteral("<B>"), "\\cf2 ");
+    state.ColorTable[1] = QStringLiteral("\\red1\\green2\\blue3");
+    Write(QStringLiteral("<I>"), "\\cf2 ");
+    EXPECT_EQ(frame.Box().ColorAt(0), 16711680);
+    EXPECT_EQ(frame.Box().ColorAt(3), 1 + 2 * 256 + 3 * 65536);
+}
+
+TEST_F(WriteColoredTextTest, CharactersAbove127StandAsTheyAre) {
+    state.RtfFlushNow = true;
+    Write(QStringLiteral("\u00e4\u20ac\u2019"), "\\cf1 ");
+    EXPECT_EQ(frame.Box().streams.last(), header + QStringLiteral("\\cf1 \u00e4\u20ac\u2019}"));
+    EXPECT_EQ(frame.Box().Text(), QStringLiteral("\u00e4\u20ac\u2019"));
+}
+
+TEST_F(WriteColoredTextTest, WithoutADocumentNothingHappens) {
+    frame.CloseDocument();
+    state.RtfFlushNow = true;
+    QString text = QStringLiteral("a\r\n");
+    WriteColoredText(frame, text, QStringLiteral("\\cf1 "), false);
+    EXPECT_TRUE(state.RtfBuffer.isEmpty());
+    EXPECT_TRUE(frame.prompts.asked.isEmpty());
+}
+
+TEST_F(WriteColoredTextTest, TheControlHasTheFocusAfterAFlush) {
+    frame.Box().clearFocus();
+    ASSERT_NE(frame.Window()->focusWidget(), &frame.Box());
+    state.RtfFlushNow = true;
+    Write(QStringLiteral("a"), "\\cf1 ");
+    EXPECT_EQ(frame.Window()->focusWidget(), &frame.Box());
+}
+
+} // namespace
