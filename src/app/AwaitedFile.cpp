@@ -1,0 +1,82 @@
+// A file that could not be read when it was opened: its blank window waits for it.
+#include "app/AwaitedFile.h"
+
+#include "app/DocumentFiles.h"
+#include "app/OpenDocument.h"
+#include "editor/Document.h"
+#include "editor/Frame.h"
+
+#include <algorithm>
+#include <chrono>
+#include <QApplication>
+#include <QPointer>
+#include <QWidget>
+
+using namespace std::chrono_literals;
+
+namespace {
+
+constexpr auto firstInterval = 100ms;
+constexpr auto longestInterval = 2000ms;
+
+/// A question or a menu is up, which the user answers for the document that is active now.
+bool UserIsBusy() {
+    return QApplication::activeModalWidget() || QApplication::activePopupWidget();
+}
+
+} // namespace
+
+AwaitedFile::AwaitedFile(Frame& frame, Document& document, const QString& path)
+    : QObject(&document.Window()), frame_(frame), document_(document), frameWindow_(frame.Window()),
+      path_(path) {
+    timer_.setSingleShot(true);
+    timer_.setInterval(firstInterval);
+    connect(&timer_, &QTimer::timeout, this, &AwaitedFile::TryAgain);
+    timer_.start();
+    Announce();
+}
+
+AwaitedFile::~AwaitedFile() {
+    // Posted, so that it comes to nothing where the window goes because the frame itself does.
+    QMetaObject::invokeMethod(
+        frameWindow_, [&frame = frame_] { frame.SetStatusPanel(QString()); }, Qt::QueuedConnection);
+}
+
+void AwaitedFile::TryAgain() {
+    if (!document_.Caption().isEmpty() || IsLoaded(frame_, path_) || document_.Window().isHidden()) {
+        deleteLater();
+        return;
+    }
+    if (!UserIsBusy()) {
+        std::optional<QString> text = DocumentFiles::ReadUpToEndOfText(path_);
+        if (text) {
+            TakeIn(std::move(*text));
+            return;
+        }
+        if (frame_.ActiveForm() == &document_)
+            Announce();
+    }
+    timer_.setInterval(std::min(timer_.intervalAsDuration() * 2, std::chrono::milliseconds(longestInterval)));
+    timer_.start();
+}
+
+void AwaitedFile::TakeIn(QString text) {
+    Document* before = frame_.ActiveForm();
+    const QPointer<QWidget> focus = QApplication::focusWidget();
+    // What the user typed into the waiting window is in no file yet.
+    const bool modified = document_.Modified();
+    frame_.ActivateDocument(document_);
+    TakeInText(frame_, path_, std::move(text));
+    if (modified)
+        document_.SetModified(true);
+    if (before && before != &document_) {
+        frame_.ActivateDocument(*before);
+        if (focus)
+            focus->setFocus();
+    }
+    deleteLater();
+}
+
+void AwaitedFile::Announce() {
+    frame_.SetStatusPanel(QStringLiteral("Waiting for ") + path_);
+}

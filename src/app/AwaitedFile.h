@@ -1,0 +1,32 @@
+// A file that could not be read when it was opened: its blank window waits for it.
+#pragma once
+
+#include <QObject>
+#include <QString>
+#include <QTimer>
+
+class Document;
+class Frame;
+
+/// Lives as a child of the blank window and goes with it. Tries to read the file at growing intervals, up to
+/// two seconds, and takes the text into that window when it can be read; names the path in the status bar
+/// while its window is the active one. Gives up once the window has a path of its own, or the file was opened
+/// in another window.
+class AwaitedFile : public QObject {
+    Q_OBJECT
+
+  public:
+    AwaitedFile(Frame& frame, Document& document, const QString& path);
+    ~AwaitedFile() override;
+
+  private:
+    void TryAgain();
+    void TakeIn(QString text);
+    void Announce();
+
+    Frame& frame_;
+    Document& document_;
+    QWidget* frameWindow_;
+    QString path_;
+    QTimer timer_;
+};

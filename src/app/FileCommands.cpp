@@ -1,0 +1,122 @@
+// The File menu's commands on files, and Insert Contents.
+#include "app/FileCommands.h"
+
+#include "app/DocumentFiles.h"
+#include "app/OpenDocument.h"
+#include "app/RecentFiles.h"
+#include "builders/BuilderState.h"
+#include "editor/Commands.h"
+#include "editor/Document.h"
+#include "editor/Frame.h"
+#include "platform/Path.h"
+#include "platform/Prompts.h"
+#include "platform/RichTextBox.h"
+#include "platform/Settings.h"
+
+#include <QWidget>
+
+namespace {
+
+/// The HTML files of the filter are the ones shown at first.
+FileRequest DocumentRequest() {
+    FileRequest request;
+    request.filter = QStringLiteral("All Files (*.*)|*.*|"
+                                    "HTML Files (*.htm);(*.html);(*.shtml)|*.htm;*.html;*.shtml|"
+                                    "MS Files (*.htx);(*.asp);(*.idc)|*.htx;*.asp;*.idc|"
+                                    "Server Files (*.cgi);(*.pl)|*.cgi;*.pl|"
+                                    "Text Files (*.txt)|*.txt|");
+    request.filterIndex = 2;
+    return request;
+}
+
+bool MayOverwrite(Frame& frame, const QString& path) {
+    if (DocumentFiles::SizeToAskAbout(path) < 2)
+        return true;
+    return frame.Ask().MsgBox(frame.Window(), QStringLiteral("Overwrite File?"), MsgButtons::YesNo,
+                              MsgIcon::Question, QStringLiteral("Overwrite")) != MsgAnswer::No;
+}
+
+/// The file to save as; cancelled where the user wants none. A refused overwrite shows the dialog anew.
+FileAnswer AskWhereToSave(Frame& frame) {
+    FileRequest request = DocumentRequest();
+    while (true) {
+        request.defaultExtension =
+            frame.Store().ReadFlag(Keys::UseHTM) ? QStringLiteral("htm") : QStringLiteral("html");
+        request.folder = frame.State<BuilderState>().LastDir;
+        FileAnswer answer = frame.Ask().SaveFile(frame.Window(), request);
+        if (answer.Cancelled() || answer.names.first().isEmpty())
+            return {};
+        if (MayOverwrite(frame, answer.folder + answer.names.first()))
+            return answer;
+    }
+}
+
+void mnuClose_Click(Frame& frame) {
+    if (Document* document = frame.ActiveForm())
+        document->Unload();
+}
+
+} // namespace
+
+void FillFileCommands(Frame& frame) {
+    CommandSet& commands = frame.Commands();
+    commands.Set(QStringLiteral("mnuOpen"), [&frame] { mnuOpen_Click(frame); });
+    commands.Set(QStringLiteral("mnuSave"), [&frame] { mnuSave_Click(frame); });
+    commands.Set(QStringLiteral("mnuSaveAs"), [&frame] { mnuSaveAs_Click(frame); });
+    commands.Set(QStringLiteral("mnuClose"), [&frame] { mnuClose_Click(frame); });
+    commands.Set(QStringLiteral("mnuExit"), [&frame] { frame.Window()->close(); });
+    commands.Set(QStringLiteral("mnuInsertContents"), [&frame] { mnuInsertContents_Click(frame); });
+    for (int n = 0; n < RecentFiles::Count; ++n)
+        commands.Set(QStringLiteral("mnuFileArray_%1").arg(n), [&frame, n] { OpenRecentFile(frame, n); });
+}
+
+void mnuOpen_Click(Frame& frame) {
+    FileRequest request = DocumentRequest();
+    request.multiSelect = true;
+    request.folder = frame.State<BuilderState>().LastDir;
+    const FileAnswer answer = frame.Ask().OpenFile(frame.Window(), request);
+    if (answer.Cancelled())
+        return;
+    for (const QString& name : answer.names)
+        frame.OpenDocumentFile(answer.folder + name);
+    frame.State<BuilderState>().LastDir = answer.folder;
+}
+
+void mnuSave_Click(Frame& frame) {
+    Document* document = frame.ActiveForm();
+    if (!document)
+        return;
+    if (document->Caption().isEmpty())
+        mnuSaveAs_Click(frame);
+    else if (DocumentFiles::Save(document->Caption(), document->txtInput().Text()))
+        document->SetModified(false);
+}
+
+void mnuSaveAs_Click(Frame& frame) {
+    if (!frame.ActiveForm())
+        return;
+    const FileAnswer answer = AskWhereToSave(frame);
+    Document* document = frame.ActiveForm();
+    if (answer.Cancelled() || !document)
+        return;
+    const QString path = answer.folder + answer.names.first();
+    // The document takes the new path either way; only what is safely in the file counts as saved.
+    if (DocumentFiles::Save(path, document->txtInput().Text()))
+        document->SetModified(false);
+    frame.State<BuilderState>().LastDir = answer.folder;
+    frame.RemoveDocumentTab(document->Caption());
+    document->SetCaption(path);
+    AddToRecentFiles(frame);
+    frame.AddDocumentTab(path, Path::NameOnDisk(path));
+}
+
+void mnuInsertContents_Click(Frame& frame) {
+    if (!frame.ActiveForm())
+        return;
+    const FileAnswer answer = frame.Ask().OpenFile(frame.Window(), DocumentRequest());
+    Document* document = frame.ActiveForm();
+    if (answer.Cancelled() || !document)
+        return;
+    if (const auto text = DocumentFiles::ReadInOneGo(answer.folder + answer.names.first()))
+        document->txtInput().SetSelText(*text);
+}

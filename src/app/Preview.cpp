@@ -1,0 +1,36 @@
+// The active document, or a file, in the user's external browser.
+#include "app/Preview.h"
+
+#include "app/ProgramState.h"
+#include "editor/Commands.h"
+#include "editor/Document.h"
+#include "editor/Frame.h"
+
+#include <QProcess>
+
+void FillPreviewCommands(Frame& frame) {
+    frame.Commands().Set(QStringLiteral("mnuReload"), [&frame] { PreviewInBrowser(frame); });
+}
+
+void PreviewInBrowser(Frame& frame, const QString& path) {
+    frame.SaveActiveDocument();
+    QString target = path;
+    if (target.isEmpty()) {
+        const Document* document = frame.ActiveForm();
+        if (!document)
+            return;
+        target = document->Caption();
+    }
+    const QString& browser = frame.State<ProgramState>().WebPath;
+    if (browser.isEmpty())
+        return;
+    QStringList words = BrowserCommandLine(browser, target);
+    if (words.isEmpty())
+        return;
+    const QString program = words.takeFirst();
+    QProcess::startDetached(program, words);
+}
+
+QStringList BrowserCommandLine(const QString& browser, const QString& target) {
+    return (browser + QLatin1Char(' ') + target).split(QLatin1Char(' '), Qt::SkipEmptyParts);
+}

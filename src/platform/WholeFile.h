@@ -1,0 +1,24 @@
+// Files read and written whole: a save either replaces the old file or leaves it as it was.
+#pragma once
+
+#include <optional>
+#include <QByteArray>
+#include <QString>
+
+namespace WholeFile {
+
+/// The size in bytes; -1 where there is no plain file of that path.
+qint64 Size(const QString& path);
+
+/// All bytes of a file; nothing where it can't be opened or read, is no plain file (a folder, a device, a
+/// pipe, which could block for ever), or is too large for a document's 32-bit positions.
+std::optional<QByteArray> Read(const QString& path);
+
+/// Replaces a file's content, or creates it. The new content is written beside the old file, flushed and
+/// renamed into place; the file keeps its mode bits, owner and extended attributes, and a symbolic link stays
+/// one: what it points to is written. A file that a rename would tear from its other names, or whose folder
+/// takes no new files, is written in place, after room for the new content was found. Returns false on
+/// failure; the old file then stands as it was and nothing else is left behind.
+bool Write(const QString& path, QByteArrayView content);
+
+} // namespace WholeFile
