@@ -29,6 +29,7 @@ void Forms::Unload(const QString& name) {
     QWidget* form = Find(name);
     if (!form)
         return;
+    Q_EMIT Unloading(form);
     form->hide();
     // It leaves the list at once, so that showing it again makes a new one; its handlers may still be
     // running.

@@ -41,6 +41,10 @@ class Forms : public QObject {
         return form;
     }
 
+  Q_SIGNALS:
+    /// Unload takes a form away: it is still in the list and whole.
+    void Unloading(QWidget* form);
+
   private:
     static void Raise(QWidget& form);
 

@@ -1,0 +1,182 @@
+// Offers the attributes of the tag at the caret, and writes the one that is taken.
+#include "editor/AutoFill.h"
+
+#include "editor/AutoFillHooks.h"
+#include "editor/CustomColor.h"
+#include "editor/Document.h"
+#include "editor/EditorState.h"
+#include "editor/Forms.h"
+#include "editor/Frame.h"
+#include "editor/frmDropDown.h"
+#include "platform/RichTextBox.h"
+#include "platform/Settings.h"
+
+#include <algorithm>
+#include <QTimer>
+
+namespace {
+
+/// How many characters before the caret are searched for the start of a tag.
+constexpr int reach = 150;
+/// No attribute that has a list of values has a name as long as this.
+constexpr int longestName = 64;
+
+} // namespace
+
+AutoFill::AutoFill(Frame& frame, Document& document, QTimer& Timer1, QObject* parent)
+    : QObject(parent), frame_(frame), document_(document), Timer1_(Timer1) {
+    Timer1_.stop();
+    Timer1_.setSingleShot(true);
+    Timer1_.setInterval(Delay);
+    connect(&Timer1_, &QTimer::timeout, this, &AutoFill::Timer1_Timer);
+    auto& state = frame_.State<EditorState>();
+    state.DropDownOpen = false;
+    state.DropDownFollowsCaret = true;
+}
+
+frmDropDown* AutoFill::List() const {
+    return qobject_cast<frmDropDown*>(frame_.LoadedForms().Find(frmDropDown::Name()));
+}
+
+void AutoFill::UnloadList() {
+    frame_.LoadedForms().Unload(frmDropDown::Name());
+}
+
+void AutoFill::StopTimer() {
+    Timer1_.stop();
+}
+
+void AutoFill::WhatChar(const QString& typed) {
+    const int caret = document_.txtInput().SelStart();
+    const int length = std::min(caret, reach);
+    const QString before = document_.txtInput().TextRange(caret - length, length);
+    for (auto i = before.size() - 1; i >= 0; --i) {
+        if (before.at(i) == u'>') {
+            frame_.State<EditorState>().DropDownOpen = false;
+            return;
+        }
+        if (before.at(i) == u'<') {
+            int position = caret - length + static_cast<int>(i) + 1;
+            OpenFunc(typed, position);
+            return;
+        }
+    }
+}
+
+void AutoFill::OpenFunc(const QString& typed, int& position) {
+    const RichTextBox& text = document_.txtInput();
+    ++position;
+    const int behindBracket = position - 1;
+    const QString inTag = text.TextRange(behindBracket, text.SelStart() - behindBracket) + typed;
+    const auto blank = inTag.indexOf(u' ');
+    if (blank < 0)
+        return;
+    const AutoFillRows rows = AttributeRows(inTag.left(blank).toLower());
+    if (rows.isEmpty())
+        return;
+    OpenDD(false);
+    Fill(rows, QStringLiteral("Attributes"));
+}
+
+void AutoFill::OpenDD(bool /*quoted*/) {
+    Timer1_.start();
+    document_.txtInput().SetFocus();
+    TypedWord_.Clear();
+    WordStart_ = document_.txtInput().SelStart() + 1;
+    frame_.State<EditorState>().DropDownOpen = true;
+}
+
+void AutoFill::Fill(const AutoFillRows& rows, const QString& called) {
+    frame_.LoadedForms().Load<frmDropDown>(frmDropDown::Name(), frame_).Fill(rows, called);
+}
+
+void AutoFill::Timer1_Timer() {
+    // Esc or Right within the pause took the list away: it comes anew, with no rows.
+    frame_.LoadedForms().Load<frmDropDown>(frmDropDown::Name(), frame_).Open();
+    frame_.State<EditorState>().DropDownOpen = true;
+    document_.txtInput().SetFocus();
+    Timer1_.stop();
+}
+
+void AutoFill::FollowChange() {
+    const auto& state = frame_.State<EditorState>();
+    frmDropDown* list = List();
+    if (list && state.DropDownFollowsCaret)
+        list->MoveToCaret();
+    WordStart_ = std::max(WordStart_, 1);
+    TypedWord_.Take(document_.txtInput(), WordStart_ - 1, document_.txtInput().SelStart());
+    if (list && state.DropDownOpen && !TypedWord_.IsEmpty())
+        SelectMatchingRow();
+}
+
+void AutoFill::SelectMatchingRow() {
+    auto& state = frame_.State<EditorState>();
+    frmDropDown& list = *List();
+    for (int row = 0; row < list.RowCount(); ++row) {
+        if (!TypedWord_.Begins(list.RowText(row)))
+            continue;
+        // The text that a pick from the list itself writes must not move the selection there.
+        if (!state.ListPickPending)
+            list.SelectRow(row);
+        state.ListPickPending = false;
+        list.ScrollToSelected();
+        return;
+    }
+}
+
+bool AutoFill::TakeRow(int& KeyAscii) {
+    auto& state = frame_.State<EditorState>();
+    RichTextBox& text = document_.txtInput();
+    const frmDropDown* list = List();
+    const std::optional<QString> key = list ? list->SelectedKey() : std::nullopt;
+    if (!key) {
+        // An empty list has nothing to give: the typed word stays, and the Enter is an ordinary one.
+        ClearValueList();
+        UnloadList();
+        state.DropDownOpen = false;
+        return false;
+    }
+    // The word of an attribute begins behind the blank that opened the list, that of a value at once.
+    text.SetSelStart(ValueList_ ? WordStart_ - 1 : WordStart_);
+    ClearValueList();
+    text.SetSelLength(TypedWord_.Length());
+    const QChar last = WriteKey(*key);
+    if (!last.isNull())
+        KeyAscii = 0;
+    UnloadList();
+    state.DropDownOpen = false;
+    if (last != u'"')
+        return false;
+    text.SetSelStart(text.SelStart() - 1);
+    DoQuote();
+    return true;
+}
+
+QChar AutoFill::WriteKey(const QString& key) {
+    QString written = key;
+    if (key == QLatin1String("custom")) {
+        const auto& pickColor = frame_.State<AutoFillHooks>().PickColor;
+        const QString picked = pickColor ? pickColor(frame_.Window()) : QString();
+        if (picked.isEmpty())
+            return {};
+        written = CustomColorText(picked);
+    } else if (frame_.Store().ReadFlag(Keys::LowerCaseTags)) {
+        written = key.toLower();
+    }
+    document_.txtInput().SetSelText(written);
+    return written.back();
+}
+
+void AutoFill::DoQuote() {
+    const RichTextBox& text = document_.txtInput();
+    const int equals = text.FindForward(u'=', WordStart_ - 1);
+    const int length = equals - WordStart_;
+    if (length < 1 || length > longestName)
+        return;
+    const AutoFillRows rows = ValueRows(text.TextRange(WordStart_, length).toLower());
+    if (rows.isEmpty())
+        return;
+    ValueList_ = true;
+    OpenDD(true);
+    Fill(rows, QStringLiteral("Values"));
+}
