@@ -5,7 +5,7 @@ packages_run="g++ cmake ninja-build qt6-base-dev qt6-base-dev-tools libqt6svg6-d
     libqscintilla2-qt6-dev qt6-webengine-dev libgl-dev|libgl1-mesa-dev qt6-qpa-plugins qt6-wayland
     fonts-dejavu-core fonts-liberation"
 packages_headless="xvfb openbox xdotool imagemagick x11-utils"
-packages_test="libgtest-dev libgmock-dev libbenchmark-dev at-spi2-core dbus python3 python3-pyatspi"
+packages_test="libgtest-dev libgmock-dev libbenchmark-dev at-spi2-core dbus python3 python3-pyatspi gir1.2-atspi-2.0"
 # Real pages for the test that opens, saves and reopens them.
 packages_pages=""
 packages_ci="clang libclang-rt-14-dev|libclang-rt-19-dev|libclang-rt-18-dev"
@@ -44,7 +44,7 @@ install_packages() {
         return 1
     fi
     echo "Installing what is missing:" $missing
-    as_root apt-get update -q || return 1
+    as_root apt-get -o DPkg::Lock::Timeout=300 update -q || return 1
     for entry in $missing; do
         for name in ${entry//|/ }; do
             if apt-cache show "$name" >/dev/null 2>&1; then
@@ -53,7 +53,7 @@ install_packages() {
             fi
         done
     done
-    as_root env DEBIAN_FRONTEND=noninteractive apt-get install -y -q --no-install-recommends "${chosen[@]}" || return 1
+    as_root env DEBIAN_FRONTEND=noninteractive apt-get install -o DPkg::Lock::Timeout=300 -y -q --no-install-recommends "${chosen[@]}" || return 1
     missing=$(missing_packages "$*")
     if [ -n "$missing" ]; then
         echo "These packages could not be had:" $missing >&2
