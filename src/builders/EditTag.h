@@ -1,0 +1,17 @@
+// The road back from a tag to its dialog.
+#pragma once
+
+#include <QString>
+
+class Frame;
+
+/// Selects the tag around the caret of the active document and opens its dialog, if it is an image, a body
+/// tag or an embed. A caret outside any tag, and a "<" without a ">" behind it, change nothing.
+void EditTag(Frame& frame);
+
+/// Opens the dialog of a tag (with its angle brackets), filled in, and takes the selected tag out of the
+/// active document where the dialog's OK is to write it anew.
+void FillTagDialog(Frame& frame, const QString& tag);
+
+/// Fills the row of the Edit menu's "Edit Tag".
+void RegisterEditTag(Frame& frame);
