@@ -1,0 +1,63 @@
+// The status bar: date, time, and the program's own panel.
+#include "app/StatusPanels.h"
+
+#include <QDateTime>
+#include <QLabel>
+#include <QLocale>
+
+namespace {
+
+QLabel* MakePanel(const QString& name, const QString& accessibleName, QWidget* parent) {
+    auto* panel = new QLabel(parent);
+    panel->setObjectName(name);
+    panel->setAccessibleName(accessibleName);
+    panel->setTextFormat(Qt::PlainText);
+    panel->setFrameShape(QFrame::StyledPanel);
+    panel->setFrameShadow(QFrame::Sunken);
+    panel->setMargin(2);
+    return panel;
+}
+
+} // namespace
+
+StatusBar::StatusBar(QWidget* parent)
+    : QStatusBar(parent), date_(MakePanel(QStringLiteral("Panel1"), tr("Date"), this)),
+      time_(MakePanel(QStringLiteral("Panel2"), tr("Time"), this)),
+      program_(MakePanel(QStringLiteral("Panel3"), tr("Status"), this)) {
+    setObjectName(QStringLiteral("StatusBar"));
+    addWidget(date_);
+    addWidget(time_);
+    addWidget(program_, 1);
+    // A long text is cut at the edge; it never widens the window.
+    program_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    minute_.setSingleShot(true);
+    connect(&minute_, &QTimer::timeout, this, &StatusBar::Tick);
+    Tick();
+}
+
+void StatusBar::SetPanel3(const QString& text, bool now) {
+    program_->setText(text);
+    if (now)
+        program_->repaint();
+}
+
+QString StatusBar::Panel3() const {
+    return program_->text();
+}
+
+void StatusBar::ShowMoment(const QDateTime& moment) {
+    const QLocale locale;
+    date_->setText(locale.toString(moment.date(), QLocale::ShortFormat));
+    time_->setText(locale.toString(moment.time(), QLocale::ShortFormat));
+}
+
+int StatusBar::UntilNextMinute(const QDateTime& moment) {
+    constexpr int minute = 60'000;
+    return minute - moment.time().msecsSinceStartOfDay() % minute;
+}
+
+void StatusBar::Tick() {
+    const QDateTime now = QDateTime::currentDateTime();
+    ShowMoment(now);
+    minute_.start(UntilNextMinute(now));
+}

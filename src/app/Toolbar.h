@@ -1,0 +1,39 @@
+// The toolbar: one table of its buttons, and the strip that shows them in as many rows as they need.
+#pragma once
+
+#include <QWidget>
+#include <span>
+
+class Frame;
+class QToolButton;
+
+/// A button: its key, which names its command "tb_<key>" and its icon, and its tool tip.
+struct ToolbarRow {
+    const char* key;
+    const char* toolTip;
+};
+
+/// All buttons, in their order.
+std::span<const ToolbarRow> ToolbarTable();
+
+/// The strip of buttons. It wraps to further rows: its height follows from its width (heightForWidth). It is
+/// one stop of the Tab key; the arrow keys, Home and End move among its buttons, F6 moves into it from the
+/// window, and Esc back.
+class Toolbar1 final : public QWidget {
+    Q_OBJECT
+
+  public:
+    explicit Toolbar1(Frame& frame, QWidget* parent = nullptr);
+
+  protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+  private:
+    void AddButton(const ToolbarRow& row);
+    void TakeFocus();
+    void MoveFocus(qsizetype from, int step);
+    void GiveFocusBack();
+
+    Frame& frame_;
+    QList<QToolButton*> buttons_;
+};

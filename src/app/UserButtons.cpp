@@ -1,0 +1,117 @@
+// The strip of user buttons: two pages of fifteen buttons, each with two tags of the user's own.
+#include "app/UserButtons.h"
+
+#include "app/frmTools.h"
+#include "editor/EditorState.h"
+#include "editor/Forms.h"
+#include "editor/Frame.h"
+#include "editor/InsertTag.h"
+
+#include <algorithm>
+#include <QContextMenuEvent>
+#include <QHBoxLayout>
+#include <QMouseEvent>
+#include <QPushButton>
+#include <QTabBar>
+
+namespace {
+
+constexpr int buttonsPerPage = 15;
+constexpr int rightButton = 2;
+
+} // namespace
+
+UserButtons::UserButtons(Frame& frame, QWidget* parent)
+    : QWidget(parent), frame_(frame), tabStrip1_(new QTabBar(this)) {
+    setObjectName(QStringLiteral("Picture2"));
+    setAccessibleName(tr("User buttons"));
+    tabStrip1_->setObjectName(QStringLiteral("TabStrip1"));
+    tabStrip1_->setAccessibleName(tr("Pages of user buttons"));
+    tabStrip1_->setDrawBase(false);
+    tabStrip1_->addTab(QStringLiteral("User 1"));
+    tabStrip1_->addTab(QStringLiteral("User 2"));
+
+    auto* row = new QHBoxLayout(this);
+    row->setContentsMargins(2, 0, 2, 0);
+    row->setSpacing(4);
+    row->addWidget(tabStrip1_);
+    for (int page = 0; page < 2; ++page) {
+        frameButtons_[static_cast<size_t>(page)] = MakePage(page);
+        row->addWidget(frameButtons_[static_cast<size_t>(page)], 1);
+    }
+    frameButtons_[1]->hide();
+    connect(tabStrip1_, &QTabBar::currentChanged, this, [this] { TabStrip1_Click(); });
+}
+
+QWidget* UserButtons::MakePage(int page) {
+    auto* frameButtons = new QWidget(this);
+    frameButtons->setObjectName(QStringLiteral("frameButtons_%1").arg(page));
+    auto* row = new QHBoxLayout(frameButtons);
+    row->setContentsMargins(0, 0, 0, 0);
+    row->setSpacing(2);
+    for (int index = page * buttonsPerPage; index < (page + 1) * buttonsPerPage; ++index) {
+        auto* button = new QPushButton(frameButtons);
+        button->setObjectName(QStringLiteral("Command1_%1").arg(index));
+        button->setFocusPolicy(Qt::TabFocus);
+        // All fifteen share the width there is, however long a caption is.
+        button->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
+        button->installEventFilter(this);
+        connect(button, &QPushButton::clicked, this, [this, index] { Command1_Click(index); });
+        row->addWidget(button, 1);
+        command1_[static_cast<size_t>(index)] = button;
+        SetCaption(index, QString());
+    }
+    return frameButtons;
+}
+
+QString UserButtons::Caption(int index) const {
+    return index >= 0 && index < Count ? command1_[static_cast<size_t>(index)]->text() : QString();
+}
+
+void UserButtons::SetCaption(int index, const QString& caption) {
+    if (index < 0 || index >= Count)
+        return;
+    QPushButton* button = command1_[static_cast<size_t>(index)];
+    button->setText(caption);
+    // The face is small: the tip shows the whole caption, and a blank face is read as its number.
+    button->setToolTip(caption.toHtmlEscaped());
+    button->setAccessibleName(caption.isEmpty() ? tr("User button %1").arg(index + 1) : QString());
+}
+
+void UserButtons::TabStrip1_Click() {
+    const bool first = tabStrip1_->tabText(tabStrip1_->currentIndex()) == QStringLiteral("User 1");
+    frameButtons_[first ? 0 : 1]->show();
+    frameButtons_[first ? 1 : 0]->hide();
+}
+
+void UserButtons::Command1_Click(int index) {
+    const EditorState& state = frame_.State<EditorState>();
+    // Copies go in, so that the case rule changes the document only and never the user's own tags.
+    const QString first = state.FirstBut[static_cast<size_t>(index)];
+    const QString second = state.SecondBut[static_cast<size_t>(index)];
+    InsertTag(frame_, first, second, false);
+}
+
+void UserButtons::Command1_MouseDown(int index, int button) {
+    if (button != rightButton)
+        return;
+    SetTag(QString::number(index));
+    frame_.LoadedForms().Show<frmTools>(QStringLiteral("frmTools"), frame_, *this);
+}
+
+// A right press edits the button; so do the keyboard's ways to a context menu.
+bool UserButtons::eventFilter(QObject* watched, QEvent* event) {
+    const auto found = std::ranges::find(command1_, watched);
+    if (found != command1_.end()) {
+        const auto index = static_cast<int>(found - command1_.begin());
+        if (event->type() == QEvent::MouseButtonPress) {
+            const auto* press = static_cast<QMouseEvent*>(event);
+            Command1_MouseDown(index, press->button() == Qt::RightButton ? rightButton : 1);
+        } else if (event->type() == QEvent::ContextMenu) {
+            if (static_cast<QContextMenuEvent*>(event)->reason() == QContextMenuEvent::Keyboard)
+                Command1_MouseDown(index, rightButton);
+            return true;
+        }
+    }
+    return QWidget::eventFilter(watched, event);
+}

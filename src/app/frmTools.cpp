@@ -1,0 +1,67 @@
+// The dialog that edits a user button: its title and its two tags.
+#include "app/frmTools.h"
+
+#include "app/UserButtons.h"
+#include "editor/EditorState.h"
+#include "editor/Forms.h"
+#include "editor/Frame.h"
+#include "platform/Cp1252.h"
+#include "platform/Values.h"
+#include "ui_frmTools.h"
+
+#include <algorithm>
+#include <QFocusEvent>
+#include <QTimer>
+
+frmTools::frmTools(Frame& frame, UserButtons& strip)
+    : QDialog(frame.Window()), ui_(std::make_unique<Ui::frmTools>()), frame_(frame), strip_(strip) {
+    ui_->setupUi(this);
+    for (QLineEdit* field : {ui_->txtName, ui_->txtFirst, ui_->txtSecond})
+        field->installEventFilter(this);
+    connect(ui_->cmdOK, &QPushButton::clicked, this, &frmTools::cmdOK_Click);
+    connect(ui_->cmdCancel, &QPushButton::clicked, this, &frmTools::cmdCancel_Click);
+    Form_Load();
+}
+
+frmTools::~frmTools() = default;
+
+void frmTools::Form_Load() {
+    button_ = std::clamp(Values::WholeVal(strip_.Tag()), 0, UserButtons::Count - 1);
+    const EditorState& state = frame_.State<EditorState>();
+    ui_->txtName->setText(strip_.Caption(button_));
+    ui_->txtFirst->setText(state.FirstBut[static_cast<size_t>(button_)]);
+    ui_->txtSecond->setText(state.SecondBut[static_cast<size_t>(button_)]);
+}
+
+void frmTools::cmdOK_Click() {
+    EditorState& state = frame_.State<EditorState>();
+    strip_.SetCaption(button_, Cp1252::Accept(ui_->txtName->text()));
+    state.FirstBut[static_cast<size_t>(button_)] = Cp1252::Accept(ui_->txtFirst->text());
+    state.SecondBut[static_cast<size_t>(button_)] = Cp1252::Accept(ui_->txtSecond->text());
+    Unload();
+}
+
+void frmTools::cmdCancel_Click() {
+    Unload();
+}
+
+void frmTools::reject() {
+    Unload();
+}
+
+void frmTools::Unload() {
+    frame_.LoadedForms().Unload(QStringLiteral("frmTools"));
+}
+
+// A field selects its whole text when it gets the focus. The mouse sets the caret right after it gave the
+// focus, so for a click the selection has to come behind that.
+bool frmTools::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() == QEvent::FocusIn) {
+        auto* field = static_cast<QLineEdit*>(watched);
+        if (static_cast<QFocusEvent*>(event)->reason() == Qt::MouseFocusReason)
+            QTimer::singleShot(0, field, &QLineEdit::selectAll);
+        else
+            field->selectAll();
+    }
+    return QDialog::eventFilter(watched, event);
+}
