@@ -1,0 +1,129 @@
+// The file dialog of links, frames and the site tools: filters and selection.
+#include "builders/CDialog.h"
+
+#include "builders/BuilderState.h"
+#include "editor/Frame.h"
+#include "platform/Path.h"
+#include "platform/Prompts.h"
+
+#include <algorithm>
+#include <numeric>
+#include <QApplication>
+#include <QFileInfo>
+
+namespace {
+
+/// What the answer takes in the dialog's buffer: a single full path, or the folder and each name; each text
+/// is followed by one separator, the whole by another.
+qsizetype BufferUse(const FileAnswer& answer) {
+    if (answer.names.size() == 1)
+        return answer.folder.size() + answer.names.first().size() + 1;
+    return std::accumulate(answer.names.begin(), answer.names.end(), answer.folder.size() + 2,
+                           [](qsizetype sum, const QString& name) { return sum + name.size() + 1; });
+}
+
+bool CanBeWritten(const QString& path) {
+    const QFileInfo file(path);
+    return file.exists() ? file.isWritable() : QFileInfo(file.absolutePath()).isWritable();
+}
+
+} // namespace
+
+bool CDialog::Action(int action, QWidget* owner) {
+    switch (action) {
+    case 1:
+        return ShowOpen(owner);
+    case 2:
+        return ShowSave(owner);
+    default:
+        return false;
+    }
+}
+
+void CDialog::SetMultiSelect(int multi) {
+    multiSelect_ = multi == Multiple || multi == Explorer ? multi : Off;
+}
+
+void CDialog::SetFilter(const QString& filter) {
+    filter_ = filter;
+    filterIndex_ = 1;
+}
+
+void CDialog::AddFilter(const QString& name, const QString& patterns) {
+    if (!filter_.isEmpty() && !filter_.endsWith(u'|'))
+        filter_ += u'|';
+    filter_ += name + u'|' + patterns + u'|';
+}
+
+void CDialog::AddDefaultFilters(const DialogTarget& target) {
+    const QString filters = target.DefaultFilters();
+    if (!filter_.isEmpty() && !filters.isEmpty() && !filter_.endsWith(u'|'))
+        filter_ += u'|';
+    filter_ += filters;
+}
+
+QString CDialog::SelectedFile(int n) const {
+    return n >= 1 && n <= SelectedFileCount() ? selected_[n - 1] : QString();
+}
+
+bool CDialog::ShowOpen(QWidget* owner, const DialogTarget& target) {
+    if (!Show(true, owner, target))
+        return false;
+    if (target)
+        LoadInto(target);
+    return true;
+}
+
+bool CDialog::ShowSave(QWidget* owner, const DialogTarget& target) {
+    if (!Show(false, owner, target))
+        return false;
+    if (target)
+        SaveFrom(target);
+    return true;
+}
+
+bool CDialog::SaveFrom(const DialogTarget& target) const {
+    return SelectedFileCount() > 0 && target.Save(SelectedFile(1));
+}
+
+bool CDialog::LoadInto(const DialogTarget& target) const {
+    return SelectedFileCount() > 0 && target.Load(SelectedFile(1));
+}
+
+bool CDialog::Show(bool open, QWidget* owner, const DialogTarget& target) {
+    if (filter_.isEmpty())
+        AddDefaultFilters(target);
+    FileRequest request;
+    request.filter = filter_;
+    request.filterIndex = filterIndex_;
+    request.folder = frame_.State<BuilderState>().LastDir;
+    request.multiSelect = open && multiSelect_ != Off;
+    request.mustExist = fileMustExist_;
+    if (!owner)
+        owner = QApplication::activeWindow();
+    if (!owner)
+        owner = frame_.Window();
+    for (;;) {
+        const FileAnswer answer =
+            open ? frame_.Ask().OpenFile(owner, request) : frame_.Ask().SaveFile(owner, request);
+        if (!Take(answer))
+            return false;
+        if (!fileMustBeWritable_ || std::all_of(selected_.begin(), selected_.end(), CanBeWritten))
+            return true;
+    }
+}
+
+bool CDialog::Take(const FileAnswer& answer) {
+    selected_.clear();
+    errorCode_ = 0;
+    if (answer.Cancelled())
+        return false;
+    if (BufferUse(answer) > BufferSize) {
+        errorCode_ = BufferTooSmall;
+        return false;
+    }
+    selected_.reserve(answer.names.size());
+    for (const QString& name : answer.names)
+        selected_ += Path::Join(answer.folder, name);
+    return true;
+}

@@ -1,0 +1,45 @@
+// The picture preview that stands beside the file list while a picture is picked.
+#include "builders/frmImage.h"
+
+#include "builders/ImagePreview.h"
+#include "editor/Forms.h"
+#include "editor/Frame.h"
+#include "ui_frmImage.h"
+
+#include <QImageReader>
+#include <QPixmap>
+
+frmImage::frmImage(Frame& frame) : QDialog(frame.Window()), ui_(std::make_unique<Ui::frmImage>()) {
+    ui_->setupUi(this);
+}
+
+frmImage::~frmImage() = default;
+
+QWidget* frmImage::Frame1() const {
+    return ui_->Frame1;
+}
+
+bool frmImage::ShowPicture(const QString& path) {
+    QImageReader reader(path);
+    reader.setDecideFormatFromContent(true);
+    // Browsers turn a picture as its camera says, and count width and height of the turned one.
+    reader.setAutoTransform(true);
+    const QPixmap picture = QPixmap::fromImageReader(&reader);
+    if (picture.isNull())
+        return false;
+    pictureSize_ = picture.size();
+    ui_->picSel->setPixmap(picture);
+    ui_->picSel->resize(pictureSize_);
+
+    const ImagePreview preview = PreviewOf(pictureSize_);
+    const QSize pixels(preview.width / PreviewTwipsPerPixel, preview.height / PreviewTwipsPerPixel);
+    ui_->imgSel->setScaledContents(preview.stretch);
+    ui_->imgSel->setPixmap(picture);
+    // One twip from the panel's inner corner is no whole pixel.
+    ui_->imgSel->setGeometry(QRect(ui_->Frame1->contentsRect().topLeft(), pixels));
+    return true;
+}
+
+void ShowImagePreview(Frame& frame, const QString& path) {
+    frame.LoadedForms().Load<frmImage>(QStringLiteral("frmImage"), frame).ShowPicture(path);
+}
