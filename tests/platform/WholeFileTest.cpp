@@ -1,0 +1,303 @@
+// Reading and saving whole files: whatever fails, the old file stands and nothing is left beside it.
+#include "platform/WholeFile.h"
+
+#include "support/FreshUser.h"
+#include "support/Text.h"
+
+#include <csignal>
+#include <functional>
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <sched.h>
+#include <sys/mount.h>
+#include <sys/resource.h>
+#include <sys/stat.h>
+#include <sys/wait.h>
+#include <sys/xattr.h>
+#include <unistd.h>
+
+namespace {
+
+using testing::IsEmpty;
+
+constexpr int nobody = 65534;
+constexpr int cannotTell = 77;
+
+class WholeFileTest : public testing::Test {
+  protected:
+    void SetUp() override { FreshUser(); }
+
+    static QString At(const char* name) { return TestFolder() + u'/' + QString::fromLatin1(name); }
+    static QByteArray Encoded(const QString& path) { return QFile::encodeName(path); }
+
+    /// Writes without any help of what is under test.
+    static QString Make(const char* name, const QByteArray& content, mode_t mode = 0644) {
+        QFile file(At(name));
+        EXPECT_TRUE(file.open(QIODevice::WriteOnly));
+        file.write(content);
+        file.close();
+        EXPECT_EQ(::chmod(Encoded(At(name)).constData(), mode), 0);
+        return At(name);
+    }
+    static QByteArray Content(const QString& path) {
+        QFile file(path);
+        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("(unreadable)");
+    }
+    static struct stat Status(const QString& path) {
+        struct stat status = {};
+        EXPECT_EQ(::stat(Encoded(path).constData(), &status), 0);
+        return status;
+    }
+    static mode_t Mode(const QString& path) { return Status(path).st_mode & 07777; }
+    static QStringList Listing() {
+        return QDir(TestFolder())
+            .entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot | QDir::System);
+    }
+
+    /// Runs a step in a process of its own, which may give up rights for good, and returns its answer.
+    static int InChild(const std::function<int()>& step) {
+        const pid_t child = ::fork();
+        if (child == 0)
+            ::_exit(step());
+        int status = 0;
+        EXPECT_EQ(::waitpid(child, &status, 0), child);
+        EXPECT_TRUE(WIFEXITED(status)) << "ended by signal " << WTERMSIG(status);
+        return WEXITSTATUS(status);
+    }
+    /// The step sees the test folder as its working folder: the folders above it belong to this user alone.
+    static int AsNobody(const std::function<bool()>& step) {
+        return InChild([&] {
+            if (::chdir(Encoded(TestFolder()).constData()) != 0)
+                return cannotTell;
+            if (::getuid() == 0 && (::setgid(nobody) != 0 || ::setuid(nobody) != 0))
+                return cannotTell;
+            return step() ? 1 : 0;
+        });
+    }
+    static int WithSizeLimit(rlim_t limit, const std::function<bool()>& step) {
+        return InChild([&] {
+            const rlimit both = {limit, limit};
+            if (::setrlimit(RLIMIT_FSIZE, &both) != 0)
+                return cannotTell;
+            return step() ? 1 : 0;
+        });
+    }
+};
+
+TEST_F(WholeFileTest, ReadsEveryByte) {
+    QByteArray all;
+    for (int byte = 0; byte < 256; ++byte)
+        all += static_cast<char>(byte);
+    EXPECT_EQ(WholeFile::Read(Make("a.htm", all)), all);
+    EXPECT_EQ(WholeFile::Read(Make("empty.htm", "")), QByteArray());
+}
+
+TEST_F(WholeFileTest, ReadsNothingWhereThereIsNoPlainFile) {
+    EXPECT_EQ(WholeFile::Read(At("missing.htm")), std::nullopt);
+    EXPECT_EQ(WholeFile::Read(TestFolder()), std::nullopt);
+    EXPECT_EQ(WholeFile::Read(QString()), std::nullopt);
+    EXPECT_EQ(WholeFile::Read(QStringLiteral("/dev/zero")), std::nullopt);
+}
+
+TEST_F(WholeFileTest, ReadingAPipeDoesNotBlock) {
+    ASSERT_EQ(::mkfifo(Encoded(At("pipe")).constData(), 0600), 0);
+    EXPECT_EQ(WholeFile::Read(At("pipe")), std::nullopt);
+    EXPECT_FALSE(WholeFile::Write(At("pipe"), "x"));
+}
+
+TEST_F(WholeFileTest, ReadsNothingOfAFileThatMayNotBeRead) {
+    const QString path = Make("a.htm", "x", 0);
+    const auto read = [] { return WholeFile::Read(QStringLiteral("a.htm")).has_value(); };
+    EXPECT_EQ(AsNobody(read), 0);
+    ASSERT_EQ(::chmod(Encoded(path).constData(), 0644), 0);
+    EXPECT_EQ(AsNobody(read), 1);
+}
+
+TEST_F(WholeFileTest, SizeIsThatOfAPlainFile) {
+    EXPECT_EQ(WholeFile::Size(Make("a.htm", "12345")), 5);
+    EXPECT_EQ(WholeFile::Size(At("missing.htm")), -1);
+    EXPECT_EQ(WholeFile::Size(TestFolder()), -1);
+}
+
+TEST_F(WholeFileTest, CreatesAFileAsTheUsersMaskAsks) {
+    const mode_t mask = ::umask(027);
+    EXPECT_TRUE(WholeFile::Write(At("new.htm"), "abc"));
+    ::umask(mask);
+    EXPECT_EQ(Content(At("new.htm")), "abc");
+    EXPECT_EQ(Mode(At("new.htm")), 0640u);
+    EXPECT_EQ(Listing(), QStringList{QStringLiteral("new.htm")});
+}
+
+TEST_F(WholeFileTest, ReplacesByRename) {
+    const QString path = Make("a.htm", "the old text, longer");
+    const ino_t before = Status(path).st_ino;
+    const QByteArray large(3'000'000, 'x');
+    EXPECT_TRUE(WholeFile::Write(path, large));
+    EXPECT_EQ(Content(path), large);
+    EXPECT_NE(Status(path).st_ino, before);
+    EXPECT_TRUE(WholeFile::Write(path, ""));
+    EXPECT_EQ(Content(path), "");
+    EXPECT_EQ(Listing(), QStringList{QStringLiteral("a.htm")});
+}
+
+TEST_F(WholeFileTest, KeepsModeBits) {
+    for (const mode_t mode : {0600u, 0640u, 0664u, 0755u, 02664u}) {
+        const QString path = Make("a.htm", "old", mode);
+        EXPECT_TRUE(WholeFile::Write(path, "new"));
+        EXPECT_EQ(Mode(path), mode);
+        EXPECT_EQ(Content(path), "new");
+    }
+}
+
+TEST_F(WholeFileTest, KeepsTheOwner) {
+    const QString path = Make("a.htm", "old", 0640);
+    if (::chown(Encoded(path).constData(), nobody, nobody) != 0)
+        GTEST_SKIP() << "may not give files away";
+    EXPECT_TRUE(WholeFile::Write(path, "new"));
+    EXPECT_EQ(Status(path).st_uid, static_cast<uid_t>(nobody));
+    EXPECT_EQ(Status(path).st_gid, static_cast<gid_t>(nobody));
+    EXPECT_EQ(Mode(path), 0640u);
+}
+
+TEST_F(WholeFileTest, KeepsExtendedAttributes) {
+    const QString path = Make("a.htm", "old");
+    if (::setxattr(Encoded(path).constData(), "user.note", "kept", 4, 0) != 0)
+        GTEST_SKIP() << "this disk has no extended attributes";
+    EXPECT_TRUE(WholeFile::Write(path, "new"));
+    char value[16] = {};
+    EXPECT_EQ(::getxattr(Encoded(path).constData(), "user.note", value, sizeof value), 4);
+    EXPECT_STREQ(value, "kept");
+}
+
+TEST_F(WholeFileTest, FollowsASymbolicLink) {
+    const QString path = Make("real.htm", "old", 0640);
+    ASSERT_TRUE(QFile::link(QStringLiteral("real.htm"), At("link.htm")));
+    ASSERT_TRUE(QFile::link(QStringLiteral("link.htm"), At("second.htm")));
+    EXPECT_TRUE(WholeFile::Write(At("second.htm"), "new"));
+    EXPECT_TRUE(QFileInfo(At("second.htm")).isSymLink());
+    EXPECT_TRUE(QFileInfo(At("link.htm")).isSymLink());
+    EXPECT_FALSE(QFileInfo(path).isSymLink());
+    EXPECT_EQ(Content(path), "new");
+    EXPECT_EQ(Mode(path), 0640u);
+}
+
+TEST_F(WholeFileTest, WritesWhatADanglingLinkPointsTo) {
+    ASSERT_TRUE(QFile::link(QStringLiteral("real.htm"), At("link.htm")));
+    EXPECT_TRUE(WholeFile::Write(At("link.htm"), "new"));
+    EXPECT_TRUE(QFileInfo(At("link.htm")).isSymLink());
+    EXPECT_EQ(Content(At("real.htm")), "new");
+}
+
+TEST_F(WholeFileTest, AFileOfTwoNamesStaysOneFile) {
+    const QString path = Make("a.htm", "the old text");
+    ASSERT_EQ(::link(Encoded(path).constData(), Encoded(At("b.htm")).constData()), 0);
+    EXPECT_TRUE(WholeFile::Write(path, "new"));
+    EXPECT_EQ(Content(At("b.htm")), "new");
+    EXPECT_EQ(Status(path).st_nlink, 2u);
+}
+
+TEST_F(WholeFileTest, AReadOnlyFileStaysAsItWas) {
+    const QString path = Make("a.htm", "old", 0444);
+    ASSERT_EQ(::chmod(Encoded(TestFolder()).constData(), 0777), 0);
+    const auto write = [] { return WholeFile::Write(QStringLiteral("a.htm"), "new"); };
+    EXPECT_EQ(AsNobody(write), 0);
+    EXPECT_EQ(Content(path), "old");
+    EXPECT_EQ(Listing(), QStringList{QStringLiteral("a.htm")});
+    // The mode bits alone were in the way.
+    ASSERT_EQ(::chmod(Encoded(path).constData(), 0666), 0);
+    EXPECT_EQ(AsNobody(write), 1);
+    EXPECT_EQ(Content(path), "new");
+}
+
+TEST_F(WholeFileTest, AWritableFileInAFolderThatIsNotIsWritten) {
+    const QString path = Make("a.htm", "the old text, longer", 0666);
+    ASSERT_EQ(::chmod(Encoded(TestFolder()).constData(), 0755), 0);
+    const ino_t before = Status(path).st_ino;
+    EXPECT_EQ(AsNobody([] { return WholeFile::Write(QStringLiteral("a.htm"), "new"); }), 1);
+    EXPECT_EQ(Content(path), "new");
+    EXPECT_EQ(Status(path).st_ino, before);
+    EXPECT_EQ(Mode(path), 0666u);
+    EXPECT_EQ(Listing(), QStringList{QStringLiteral("a.htm")});
+}
+
+TEST_F(WholeFileTest, AFolderThatTakesNoFilesTakesNoNewOne) {
+    ASSERT_EQ(::chmod(Encoded(TestFolder()).constData(), 0755), 0);
+    const auto write = [] { return WholeFile::Write(QStringLiteral("new.htm"), "new"); };
+    EXPECT_EQ(AsNobody(write), 0);
+    EXPECT_THAT(Listing(), IsEmpty());
+    ASSERT_EQ(::chmod(Encoded(TestFolder()).constData(), 0777), 0);
+    EXPECT_EQ(AsNobody(write), 1);
+}
+
+TEST_F(WholeFileTest, AVanishedFolderIsAFailure) {
+    EXPECT_FALSE(WholeFile::Write(At("gone/a.htm"), "new"));
+    EXPECT_THAT(Listing(), IsEmpty());
+    EXPECT_FALSE(WholeFile::Write(QString(), "new"));
+}
+
+TEST_F(WholeFileTest, FoldersAndDevicesAreNoFilesToWrite) {
+    EXPECT_FALSE(WholeFile::Write(TestFolder(), "new"));
+    EXPECT_FALSE(WholeFile::Write(QStringLiteral("/dev/full"), "new"));
+    ASSERT_TRUE(QFile::link(QStringLiteral("/dev/full"), At("full.htm")));
+    EXPECT_FALSE(WholeFile::Write(At("full.htm"), "new"));
+    EXPECT_TRUE(QFileInfo(At("full.htm")).isSymLink());
+    EXPECT_TRUE(S_ISCHR(Status(QStringLiteral("/dev/full")).st_mode));
+}
+
+TEST_F(WholeFileTest, AWriteThatFailsHalfwayLeavesTheOldFileAndNoLitter) {
+    const QString path = Make("a.htm", "old");
+    const QByteArray large(100'000, 'x');
+    EXPECT_EQ(WithSizeLimit(10'000, [&] { return WholeFile::Write(path, large); }), 0);
+    EXPECT_EQ(Content(path), "old");
+    EXPECT_EQ(WithSizeLimit(10'000, [&] { return WholeFile::Write(At("new.htm"), large); }), 0);
+    EXPECT_EQ(Listing(), QStringList{QStringLiteral("a.htm")});
+}
+
+TEST_F(WholeFileTest, AWriteInPlaceThatFailsLeavesTheOldContent) {
+    const QString path = Make("a.htm", "old");
+    ASSERT_EQ(::link(Encoded(path).constData(), Encoded(At("b.htm")).constData()), 0);
+    const QByteArray large(100'000, 'x');
+    EXPECT_EQ(WithSizeLimit(10'000, [&] { return WholeFile::Write(path, large); }), 0);
+    EXPECT_EQ(Content(path), "old");
+    EXPECT_EQ(Content(At("b.htm")), "old");
+}
+
+TEST_F(WholeFileTest, TheSignalOfTheSizeLimitIsGivenBack) {
+    EXPECT_TRUE(WholeFile::Write(At("a.htm"), "x"));
+    struct sigaction now = {};
+    ASSERT_EQ(::sigaction(SIGXFSZ, nullptr, &now), 0);
+    EXPECT_EQ(now.sa_handler, SIG_DFL);
+}
+
+/// A disk of 64 kilobytes of its own, seen by one child process alone.
+int OnSmallDisk(const QString& folder, const std::function<int()>& step) {
+    if (::unshare(CLONE_NEWNS) != 0 || ::mount("none", "/", nullptr, MS_REC | MS_PRIVATE, nullptr) != 0 ||
+        ::mount("none", QFile::encodeName(folder).constData(), "tmpfs", 0, "size=64k") != 0)
+        return cannotTell;
+    return step();
+}
+
+TEST_F(WholeFileTest, AFullDiskLeavesTheOldFileAndNoLitter) {
+    const int answer = InChild([] {
+        return OnSmallDisk(TestFolder(), [] {
+            const QString path = Make("a.htm", QByteArray(20'000, 'o'));
+            const QString twin = Make("b.htm", "twin");
+            if (::link(Encoded(twin).constData(), Encoded(At("c.htm")).constData()) != 0)
+                return cannotTell;
+            const QByteArray large(100'000, 'x');
+            // Each fault that shows adds a digit of its own to the answer.
+            return (WholeFile::Write(path, large) ? 1 : 0) + (WholeFile::Write(twin, large) ? 2 : 0) +
+                   (WholeFile::Write(At("new.htm"), large) ? 4 : 0) +
+                   (Content(path) != QByteArray(20'000, 'o') ? 8 : 0) + (Content(twin) != "twin" ? 16 : 0) +
+                   (Listing().size() != 3 ? 32 : 0);
+        });
+    });
+    if (answer == cannotTell)
+        GTEST_SKIP() << "may not mount a small disk here";
+    EXPECT_EQ(answer, 0);
+}
+
+} // namespace
