@@ -6,6 +6,7 @@
 #include "editor/Frame.h"
 #include "editor/WriteColoredText.h"
 #include "platform/RichTextBox.h"
+#include "platform/Settings.h"
 
 namespace {
 
@@ -23,16 +24,26 @@ class InputOff {
     RichTextBox& box_;
 };
 
-/// One piece goes out: the callee may change it, and the pass needs its text unchanged.
-void Write(Frame& frame, QStringView piece, const QString& colorWord) {
-    QString copy = piece.toString();
-    WriteColoredText(frame, copy, colorWord, false);
-}
+/// What a pass gathers before its one write. With colouring off the pieces are the plain text itself.
+class Pieces {
+  public:
+    Pieces(QString& buffer, bool colored) : buffer_(buffer), colored_(colored) {}
+    void Add(QStringView piece, const QString& colorWord) {
+        if (colored_)
+            GatherPiece(buffer_, piece, colorWord);
+        else
+            buffer_ += piece;
+    }
 
-/// Writes the tags and what stands between them. Positions count from 1, as the rules below are told; last is
-/// where the last tag written ends, 0 before the first tag and after an unclosed "<". Returns false where the
-/// text holds no "<" at all and the caller kept the document.
-bool WriteTags(Frame& frame, const QString& text, bool keepDocument, qsizetype& last) {
+  private:
+    QString& buffer_;
+    bool colored_;
+};
+
+/// Gathers the tags and what stands between them. Positions count from 1, as the rules below are told; last
+/// is where the last tag written ends, 0 before the first tag and after an unclosed "<". Returns false where
+/// the text holds no "<" at all and the caller kept the document.
+bool GatherTags(Pieces& pieces, const QString& text, bool keepDocument, qsizetype& last) {
     bool first = keepDocument;
     qsizetype pos = 1;
     while (true) {
@@ -49,8 +60,8 @@ bool WriteTags(Frame& frame, const QString& text, bool keepDocument, qsizetype& 
         if (last == 0)
             return true;
         const auto tag = QStringView(text).mid(pos - 1, last - pos + 1);
-        Write(frame, between, textWord);
-        Write(frame, tag, TagColorCode(tag));
+        pieces.Add(between, textWord);
+        pieces.Add(tag, TagColorCode(tag));
         first = false;
         ++pos;
     }
@@ -71,18 +82,24 @@ void ColorizeText(Frame& frame, QString& text, bool& keepDocument, bool caretToT
     if (!keepDocument)
         txtInput.SetText(QString());
     const InputOff off(txtInput);
-    state.RtfBuffer.reserve(state.RtfBuffer.size() + text.size() + text.size() / 4);
+    // Nothing else runs during a pass, so one look at the setting answers for every piece of it.
+    const bool colored = frame.Store().ReadNumber(Keys::ColoredTags) != 0;
+    QString plain;
+    QString& buffer = colored ? state.RtfBuffer : plain;
+    buffer.reserve(buffer.size() + text.size() + text.size() / 4);
+    Pieces pieces(buffer, colored);
 
     qsizetype last = 0;
-    if (!WriteTags(frame, text, keepDocument, last)) {
-        state.RtfFlushNow = true;
+    const bool tagged = GatherTags(pieces, text, keepDocument, last);
+    state.RtfFlushNow = true;
+    if (!tagged) {
         WriteColoredText(frame, text, textWord, false);
         keepDocument = false;
         return;
     }
-    state.RtfFlushNow = true;
-    // An unclosed "<" left last at 0: the whole text follows what was written already.
-    QString tail = textWord;
+    // The colour word travels inside the last piece. An unclosed "<" left last at 0: then that is the whole
+    // text.
+    QString tail = colored ? textWord : plain + textWord;
     tail += QStringView(text).mid(last);
     WriteColoredText(frame, tail, QString(), false);
     if (caretToTop)

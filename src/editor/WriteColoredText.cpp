@@ -7,22 +7,20 @@
 #include "platform/RichTextBox.h"
 #include "platform/Settings.h"
 
+#include <QVarLengthArray>
+#include <string_view>
+
 namespace {
 
 struct ColorRule {
-    QLatin1StringView found;
-    QLatin1StringView word;
+    std::string_view found;
+    const char* word;
 };
 
 // The first hit decides, wherever in the tag it stands: no tag name is parsed.
 constexpr ColorRule rules[] = {
-    {QLatin1StringView("embed"), QLatin1StringView("\\cf5 ")},
-    {QLatin1StringView("img"), QLatin1StringView("\\cf4 ")},
-    {QLatin1StringView("href"), QLatin1StringView("\\cf3 ")},
-    {QLatin1StringView("meta"), QLatin1StringView("\\cf6 ")},
-    {QLatin1StringView("a name"), QLatin1StringView("\\cf3 ")},
-    {QLatin1StringView("/a"), QLatin1StringView("\\cf3 ")},
-    {QLatin1StringView("!--"), QLatin1StringView("\\cf6 ")},
+    {"embed", "\\cf5 "},  {"img", "\\cf4 "}, {"href", "\\cf3 "}, {"meta", "\\cf6 "},
+    {"a name", "\\cf3 "}, {"/a", "\\cf3 "},  {"!--", "\\cf6 "},
 };
 
 void Flush(Frame& frame, EditorState& state, RichTextBox& txtInput) {
@@ -53,10 +51,18 @@ QString RtfHeader(Frame& frame) {
 }
 
 QString TagColorCode(QStringView tag) {
-    const QString lower = tag.toString().toLower();
+    // No character outside ASCII has a lower form within it, so bytes are enough to search in.
+    QVarLengthArray<char, 512> lower(tag.size());
+    for (qsizetype i = 0; i < tag.size(); ++i) {
+        const char16_t c = tag[i].unicode();
+        lower[i] = c >= u'A' && c <= u'Z' ? static_cast<char>(c + 32)
+                   : c < 128              ? static_cast<char>(c)
+                                          : '\x80';
+    }
+    const std::string_view text(lower.constData(), static_cast<size_t>(lower.size()));
     for (const ColorRule& rule : rules) {
-        if (lower.contains(rule.found))
-            return QString(rule.word);
+        if (text.find(rule.found) != std::string_view::npos)
+            return QString::fromLatin1(rule.word);
     }
     return QStringLiteral("\\cf2 ");
 }
@@ -71,6 +77,17 @@ void EscapeOpenBraces(QString& text) {
 
 void EscapeCloseBraces(QString& text) {
     text.replace(QStringLiteral("}"), QStringLiteral("\\}"));
+}
+
+void GatherPiece(QString& buffer, QStringView text, QStringView colorWord) {
+    buffer += colorWord;
+    qsizetype done = 0;
+    for (qsizetype end = text.indexOf(u"\r\n"); end >= 0; end = text.indexOf(u"\r\n", done)) {
+        buffer += text.sliced(done, end - done);
+        buffer += QLatin1StringView("\\par ");
+        done = end + 2;
+    }
+    buffer += text.sliced(done);
 }
 
 void WriteColoredText(Frame& frame, QString& text, const QString& colorWord, bool resetOnly) {
@@ -92,8 +109,7 @@ void WriteColoredText(Frame& frame, Document& document, QString& text, const QSt
         return;
     }
     text.replace(QStringLiteral("\r\n"), QStringLiteral("\\par "));
-    state.RtfBuffer += colorWord;
-    state.RtfBuffer += text;
+    GatherPiece(state.RtfBuffer, text, colorWord);
     if (state.RtfFlushNow)
         Flush(frame, state, document.txtInput());
 }

@@ -17,6 +17,9 @@ void WriteColoredText(Frame& frame, QString& text, const QString& colorWord, boo
 void WriteColoredText(Frame& frame, Document& document, QString& text, const QString& colorWord,
                       bool resetOnly);
 
+/// Puts a piece at the buffer's end: its colour word, then the text with "\par " for each CR LF.
+void GatherPiece(QString& buffer, QStringView text, QStringView colorWord);
+
 /// The colour word, "\cf2 " to "\cf6 ", of a piece of tag text: by substring of the whole text, in a fixed
 /// order.
 QString TagColorCode(QStringView tag);
