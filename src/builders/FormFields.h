@@ -1,0 +1,25 @@
+// What the controls of all tag dialogs have in common.
+#pragma once
+
+#include <QString>
+
+class QAbstractButton;
+class QComboBox;
+class QLineEdit;
+class QWidget;
+
+/// What a field holds, as a document can hold it: a character from outside code page 1252 as its decimal
+/// reference.
+QString FieldText(const QLineEdit* field);
+QString FieldText(const QComboBox* field);
+
+/// Makes every combo box of a form a plain field with a list beside it: empty at first, and holding just what
+/// is typed into it, never a list entry that merely begins the same way.
+void PrepareComboBoxes(QWidget& form);
+
+/// The face of a button that picks a file: the desktop's open folder.
+void ShowBrowseIcon(QAbstractButton* button);
+
+/// The face of a button that picks a colour: a patch of the colour that text names (`#RRGGBB` or a name), or
+/// an empty patch where it names none.
+void ShowColorIcon(QAbstractButton* button, const QString& text);

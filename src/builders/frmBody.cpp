@@ -1,0 +1,125 @@
+// The Body dialog: writes the document's body tag anew, from the colours that it found there.
+#include "builders/frmBody.h"
+
+#include "builders/BodyTag.h"
+#include "builders/BuilderState.h"
+#include "builders/FileDialogs.h"
+#include "builders/FormFields.h"
+#include "builders/PickColor.h"
+#include "editor/Document.h"
+#include "editor/Frame.h"
+#include "platform/RichTextBox.h"
+#include "ui_frmBody.h"
+
+namespace {
+
+constexpr int ColorCount = 5;
+
+/// Deletes the body tag that the selection holds or, with nothing selected, the document's first one; with
+/// none there the selection goes. One that never closes counts as none.
+void DeleteBodyTag(RichTextBox& txtInput) {
+    const int start = txtInput.SelStart();
+    const int length = txtInput.SelLength();
+    const int open = txtInput.Find(QStringLiteral("<body"));
+    const int close = open < 0 ? -1 : txtInput.FindForward(u'>', open);
+    txtInput.SetSelStart(close < 0 ? start : open);
+    txtInput.SetSelLength(close < 0 ? length : close - open + 1);
+    txtInput.SetSelText(QString());
+}
+
+} // namespace
+
+frmBody::frmBody(Frame& frame) : TagDialog(frame), ui_(std::make_unique<Ui::frmBody>()) {
+    ui_->setupUi(this);
+    Wire();
+    QPushButton* const buttons[] = {ui_->cmdShowColor_0, ui_->cmdShowColor_1, ui_->cmdShowColor_2,
+                                    ui_->cmdShowColor_3, ui_->cmdShowColor_4};
+    for (int index = 0; index < ColorCount; ++index) {
+        QPushButton* button = buttons[index];
+        ShowColorIcon(button, QString());
+        connect(ColorField(index), &QLineEdit::textChanged, button,
+                [button](const QString& text) { ShowColorIcon(button, text); });
+        connect(button, &QPushButton::clicked, this, [this, index] { cmdShowColor_Click(index); });
+    }
+    ClickLabel* const doubleClicked[] = {ui_->lblBG, ui_->lblText, ui_->lblLink, ui_->lblVlink};
+    for (int index = 0; index < ColorCount - 1; ++index)
+        connect(doubleClicked[index], &ClickLabel::DblClick, this,
+                [this, index] { cmdShowColor_Click(index); });
+    // The last one has always taken a single click.
+    connect(ui_->lblAlink, &ClickLabel::Click, this, [this] { cmdShowColor_Click(4); });
+    ShowBrowseIcon(ui_->Command1);
+    connect(ui_->Command1, &QPushButton::clicked, this, &frmBody::Command1_Click);
+    connect(ui_->txtBackground, &QLineEdit::textChanged, this, &frmBody::txtBackground_Change);
+    ConvertSlashesOnClick(*ui_->chkForwardSlash, {ui_->txtBackground});
+    // What a new page looks like where it names no colours; the desktop's own may be light on dark.
+    const QColor first[] = {Qt::white, Qt::black, QColor(0, 0, 255), QColor(128, 0, 128), QColor(255, 0, 0)};
+    for (int index = 0; index < ColorCount; ++index)
+        ShowSample(index, first[index]);
+    ReadColors();
+}
+
+frmBody::~frmBody() = default;
+
+void frmBody::ReadColors() {
+    Document* document = frame_.ActiveForm();
+    if (!document)
+        return;
+    const BodyFields colors = BodyColorsOf(document->txtInput().Text());
+    ui_->txtBG->setText(colors.bg);
+    ui_->txtText->setText(colors.text);
+    ui_->txtLink->setText(colors.link);
+    ui_->txtVlink->setText(colors.vlink);
+    ui_->txtAlink->setText(colors.alink);
+}
+
+QLineEdit* frmBody::ColorField(int index) const {
+    QLineEdit* const fields[] = {ui_->txtBG, ui_->txtText, ui_->txtLink, ui_->txtVlink, ui_->txtAlink};
+    return fields[index];
+}
+
+void frmBody::ShowSample(int index, const QColor& color) {
+    ClickLabel* const labels[] = {nullptr, ui_->lblText, ui_->lblLink, ui_->lblVlink, ui_->lblAlink};
+    if (index == 0)
+        ui_->Picture1->SetBackColor(color);
+    else
+        labels[index]->SetForeColor(color);
+}
+
+void frmBody::cmdShowColor_Click(int index) {
+    if (index < 0 || index >= ColorCount)
+        return;
+    const QString color = u'#' + ColorHex(PickColor(frame_, this));
+    ColorField(index)->setText(color);
+    ShowSample(index, QColor(color));
+}
+
+void frmBody::Command1_Click() {
+    PictureBrowse browse(frame_);
+    SharedFileDialog(frame_).SetFilter(FileFilter::Picture);
+    const auto path = browse.Show(this);
+    if (!path)
+        return;
+    // A file that is no picture leaves the sample as it is.
+    if (const QPixmap picture(*path); !picture.isNull())
+        ui_->Picture1->SetPicture(picture);
+    PickIntoField(frame_, *ui_->txtBackground, *path, ui_->chkAbsolute->isChecked(),
+                  ui_->chkForwardSlash->isChecked());
+}
+
+void frmBody::txtBackground_Change() {
+    if (ui_->txtBackground->text().isEmpty())
+        ui_->Picture1->SetPicture(QPixmap());
+}
+
+void frmBody::cmdOK_Click() {
+    const QString tag =
+        BodyTag(frame_, {FieldText(ui_->txtBG), FieldText(ui_->txtText), FieldText(ui_->txtLink),
+                         FieldText(ui_->txtVlink), FieldText(ui_->txtAlink), FieldText(ui_->txtBackground)});
+    if (Document* document = frame_.ActiveForm())
+        DeleteBodyTag(document->txtInput());
+    Insert(tag);
+    auto& state = frame_.State<BuilderState>();
+    state.LastBuiltTag = tag;
+    state.TagBuilt = true;
+    Unload();
+}

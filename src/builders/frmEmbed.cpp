@@ -1,0 +1,38 @@
+// The Embed dialog.
+#include "builders/frmEmbed.h"
+
+#include "builders/EmbedTag.h"
+#include "builders/FileDialogs.h"
+#include "builders/FormFields.h"
+#include "ui_frmEmbed.h"
+
+frmEmbed::frmEmbed(Frame& frame) : TagDialog(frame), ui_(std::make_unique<Ui::frmEmbed>()) {
+    ui_->setupUi(this);
+    Wire();
+    PrepareComboBoxes(*this);
+    ShowBrowseIcon(ui_->cmdGetFle);
+    ConvertSlashesOnClick(*ui_->chkForwardSlash, {ui_->txtURL});
+    connect(ui_->txtURL, &QLineEdit::textChanged, this, &frmEmbed::txtURL_Change);
+    connect(ui_->cmdGetFle, &QPushButton::clicked, this, &frmEmbed::cmdGetFle_Click);
+}
+
+frmEmbed::~frmEmbed() = default;
+
+void frmEmbed::txtURL_Change() {
+    ui_->cmdOK->setEnabled(!ui_->txtURL->text().isEmpty());
+}
+
+void frmEmbed::cmdGetFle_Click() {
+    SharedFileDialog dialog(frame_);
+    // There is one filter, and the second is asked for: the dialog comes up with the one there is.
+    dialog.SetFilter(FileFilter::AnyFile, 2);
+    if (const auto path = dialog.ShowOpen(this))
+        PickIntoField(frame_, *ui_->txtURL, *path, ui_->chkAbsolute->isChecked(),
+                      ui_->chkForwardSlash->isChecked());
+}
+
+void frmEmbed::cmdOK_Click() {
+    Insert(EmbedTag(frame_, {FieldText(ui_->txtWidth), FieldText(ui_->txtHeight), FieldText(ui_->cboPalette),
+                             FieldText(ui_->txtURL)}));
+    Unload();
+}

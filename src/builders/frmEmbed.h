@@ -1,0 +1,26 @@
+// The Embed dialog.
+#pragma once
+
+#include "builders/TagDialog.h"
+
+#include <memory>
+
+namespace Ui {
+class frmEmbed;
+}
+
+/// OK is enabled while there is a source.
+class frmEmbed final : public TagDialog {
+    Q_OBJECT
+
+  public:
+    explicit frmEmbed(Frame& frame);
+    ~frmEmbed() override;
+
+  private:
+    void txtURL_Change();
+    void cmdGetFle_Click();
+    void cmdOK_Click() override;
+
+    std::unique_ptr<Ui::frmEmbed> ui_;
+};

@@ -1,0 +1,41 @@
+// The Font dialog.
+#include "builders/frmFont.h"
+
+#include "builders/FontTag.h"
+#include "builders/FormFields.h"
+#include "builders/ListKeys.h"
+#include "builders/PickColor.h"
+#include "ui_frmFont.h"
+
+#include <QFontDatabase>
+
+frmFont::frmFont(Frame& frame) : TagDialog(frame), ui_(std::make_unique<Ui::frmFont>()) {
+    ui_->setupUi(this);
+    Wire();
+    ui_->List1->addItems(FaceNames(QFontDatabase::families()));
+    PrepareComboBoxes(*this);
+    ShowColorIcon(ui_->cmdShowColor, QString());
+    connect(ui_->txtFontColor, &QLineEdit::textChanged, this,
+            [this](const QString& text) { ShowColorIcon(ui_->cmdShowColor, text); });
+    connect(ui_->cmdShowColor, &QPushButton::clicked, this, &frmFont::cmdShowColor_Click);
+    connect(ui_->List1, &QListWidget::itemDoubleClicked, this, &frmFont::List1_DblClick);
+    OnListKeys(ui_->List1, {Qt::Key_Return, Qt::Key_Enter}, [this] { List1_DblClick(); });
+}
+
+frmFont::~frmFont() = default;
+
+void frmFont::cmdShowColor_Click() {
+    ui_->txtFontColor->setText(u'#' + ColorHex(PickColor(frame_, this)));
+}
+
+void frmFont::List1_DblClick() {
+    if (const QListWidgetItem* item = ui_->List1->currentItem())
+        ui_->txtFontFace->setText(WithFace(ui_->txtFontFace->text(), item->text()));
+}
+
+void frmFont::cmdOK_Click() {
+    const auto [open, close] = FontTag(
+        frame_, {FieldText(ui_->cboFontSize), FieldText(ui_->txtFontColor), FieldText(ui_->txtFontFace)});
+    Insert(open, close);
+    Unload();
+}

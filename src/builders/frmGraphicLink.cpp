@@ -1,0 +1,67 @@
+// The Image dialog: an image tag, bare or wrapped in a link.
+#include "builders/frmGraphicLink.h"
+
+#include "builders/BuilderState.h"
+#include "builders/FileDialogs.h"
+#include "builders/FormFields.h"
+#include "builders/ImageTag.h"
+#include "editor/Frame.h"
+#include "platform/Path.h"
+#include "ui_frmGraphicLink.h"
+
+frmGraphicLink::frmGraphicLink(Frame& frame) : TagDialog(frame), ui_(std::make_unique<Ui::frmGraphicLink>()) {
+    ui_->setupUi(this);
+    Wire();
+    PrepareComboBoxes(*this);
+    for (QPushButton* button : {ui_->cmdPicOpen, ui_->cmdOpen2, ui_->cmdLinkMe})
+        ShowBrowseIcon(button);
+    ConvertSlashesOnClick(*ui_->chkForwardSlash, {ui_->txtURL, ui_->txtLowSRC});
+    connect(ui_->cmdPicOpen, &QPushButton::clicked, this, &frmGraphicLink::cmdPicOpen_Click);
+    connect(ui_->cmdOpen2, &QPushButton::clicked, this, &frmGraphicLink::cmdOpen2_Click);
+    connect(ui_->cmdLinkMe, &QPushButton::clicked, this, &frmGraphicLink::cmdLinkMe_Click);
+}
+
+frmGraphicLink::~frmGraphicLink() = default;
+
+void frmGraphicLink::cmdPicOpen_Click() {
+    PictureBrowse browse(frame_);
+    SharedFileDialog(frame_).SetFilter(FileFilter::Picture);
+    const auto path = browse.Show(this);
+    if (!path)
+        return;
+    PickIntoField(frame_, *ui_->txtURL, *path, ui_->chkAbsolute->isChecked(),
+                  ui_->chkForwardSlash->isChecked());
+    const QSize size = browse.PictureSize();
+    ui_->txtWidth->setText(QString::number(size.width()));
+    ui_->txtHeight->setText(QString::number(size.height()));
+    if (ui_->txtALT->text().isEmpty())
+        ui_->txtALT->setText(Path::FileName(*path));
+}
+
+void frmGraphicLink::cmdOpen2_Click() {
+    PictureBrowse browse(frame_);
+    if (const auto path = browse.Show(this))
+        PickIntoField(frame_, *ui_->txtLowSRC, *path, ui_->chkAbsolute->isChecked(),
+                      ui_->chkForwardSlash->isChecked());
+}
+
+void frmGraphicLink::cmdLinkMe_Click() {
+    ui_->txtLinkMe->clear();
+    SharedFileDialog dialog(frame_);
+    dialog.SetFilter(FileFilter::LinkTarget, 2);
+    if (const auto path = dialog.ShowOpen(this))
+        PickIntoField(frame_, *ui_->txtLinkMe, *path, false, ui_->chkForwardSlash->isChecked());
+}
+
+void frmGraphicLink::cmdOK_Click() {
+    const QString tag =
+        ImageTag(frame_, {FieldText(ui_->txtURL), FieldText(ui_->txtLowSRC), FieldText(ui_->txtALT),
+                          FieldText(ui_->txtWidth), FieldText(ui_->txtHeight), FieldText(ui_->txtHSpace),
+                          FieldText(ui_->txtVSpace), FieldText(ui_->txtBorder), FieldText(ui_->txtUseMap),
+                          ui_->chkISMAP->isChecked(), FieldText(ui_->txtLinkMe)});
+    Insert(tag);
+    auto& state = frame_.State<BuilderState>();
+    state.LastBuiltTag = tag;
+    state.TagBuilt = true;
+    Unload();
+}

@@ -1,0 +1,30 @@
+// The Image dialog: an image tag, bare or wrapped in a link.
+#pragma once
+
+#include "builders/TagDialog.h"
+
+#include <memory>
+
+namespace Ui {
+class frmGraphicLink;
+}
+
+class frmGraphicLink final : public TagDialog {
+    Q_OBJECT
+
+  public:
+    explicit frmGraphicLink(Frame& frame);
+    ~frmGraphicLink() override;
+
+  private:
+    /// Picks the picture and fills in its size, and its name where there is no alternate text yet.
+    void cmdPicOpen_Click();
+    /// Picks the low source under the filter that the last browse had.
+    void cmdOpen2_Click();
+    /// Picks the link's target, relative to the document whatever chkAbsolute says.
+    void cmdLinkMe_Click();
+    /// Leaves cboAlign out: no image tag gets an alignment from here.
+    void cmdOK_Click() override;
+
+    std::unique_ptr<Ui::frmGraphicLink> ui_;
+};

@@ -1,0 +1,38 @@
+// The Link dialog: an anchor around the selection.
+#include "builders/frmLinks.h"
+
+#include "builders/FileDialogs.h"
+#include "builders/FormFields.h"
+#include "builders/LinkTag.h"
+#include "ui_frmLinks.h"
+
+frmLinks::frmLinks(Frame& frame) : TagDialog(frame), ui_(std::make_unique<Ui::frmLinks>()), dialog_(frame) {
+    ui_->setupUi(this);
+    Wire();
+    ui_->cboChoice->addItems({QStringLiteral("http://"), QStringLiteral("ftp://"), QStringLiteral("mailto:"),
+                              QStringLiteral("news:"), QStringLiteral("newsrc:"), QStringLiteral("telnet://"),
+                              QStringLiteral("wais://"), QStringLiteral("gopher://")});
+    PrepareComboBoxes(*this);
+    ShowBrowseIcon(ui_->cmdOpen);
+    ConvertSlashesOnClick(*ui_->chkForwardSlash, {ui_->txtURL});
+    connect(ui_->cmdOpen, &QPushButton::clicked, this, &frmLinks::cmdOpen_Click);
+}
+
+frmLinks::~frmLinks() = default;
+
+void frmLinks::cmdOpen_Click() {
+    ui_->txtURL->clear();
+    dialog_.SetFilter(FileFilter::Document);
+    dialog_.SetFilterIndex(2);
+    dialog_.ShowOpen(this);
+    // A cancel is not told apart: the way to an empty name is what the field receives then.
+    PickIntoField(frame_, *ui_->txtURL, dialog_.SelectedFile(1), ui_->chkAbsolute->isChecked(),
+                  ui_->chkForwardSlash->isChecked());
+}
+
+void frmLinks::cmdOK_Click() {
+    const auto [open, close] = LinkTag(frame_, {FieldText(ui_->cboChoice), FieldText(ui_->txtURL),
+                                                FieldText(ui_->txtAnchor), FieldText(ui_->txtTarget)});
+    Insert(open, close);
+    Unload();
+}

@@ -1,0 +1,21 @@
+// The MultiColumn dialog: lays the selection out in columns.
+#include "builders/frmMulti.h"
+
+#include "builders/ColumnTags.h"
+#include "builders/FormFields.h"
+#include "ui_frmMulti.h"
+
+frmMulti::frmMulti(Frame& frame) : TagDialog(frame), ui_(std::make_unique<Ui::frmMulti>()) {
+    ui_->setupUi(this);
+    connect(ui_->Command1, &QPushButton::clicked, this, &frmMulti::cmdOK_Click);
+    connect(ui_->Command2, &QPushButton::clicked, this, &frmMulti::reject);
+}
+
+frmMulti::~frmMulti() = default;
+
+void frmMulti::cmdOK_Click() {
+    const auto [open, close] =
+        MultiColumnTag(frame_, FieldText(ui_->txtCols), FieldText(ui_->txtGutter), FieldText(ui_->txtWidth));
+    Insert(open, close);
+    Unload();
+}

@@ -1,0 +1,21 @@
+// The JAVA Parameters dialog: writes one parameter after the other and stays open.
+#include "builders/frmParam.h"
+
+#include "builders/AppletTags.h"
+#include "builders/FormFields.h"
+#include "ui_frmParam.h"
+
+frmParam::frmParam(Frame& frame) : TagDialog(frame), ui_(std::make_unique<Ui::frmParam>()) {
+    ui_->setupUi(this);
+    Wire();
+}
+
+frmParam::~frmParam() = default;
+
+void frmParam::cmdOK_Click() {
+    Insert(ParamTag(frame_, FieldText(ui_->txtName), FieldText(ui_->txtValue)));
+    ui_->txtName->clear();
+    ui_->txtValue->clear();
+    // Ready for the next name, for those who go by keys.
+    ui_->txtName->setFocus();
+}

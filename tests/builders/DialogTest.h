@@ -1,0 +1,69 @@
+// Opens a tag dialog by its command and uses it as a person does: fields by name, buttons by mouse, keys.
+#pragma once
+
+#include "builders/DialogCommands.h"
+#include "support/TestFrame.h"
+
+#include <gtest/gtest.h>
+#include <QAbstractButton>
+#include <QComboBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QTest>
+
+class DialogTest : public testing::Test {
+  protected:
+    void SetUp() override { FillDialogCommands(frame); }
+
+    /// Runs a command and makes the form that it shows the one that the other calls work on.
+    QWidget& Open(const QString& command, const QString& name) {
+        frame.Commands().Run(command);
+        form = frame.LoadedForms().Find(name);
+        EXPECT_TRUE(form && form->isVisible()) << name.toStdString();
+        return *form;
+    }
+    bool Loaded(const QString& name) { return frame.LoadedForms().Find(name) != nullptr; }
+
+    template <typename T> T& Control(const QString& name) {
+        T* control = form->findChild<T*>(name);
+        if (!control)
+            qFatal("no control %s", qPrintable(name));
+        return *control;
+    }
+    QString Field(const QString& name) {
+        QWidget& control = Control<QWidget>(name);
+        if (auto* combo = qobject_cast<QComboBox*>(&control))
+            return combo->currentText();
+        return Control<QLineEdit>(name).text();
+    }
+    void Fill(const QString& name, const QString& text) {
+        QWidget& control = Control<QWidget>(name);
+        if (auto* combo = qobject_cast<QComboBox*>(&control))
+            combo->setEditText(text);
+        else
+            Control<QLineEdit>(name).setText(text);
+    }
+    void Press(const QString& name) { QTest::mouseClick(&Control<QAbstractButton>(name), Qt::LeftButton); }
+
+    /// The text of the label whose buddy a field is, as it is read.
+    QString LabelOf(const QString& field) {
+        for (const QLabel* label : form->findChildren<QLabel*>()) {
+            if (label->buddy() && label->buddy()->objectName() == field)
+                return label->text().remove(u'&');
+        }
+        return QString();
+    }
+    QString Tip(const QString& name) { return Control<QWidget>(name).toolTip(); }
+    QStringList Items(const QString& combo) {
+        QStringList items;
+        for (int i = 0; i < Control<QComboBox>(combo).count(); ++i)
+            items << Control<QComboBox>(combo).itemText(i);
+        return items;
+    }
+    QString Text() { return frame.Box().Text(); }
+    void LowerCaseTags() { frame.Store().WriteFlag(Keys::LowerCaseTags, true); }
+
+    TestFrame frame;
+    QWidget* form = nullptr;
+};
