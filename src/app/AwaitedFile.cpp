@@ -7,7 +7,6 @@
 #include "editor/Frame.h"
 
 #include <algorithm>
-#include <chrono>
 #include <QApplication>
 #include <QPointer>
 #include <QWidget>
@@ -16,8 +15,8 @@ using namespace std::chrono_literals;
 
 namespace {
 
-constexpr auto firstInterval = 100ms;
-constexpr auto longestInterval = 2000ms;
+constexpr std::chrono::milliseconds firstPause = 100ms;
+constexpr std::chrono::milliseconds longestPause = 2000ms;
 
 /// A question or a menu is up, which the user answers for the document that is active now.
 bool UserIsBusy() {
@@ -30,7 +29,7 @@ AwaitedFile::AwaitedFile(Frame& frame, Document& document, const QString& path)
     : QObject(&document.Window()), frame_(frame), document_(document), frameWindow_(frame.Window()),
       path_(path) {
     timer_.setSingleShot(true);
-    timer_.setInterval(firstInterval);
+    timer_.setInterval(firstPause);
     connect(&timer_, &QTimer::timeout, this, &AwaitedFile::TryAgain);
     timer_.start();
     Announce();
@@ -40,6 +39,10 @@ AwaitedFile::~AwaitedFile() {
     // Posted, so that it comes to nothing where the window goes because the frame itself does.
     QMetaObject::invokeMethod(
         frameWindow_, [&frame = frame_] { frame.SetStatusPanel(QString()); }, Qt::QueuedConnection);
+}
+
+std::chrono::milliseconds AwaitedFile::NextPause(std::chrono::milliseconds last) {
+    return std::min(last * 2, longestPause);
 }
 
 void AwaitedFile::TryAgain() {
@@ -56,7 +59,7 @@ void AwaitedFile::TryAgain() {
         if (frame_.ActiveForm() == &document_)
             Announce();
     }
-    timer_.setInterval(std::min(timer_.intervalAsDuration() * 2, std::chrono::milliseconds(longestInterval)));
+    timer_.setInterval(NextPause(timer_.intervalAsDuration()));
     timer_.start();
 }
 

@@ -1,6 +1,7 @@
 // A file that could not be read when it was opened: its blank window waits for it.
 #pragma once
 
+#include <chrono>
 #include <QObject>
 #include <QString>
 #include <QTimer>
@@ -18,6 +19,10 @@ class AwaitedFile : public QObject {
   public:
     AwaitedFile(Frame& frame, Document& document, const QString& path);
     ~AwaitedFile() override;
+
+    std::chrono::milliseconds Pause() const { return timer_.intervalAsDuration(); }
+    /// The pause before the next try: twice the last one, two seconds at most.
+    static std::chrono::milliseconds NextPause(std::chrono::milliseconds last);
 
   private:
     void TryAgain();

@@ -5,6 +5,7 @@
 #include "app/OpenDocument.h"
 #include "app/RecentFiles.h"
 #include "builders/BuilderState.h"
+#include "builders/FileDialogs.h"
 #include "editor/Commands.h"
 #include "editor/Document.h"
 #include "editor/Frame.h"
@@ -17,15 +18,13 @@
 
 namespace {
 
-/// The HTML files of the filter are the ones shown at first.
-FileRequest DocumentRequest() {
+/// The HTML files of the filter are the ones shown at first. The dialog is the one that the tag dialogs
+/// share: a browse of theirs that sets no filter shows this one.
+FileRequest DocumentRequest(Frame& frame) {
     FileRequest request;
-    request.filter = QStringLiteral("All Files (*.*)|*.*|"
-                                    "HTML Files (*.htm);(*.html);(*.shtml)|*.htm;*.html;*.shtml|"
-                                    "MS Files (*.htx);(*.asp);(*.idc)|*.htx;*.asp;*.idc|"
-                                    "Server Files (*.cgi);(*.pl)|*.cgi;*.pl|"
-                                    "Text Files (*.txt)|*.txt|");
+    request.filter = FileFilter::Document;
     request.filterIndex = 2;
+    SharedFileDialog(frame).SetFilter(request.filter, request.filterIndex);
     return request;
 }
 
@@ -38,8 +37,8 @@ bool MayOverwrite(Frame& frame, const QString& path) {
 
 /// The file to save as; cancelled where the user wants none. A refused overwrite shows the dialog anew.
 FileAnswer AskWhereToSave(Frame& frame) {
-    FileRequest request = DocumentRequest();
     while (true) {
+        FileRequest request = DocumentRequest(frame);
         request.defaultExtension =
             frame.Store().ReadFlag(Keys::UseHTM) ? QStringLiteral("htm") : QStringLiteral("html");
         request.folder = frame.State<BuilderState>().LastDir;
@@ -71,7 +70,7 @@ void FillFileCommands(Frame& frame) {
 }
 
 void mnuOpen_Click(Frame& frame) {
-    FileRequest request = DocumentRequest();
+    FileRequest request = DocumentRequest(frame);
     request.multiSelect = true;
     request.folder = frame.State<BuilderState>().LastDir;
     const FileAnswer answer = frame.Ask().OpenFile(frame.Window(), request);
@@ -113,7 +112,7 @@ void mnuSaveAs_Click(Frame& frame) {
 void mnuInsertContents_Click(Frame& frame) {
     if (!frame.ActiveForm())
         return;
-    const FileAnswer answer = frame.Ask().OpenFile(frame.Window(), DocumentRequest());
+    const FileAnswer answer = frame.Ask().OpenFile(frame.Window(), DocumentRequest(frame));
     Document* document = frame.ActiveForm();
     if (answer.Cancelled() || !document)
         return;

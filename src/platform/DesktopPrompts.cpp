@@ -165,7 +165,8 @@ MsgAnswer DesktopPrompts::MsgBox(QWidget* owner, const QString& text, MsgButtons
     Box box(owner);
     box.setWindowTitle(title);
     box.setTextFormat(Qt::PlainText);
-    box.setText(QString(text).replace(QStringLiteral("\r\n"), QStringLiteral("\n")));
+    // A lone carriage return ends a line too.
+    box.setText(QString(text).replace(QStringLiteral("\r\n"), QStringLiteral("\n")).replace(u'\r', u'\n'));
     box.setIcon(Standard(icon));
     box.setStandardButtons(Standard(buttons));
     box.setDefaultButton(First(buttons));
