@@ -150,8 +150,10 @@ FileAnswer Run(QFileDialog& dialog, const FileRequest& request) {
     if (!request.fileName.isEmpty())
         dialog.selectFile(request.fileName);
     if (request.selectionChanged)
-        QObject::connect(&dialog, &QFileDialog::currentChanged, &dialog,
-                         [&request](const QString& path) { request.selectionChanged(path); });
+        QObject::connect(&dialog, &QFileDialog::currentChanged, &dialog, [&request](const QString& path) {
+            if (!path.isEmpty())
+                request.selectionChanged(path);
+        });
     std::optional<BorrowedPanel> panel;
     if (request.panel)
         panel.emplace(dialog, *request.panel);

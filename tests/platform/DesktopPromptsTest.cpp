@@ -1,0 +1,261 @@
+// The real dialogs, driven as a person drives them while they are up.
+#include "platform/DesktopPrompts.h"
+
+#include "support/FreshUser.h"
+#include "support/Text.h"
+
+#include <functional>
+#include <gtest/gtest.h>
+#include <QApplication>
+#include <QColorDialog>
+#include <QComboBox>
+#include <QDialogButtonBox>
+#include <QDir>
+#include <QFile>
+#include <QFileDialog>
+#include <QInputDialog>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListView>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QTest>
+#include <QTimer>
+
+namespace {
+
+/// Does something with the dialog of type T as soon as it is up.
+template <typename T> class WhenUp : public QObject {
+  public:
+    explicit WhenUp(std::function<void(T&)> act) {
+        connect(&timer_, &QTimer::timeout, this, [this, act] {
+            auto* dialog = qobject_cast<T*>(QApplication::activeModalWidget());
+            if (!dialog || done_)
+                return;
+            done_ = true;
+            act(*dialog);
+        });
+        timer_.start(0);
+    }
+    ~WhenUp() override { EXPECT_TRUE(done_) << "no dialog came"; }
+
+  private:
+    QTimer timer_;
+    bool done_ = false;
+};
+
+void Write(const QString& name) {
+    QFile file(TestFolder() + u'/' + name);
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write("x");
+}
+
+class DesktopPromptsTest : public testing::Test {
+  protected:
+    void SetUp() override { FreshUser(); }
+    DesktopPrompts prompts;
+    QWidget owner;
+};
+
+} // namespace
+
+TEST_F(DesktopPromptsTest, MessageBoxShowsIconButtonsAndTitle) {
+    struct Row {
+        MsgButtons buttons;
+        MsgIcon icon;
+        QMessageBox::StandardButtons expectedButtons;
+        QMessageBox::Icon expectedIcon;
+        QMessageBox::StandardButton press;
+        MsgAnswer answer;
+    };
+    using Q = QMessageBox;
+    const Row rows[] = {
+        {MsgButtons::OK, MsgIcon::Information, Q::Ok, Q::Information, Q::Ok, MsgAnswer::OK},
+        {MsgButtons::OKCancel, MsgIcon::Critical, Q::Ok | Q::Cancel, Q::Critical, Q::Cancel,
+         MsgAnswer::Cancel},
+        {MsgButtons::OKCancel, MsgIcon::None, Q::Ok | Q::Cancel, Q::NoIcon, Q::Ok, MsgAnswer::OK},
+        {MsgButtons::YesNo, MsgIcon::Question, Q::Yes | Q::No, Q::Question, Q::No, MsgAnswer::No},
+        {MsgButtons::YesNoCancel, MsgIcon::Exclamation, Q::Yes | Q::No | Q::Cancel, Q::Warning, Q::Yes,
+         MsgAnswer::Yes},
+    };
+    for (const Row& row : rows) {
+        WhenUp<QMessageBox> act([&](QMessageBox& box) {
+            EXPECT_EQ(box.windowTitle(), QStringLiteral("The Tarnwick"));
+            EXPECT_EQ(box.text(), QStringLiteral("line <b>one</b>\nline two"));
+            EXPECT_EQ(box.textFormat(), Qt::PlainText);
+            EXPECT_EQ(box.standardButtons(), row.expectedButtons);
+            EXPECT_EQ(box.icon(), row.expectedIcon);
+            QTest::mouseClick(box.button(row.press), Qt::LeftButton);
+        });
+        EXPECT_EQ(prompts.MsgBox(&owner, QStringLiteral("line <b>one</b>\r\nline two"), row.buttons, row.icon,
+                                 QStringLiteral("The Tarnwick")),
+                  row.answer);
+    }
+}
+
+TEST_F(DesktopPromptsTest, BoxWithoutATitleHasAnEmptyOne) {
+    WhenUp<QMessageBox> act([](QMessageBox& box) {
+        EXPECT_EQ(box.windowTitle(), QString());
+        box.accept();
+    });
+    prompts.MsgBox(&owner, QStringLiteral("text"), MsgButtons::OK, MsgIcon::None, QString());
+}
+
+TEST_F(DesktopPromptsTest, EscapeCancelsAndEnterTakesTheFirstButton) {
+    {
+        WhenUp<QMessageBox> act([](QMessageBox& box) { QTest::keyClick(&box, Qt::Key_Escape); });
+        EXPECT_EQ(
+            prompts.MsgBox(&owner, QStringLiteral("?"), MsgButtons::YesNoCancel, MsgIcon::None, QString()),
+            MsgAnswer::Cancel);
+    }
+    {
+        WhenUp<QMessageBox> act([](QMessageBox& box) { QTest::keyClick(box.focusWidget(), Qt::Key_Return); });
+        EXPECT_EQ(prompts.MsgBox(&owner, QStringLiteral("?"), MsgButtons::YesNo, MsgIcon::None, QString()),
+                  MsgAnswer::Yes);
+    }
+    {
+        WhenUp<QMessageBox> act([](QMessageBox& box) {
+            QTest::keyClick(&box, Qt::Key_Escape);
+            EXPECT_TRUE(box.isVisible()) << "there is no way out but the two answers";
+            box.close();
+            EXPECT_TRUE(box.isVisible());
+            QTest::mouseClick(box.button(QMessageBox::Yes), Qt::LeftButton);
+        });
+        EXPECT_EQ(prompts.MsgBox(&owner, QStringLiteral("?"), MsgButtons::YesNo, MsgIcon::None, QString()),
+                  MsgAnswer::Yes);
+    }
+}
+
+TEST_F(DesktopPromptsTest, InputBoxGivesTheTextOrNothing) {
+    {
+        WhenUp<QInputDialog> act([](QInputDialog& dialog) {
+            EXPECT_EQ(dialog.windowTitle(), QStringLiteral("Title"));
+            EXPECT_EQ(dialog.labelText(), QStringLiteral("How many?"));
+            auto* edit = dialog.findChild<QLineEdit*>();
+            EXPECT_EQ(edit->text(), QStringLiteral("3"));
+            edit->setText(QStringLiteral("a\u2603"));
+            dialog.accept();
+        });
+        EXPECT_EQ(prompts.InputBox(&owner, QStringLiteral("How many?"), QStringLiteral("Title"),
+                                   QStringLiteral("3")),
+                  QStringLiteral("a&#9731;"));
+    }
+    WhenUp<QInputDialog> act([](QInputDialog& dialog) {
+        EXPECT_EQ(dialog.windowTitle(), QString());
+        QTest::keyClick(&dialog, Qt::Key_Escape);
+    });
+    EXPECT_EQ(prompts.InputBox(&owner, QStringLiteral("?"), QString(), QStringLiteral("3")), QString());
+}
+
+TEST_F(DesktopPromptsTest, ColourDialogHandsCustomColoursInAndOut) {
+    QByteArray custom(64, '\0');
+    custom[4] = char(1);
+    custom[5] = char(2);
+    custom[6] = char(3);
+    {
+        WhenUp<QColorDialog> act([](QColorDialog& dialog) {
+            EXPECT_EQ(QColorDialog::customColor(0), QColor(0, 0, 0));
+            EXPECT_EQ(QColorDialog::customColor(1), QColor(1, 2, 3));
+            QColorDialog::setCustomColor(15, QColor(250, 251, 252));
+            dialog.setCurrentColor(QColor(255, 128, 1));
+            dialog.accept();
+        });
+        EXPECT_EQ(prompts.ChooseColor(&owner, custom), 255 + 128 * 256 + 1 * 65536);
+    }
+    EXPECT_EQ(custom.size(), 64);
+    EXPECT_EQ(custom.mid(60, 4), QByteArray("\xfa\xfb\xfc\0", 4));
+    EXPECT_EQ(custom.mid(4, 4), QByteArray("\1\2\3\0", 4));
+    const QByteArray before = custom;
+    WhenUp<QColorDialog> act([](QColorDialog& dialog) {
+        QColorDialog::setCustomColor(2, QColor(9, 9, 9));
+        dialog.reject();
+    });
+    EXPECT_EQ(prompts.ChooseColor(&owner, custom), std::nullopt);
+    EXPECT_EQ(custom, before);
+}
+
+TEST_F(DesktopPromptsTest, OpenDialogHasFiltersFolderAndPanelAndTellsTheSelection) {
+    Write(QStringLiteral("a.gif"));
+    Write(QStringLiteral("b.htm"));
+    Write(QStringLiteral("README"));
+    QWidget home;
+    auto* panel = new QLabel(QStringLiteral("preview"), &home);
+    QStringList selected;
+    FileRequest request;
+    request.filter = QStringLiteral("Image Files (*.gif)|*.gif|All files (*.*)|*.*");
+    request.filterIndex = 2;
+    request.folder = TestFolder();
+    request.panel = panel;
+    request.selectionChanged = [&](const QString& path) { selected << path; };
+    WhenUp<QFileDialog> act([&](QFileDialog& dialog) {
+        EXPECT_EQ(dialog.directory().absolutePath(), TestFolder());
+        EXPECT_EQ(dialog.nameFilters().size(), 2);
+        auto* types = dialog.findChild<QComboBox*>(QStringLiteral("fileTypeCombo"));
+        ASSERT_NE(types, nullptr);
+        EXPECT_EQ(types->itemText(0), QStringLiteral("Image Files (*.gif)"));
+        EXPECT_EQ(types->currentIndex(), 1);
+        EXPECT_EQ(panel->window(), &dialog);
+        EXPECT_TRUE(panel->isVisible());
+        EXPECT_EQ(panel->size(), QSize(200, 200));
+        auto* list = dialog.findChild<QListView*>(QStringLiteral("listView"));
+        ASSERT_NE(list, nullptr);
+        EXPECT_GT(panel->mapTo(&dialog, QPoint()).x(), list->mapTo(&dialog, QPoint()).x());
+        ASSERT_TRUE(QTest::qWaitFor([&] { return list->model()->rowCount(list->rootIndex()) == 3; }));
+        list->setCurrentIndex(list->model()->index(1, 0, list->rootIndex()));
+        dialog.selectFile(TestFolder() + QStringLiteral("/a.gif"));
+        QTest::mouseClick(dialog.findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Open),
+                          Qt::LeftButton);
+    });
+    const FileAnswer answer = prompts.OpenFile(&owner, request);
+    EXPECT_EQ(answer.folder, TestFolder() + u'/');
+    EXPECT_EQ(answer.names, QStringList{QStringLiteral("a.gif")});
+    EXPECT_FALSE(selected.isEmpty());
+    for (const QString& path : selected)
+        EXPECT_TRUE(path.startsWith(TestFolder() + u'/')) << path.toStdString();
+    EXPECT_EQ(panel->parentWidget(), &home) << "the panel goes back";
+    EXPECT_FALSE(panel->isVisible());
+}
+
+TEST_F(DesktopPromptsTest, SeveralFilesComeWithTheirFolder) {
+    Write(QStringLiteral("a.htm"));
+    Write(QStringLiteral("b.htm"));
+    FileRequest request;
+    request.folder = TestFolder();
+    request.multiSelect = true;
+    WhenUp<QFileDialog> act([&](QFileDialog& dialog) {
+        EXPECT_EQ(dialog.fileMode(), QFileDialog::ExistingFiles);
+        dialog.findChild<QLineEdit*>(QStringLiteral("fileNameEdit"))
+            ->setText(QStringLiteral("\"a.htm\" \"b.htm\""));
+        QTest::mouseClick(dialog.findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Open),
+                          Qt::LeftButton);
+    });
+    const FileAnswer answer = prompts.OpenFile(&owner, request);
+    EXPECT_EQ(answer.folder, TestFolder() + u'/');
+    EXPECT_EQ(answer.names, (QStringList{QStringLiteral("a.htm"), QStringLiteral("b.htm")}));
+}
+
+TEST_F(DesktopPromptsTest, CancelledDialogAnswersNothing) {
+    FileRequest request;
+    request.folder = TestFolder();
+    WhenUp<QFileDialog> act([](QFileDialog& dialog) { dialog.reject(); });
+    const FileAnswer answer = prompts.OpenFile(&owner, request);
+    EXPECT_TRUE(answer.Cancelled());
+    EXPECT_EQ(answer.folder, QString());
+}
+
+TEST_F(DesktopPromptsTest, SaveAddsTheExtensionAndAsksNoOverwriteQuestion) {
+    Write(QStringLiteral("old.htm"));
+    FileRequest request;
+    request.folder = TestFolder();
+    request.defaultExtension = QStringLiteral("htm");
+    WhenUp<QFileDialog> act([&](QFileDialog& dialog) {
+        EXPECT_EQ(dialog.acceptMode(), QFileDialog::AcceptSave);
+        EXPECT_TRUE(dialog.testOption(QFileDialog::DontConfirmOverwrite));
+        dialog.findChild<QLineEdit*>(QStringLiteral("fileNameEdit"))->setText(QStringLiteral("old"));
+        QTest::mouseClick(dialog.findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Save),
+                          Qt::LeftButton);
+    });
+    const FileAnswer answer = prompts.SaveFile(&owner, request);
+    EXPECT_EQ(answer.names, QStringList{QStringLiteral("old.htm")});
+    EXPECT_EQ(answer.folder, TestFolder() + u'/');
+}

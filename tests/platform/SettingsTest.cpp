@@ -1,0 +1,347 @@
+// The settings store: what is written comes back, whatever it holds, and a damaged file harms nobody.
+#include "platform/Settings.h"
+
+#include "platform/ProgramFolder.h"
+#include "support/FreshUser.h"
+#include "support/Text.h"
+
+#include <gtest/gtest.h>
+#include <QCoreApplication>
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+
+namespace {
+
+constexpr auto OnlyTheUser =
+    QFileDevice::ReadOwner | QFileDevice::WriteOwner | QFileDevice::ReadUser | QFileDevice::WriteUser;
+
+QString File(const QString& application = Keys::Tarnwick) {
+    return SettingsFolder() + u'/' + application + QStringLiteral(".ini");
+}
+
+void WriteFile(const QByteArray& content) {
+    QFile file(File());
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write(content);
+}
+
+QByteArray Content() {
+    QFile file(File());
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+void Store(const SettingsKey& key, const QString& text) {
+    Settings().Write(key, text);
+}
+QString Stored(const SettingsKey& key) {
+    return Settings().Read(key);
+}
+
+class SettingsTest : public testing::Test {
+  protected:
+    void SetUp() override { FreshUser(); }
+};
+
+} // namespace
+
+TEST_F(SettingsTest, FreshStoreGivesTheDefaults) {
+    struct Row {
+        SettingsKey key;
+        const char* section;
+        const char* name;
+        QString standard;
+    };
+    const QString home = ProgramFolder();
+    const Row rows[] = {
+        {Keys::MainFormHeight, "Window Options", "MainFormHeight", QStringLiteral("0")},
+        {Keys::MainFormWidth, "Window Options", "MainFormWidth", QStringLiteral("0")},
+        {Keys::MainFormLeft, "Window Options", "MainFormLeft", QStringLiteral("0")},
+        {Keys::MainFormTop, "Window Options", "MainFormTop", QStringLiteral("0")},
+        {Keys::MainWindowState, "Window Options", "MainWindowState", QStringLiteral("0")},
+        {Keys::TemplateWindowState, "Window Options", "TemplateWindowState", QStringLiteral("2")},
+        {Keys::FirstTimeAgain, "Window Options", "FirstTimeAgain", QStringLiteral("0")},
+        {Keys::UseMSIE, "Window Options", "UseMSIE", QStringLiteral("0")},
+        {Keys::ShowUserButtons, "Window Options", "ShowUserButtons", QStringLiteral("0")},
+        {Keys::ColoredTags, "Window Options", "ColoredTags", QStringLiteral("1")},
+        {Keys::ConvertChar, "Window Options", "ConvertChar", QStringLiteral("1")},
+        {Keys::TextColor[0], "Window Options", "TextColor0", QStringLiteral("0")},
+        {Keys::TextColor[1], "Window Options", "TextColor1", QStringLiteral("16711680")},
+        {Keys::TextColor[2], "Window Options", "TextColor2", QStringLiteral("32768")},
+        {Keys::TextColor[3], "Window Options", "TextColor3", QStringLiteral("255")},
+        {Keys::TextColor[4], "Window Options", "TextColor4", QStringLiteral("32767")},
+        {Keys::TextColor[5], "Window Options", "TextColor5", QStringLiteral("8421504")},
+        {Keys::EdTextColor[0], "Window Options", "EdTextColor0", QStringLiteral("\\red0\\green0\\blue0")},
+        {Keys::EdTextColor[1], "Window Options", "EdTextColor1", QStringLiteral("\\red0\\green0\\blue255")},
+        {Keys::EdTextColor[2], "Window Options", "EdTextColor2", QStringLiteral("\\red0\\green128\\blue0")},
+        {Keys::EdTextColor[3], "Window Options", "EdTextColor3", QStringLiteral("\\red255\\green0\\blue0")},
+        {Keys::EdTextColor[4], "Window Options", "EdTextColor4", QStringLiteral("\\red255\\green127\\blue0")},
+        {Keys::EdTextColor[5], "Window Options", "EdTextColor5",
+         QStringLiteral("\\red128\\green128\\blue128")},
+        {Keys::Background2, "Window Options", "Background2", QStringLiteral("16777215")},
+        {Keys::LinkColor, "Window Options", "LinkColor", QStringLiteral("8421376")},
+        {Keys::EditorFont, "Window Options", "EditorFont", QStringLiteral("Arial")},
+        {Keys::EditorFontSize, "Window Options", "EditorFontSize", QStringLiteral("10")},
+        {Keys::UserTemplate, "Window Options", "UserTemplate", QString()},
+        {Keys::ReloadFlag, "Window Options", "ReloadFlag", QStringLiteral("False")},
+        {Keys::TheOpenFile, "Window Options", "TheOpenFile", QString()},
+        {Keys::LastDir(), "Window Options", "LastDir", home},
+        {Keys::TabOption, "Window Options", "TabOption", QStringLiteral("False")},
+        {Keys::UseAutoFill, "Program Options", "UseAutoFill", QStringLiteral("1")},
+        {Keys::UseWebTimer, "Program Options", "UseWebTimer", QStringLiteral("0")},
+        {Keys::WordWrap, "Program Options", "WordWrap", QStringLiteral("1")},
+        {Keys::LowerCaseTags, "Program Options", "LowerCaseTags", QStringLiteral("0")},
+        {Keys::UseHTM, "Program Options", "UseHTM", QStringLiteral("0")},
+        {Keys::WebTimer, "Program Options", "WebTimer", QStringLiteral("False")},
+        {Keys::StandardDic(), "SpellCheck", "StandardDic", home + QStringLiteral("/american.vtd")},
+        {Keys::CustomDic(), "SpellCheck", "CustomDic", home + QStringLiteral("/custom.vtc")},
+        {Keys::Web, "Browser Options", "Web", QString()},
+        {Keys::FTP, "Browser Options", "FTP", QString()},
+        {Keys::LocalPreview, "Browser Options", "LocalPreview", QStringLiteral("True")},
+        {Keys::LocalFTP, "Browser Options", "LocalFTP", QStringLiteral("True")},
+        {Keys::UseDDE, "Use DDE Value", "UseDDE", QString()},
+        {Keys::MenuArray(7), "Menu Array Values", "MenuArray(7)", QString()},
+        {Keys::FirstBut(29), "User Tools", "FirstBut(29)", QString()},
+        {Keys::SecondBut(0), "User Tools", "SecondBut(0)", QString()},
+        {Keys::ButCap(3), "User Tools", "ButCap(3)", QString()},
+        {Keys::Server(4), "FTP", "Server(4)", QString()},
+        {Keys::UserName(0), "FTP", "UserName(0)", QString()},
+        {Keys::Dir(3), "FTP", "Dir(3, 0 Or 2 Or 4 Or 8 Or 16)", QString()},
+        {Keys::chkPass, "FTP", "chkPass", QStringLiteral("0")},
+        {Keys::Password, "FTP", "Password", QString()},
+        {Keys::ProjFile(99), "Projects", "ProjFile99", QString()},
+    };
+    Settings settings;
+    for (const Row& row : rows) {
+        SCOPED_TRACE(row.name);
+        EXPECT_EQ(row.key.application, QStringLiteral("The Tarnwick"));
+        EXPECT_EQ(row.key.section, QString::fromLatin1(row.section));
+        EXPECT_EQ(row.key.key, QString::fromLatin1(row.name));
+        EXPECT_EQ(settings.Read(row.key), row.standard);
+    }
+    EXPECT_EQ(Keys::DateList.application, QStringLiteral("Web Timer"));
+    EXPECT_EQ(Keys::DateList.section, QStringLiteral("Dates"));
+    EXPECT_EQ(Keys::DateList.key, QStringLiteral("Date List"));
+    EXPECT_EQ(settings.Read(Keys::DateList), QString());
+    EXPECT_FALSE(QFileInfo::exists(home + QStringLiteral("/american.vtd")));
+}
+
+TEST_F(SettingsTest, AnyTextComesBackFromTheFile) {
+    const QString texts[] = {
+        QString(),
+        QStringLiteral("plain"),
+        QStringLiteral("line one\r\nline two\nline three\rend\r\n"),
+        QStringLiteral("\\red0\\green128\\blue0"),
+        QStringLiteral("C:\\site\\new\\tags\\x.htm"),
+        QStringLiteral("C:\\"),
+        QStringLiteral("  leading and trailing  "),
+        QStringLiteral("\ttab\t"),
+        QStringLiteral("one, two, three"),
+        QStringLiteral("one,two"),
+        QStringLiteral(","),
+        QStringLiteral("a;b=c#d"),
+        QStringLiteral("@"),
+        QStringLiteral("@@x"),
+        QStringLiteral("@Variant(\\0\\0)"),
+        QStringLiteral("@ByteArray(abc)"),
+        QStringLiteral("@Invalid()"),
+        QStringLiteral("\"quoted\" and 'single'"),
+        QStringLiteral("[Section]\r\nkey=value"),
+        QStringLiteral("%20 %1 100%"),
+        QStringLiteral("\\x41 \\n not an escape"),
+        QStringLiteral("\u0001\u001f\u007f1f"),
+        QStringLiteral("\u20ac\u201c\u0081\u009d\u00e9\u00ff\u00a0"),
+        QStringLiteral("<BODY BGCOLOR=\"#FFFFFF\">\r\n\r\n</BODY>"),
+        QStringLiteral("True"),
+        QStringLiteral("007"),
+        QStringLiteral("1e5"),
+        QStringLiteral("/home/\u0434\u043e\u043c/a.htm"),
+    };
+    for (const QString& text : texts) {
+        Store(Keys::UserTemplate, text);
+        EXPECT_EQ(Stored(Keys::UserTemplate), text);
+    }
+    QString all;
+    for (int code = 1; code < 256; ++code)
+        all += QChar(code);
+    Store(Keys::UserTemplate, all);
+    EXPECT_EQ(Stored(Keys::UserTemplate), all);
+}
+
+TEST_F(SettingsTest, KeysWithBracketsCommasAndBlanksStayApart) {
+    {
+        Settings settings;
+        for (int n = 0; n < 5; ++n) {
+            settings.Write(Keys::Dir(n), QStringLiteral("dir %1").arg(n));
+            settings.Write(Keys::Server(n), QStringLiteral("server %1").arg(n));
+        }
+        settings.Write(Keys::ProjFile(1), QStringLiteral("one"));
+        settings.Write(Keys::ProjFile(10), QStringLiteral("ten"));
+    }
+    Settings settings;
+    for (int n = 0; n < 5; ++n) {
+        EXPECT_EQ(settings.Read(Keys::Dir(n)), QStringLiteral("dir %1").arg(n));
+        EXPECT_EQ(settings.Read(Keys::Server(n)), QStringLiteral("server %1").arg(n));
+    }
+    EXPECT_EQ(settings.Read(Keys::ProjFile(1)), QStringLiteral("one"));
+    EXPECT_EQ(settings.Read(Keys::ProjFile(10)), QStringLiteral("ten"));
+}
+
+TEST_F(SettingsTest, ApplicationsHaveAFileEach) {
+    Store(Keys::DateList, QStringLiteral("1.1. 10:00\r\n"));
+    Store(Keys::UseHTM, QStringLiteral("1"));
+    EXPECT_TRUE(QFileInfo::exists(SettingsFolder() + QStringLiteral("/The Tarnwick.ini")));
+    EXPECT_TRUE(QFileInfo::exists(SettingsFolder() + QStringLiteral("/Web Timer.ini")));
+    EXPECT_FALSE(Content().contains("Date"));
+    EXPECT_EQ(Stored(Keys::DateList), QStringLiteral("1.1. 10:00\r\n"));
+}
+
+TEST_F(SettingsTest, FileIsPrivateFromItsCreationOn) {
+    {
+        Settings settings;
+        settings.Read(Keys::Password);
+        settings.Write(Keys::Password, QStringLiteral("secret"));
+        EXPECT_EQ(QFile::permissions(File()), OnlyTheUser) << "before the first write";
+    }
+    EXPECT_EQ(QFile::permissions(File()), OnlyTheUser);
+    Store(Keys::Password, QStringLiteral("other"));
+    EXPECT_EQ(QFile::permissions(File()), OnlyTheUser) << "after a rewrite";
+    QFile::setPermissions(File(), OnlyTheUser | QFileDevice::ReadGroup | QFileDevice::ReadOther);
+    EXPECT_EQ(Stored(Keys::Password), QStringLiteral("other"));
+    EXPECT_EQ(QFile::permissions(File()), OnlyTheUser) << "an open file is closed to others";
+}
+
+TEST_F(SettingsTest, WritesReachTheDiskAtTheEndOfTheEvent) {
+    Settings settings;
+    settings.Write(Keys::EditorFont, QStringLiteral("Courier"));
+    QCoreApplication::sendPostedEvents();
+    EXPECT_TRUE(Content().contains("Courier"));
+    settings.Write(Keys::EditorFont, QStringLiteral("Helvetica"));
+    settings.Sync();
+    EXPECT_TRUE(Content().contains("Helvetica"));
+}
+
+TEST_F(SettingsTest, FlagIsOnAtExactlyOne) {
+    struct Row {
+        QStringView text;
+        bool on;
+    };
+    const Row rows[] = {{u"1", true},   {u" 1 ", true},   {u"1.0", true}, {u"0", false},    {u"2", false},
+                        {u"-1", false}, {u"True", false}, {u"", false},   {u"1abc", false}, {u"1.4", false}};
+    Settings settings;
+    for (const Row& row : rows) {
+        settings.Write(Keys::UseMSIE, row.text.toString());
+        EXPECT_EQ(settings.ReadFlag(Keys::UseMSIE), row.on) << row.text.toString().toStdString();
+    }
+    settings.WriteFlag(Keys::UseMSIE, true);
+    EXPECT_EQ(settings.Read(Keys::UseMSIE), QStringLiteral("1"));
+    settings.WriteFlag(Keys::UseMSIE, false);
+    EXPECT_EQ(settings.Read(Keys::UseMSIE), QStringLiteral("0"));
+}
+
+TEST_F(SettingsTest, NumbersInTextAndBack) {
+    Settings settings;
+    settings.Write(Keys::MainFormWidth, QStringLiteral("no number"));
+    EXPECT_EQ(settings.ReadNumber(Keys::MainFormWidth), 0);
+    settings.Write(Keys::MainFormWidth, QStringLiteral("99999999999"));
+    EXPECT_EQ(settings.ReadNumber(Keys::MainFormWidth), 2147483647);
+    settings.Write(Keys::MainFormWidth, QStringLiteral("-120"));
+    EXPECT_EQ(settings.ReadNumber(Keys::MainFormWidth), -120);
+    struct Row {
+        double number;
+        const char* text;
+    };
+    const Row rows[] = {
+        {0, "0"}, {16777215, "16777215"}, {-15, "-15"}, {12345.5, "12345.5"}, {1.0 / 3, "0.3333333"}};
+    for (const Row& row : rows) {
+        settings.WriteNumber(Keys::MainFormWidth, row.number);
+        EXPECT_EQ(settings.Read(Keys::MainFormWidth), QString::fromLatin1(row.text));
+    }
+}
+
+TEST_F(SettingsTest, TextWithCommasWrittenByHandIsNoList) {
+    WriteFile("[Window%20Options]\nEditorFont=Arial, Helvetica\nUserTemplate=a,b\n");
+    Settings settings;
+    EXPECT_EQ(settings.Read(Keys::UserTemplate), QStringLiteral("a,b"));
+    EXPECT_FALSE(settings.Read(Keys::EditorFont).isEmpty());
+}
+
+TEST_F(SettingsTest, DamagedFileKeepsWhatCanBeRead) {
+    const QByteArray damages[] = {
+        QByteArray("\0\1\2\377\376garbage without a sign\n[[[\n=\n", 33),
+        QByteArray("no equals sign here\n"),
+        QByteArray("[Unclosed section\n"),
+        QByteArray(5000, '\xff') + "\n",
+    };
+    for (const QByteArray& damage : damages) {
+        FreshUser();
+        WriteFile("[FTP]\nchkPass=1\n" + damage + "\n[Program%20Options]\nUseHTM=1\n");
+        {
+            Settings settings;
+            EXPECT_EQ(settings.Read(Keys::chkPass), QStringLiteral("1"));
+            EXPECT_EQ(settings.Read(Keys::UseHTM), QStringLiteral("1"));
+            EXPECT_EQ(settings.Read(Keys::ColoredTags), QStringLiteral("1"));
+            settings.Write(Keys::EditorFont, QStringLiteral("Courier"));
+        }
+        EXPECT_EQ(Stored(Keys::EditorFont), QStringLiteral("Courier")) << "a damaged file takes writes again";
+        EXPECT_EQ(Stored(Keys::chkPass), QStringLiteral("1"));
+        EXPECT_EQ(Stored(Keys::UseHTM), QStringLiteral("1"));
+    }
+}
+
+TEST_F(SettingsTest, EveryTruncationIsSurvived) {
+    {
+        Settings settings;
+        settings.Write(Keys::UserTemplate, QStringLiteral("a, \"b\"\r\n\\c\u20ac @"));
+        settings.Write(Keys::Dir(3), QStringLiteral("x;y"));
+    }
+    const QByteArray whole = Content();
+    ASSERT_GT(whole.size(), 40);
+    for (qsizetype size = 0; size < whole.size(); ++size) {
+        WriteFile(whole.left(size));
+        Settings settings;
+        EXPECT_EQ(settings.Read(Keys::ColoredTags), QStringLiteral("1"));
+        settings.Read(Keys::UserTemplate);
+        settings.Read(Keys::Dir(3));
+    }
+}
+
+TEST_F(SettingsTest, UnreadableFileGivesDefaults) {
+    QDir(SettingsFolder()).mkdir(QStringLiteral("The Tarnwick.ini"));
+    Settings settings;
+    EXPECT_EQ(settings.Read(Keys::EditorFont), QStringLiteral("Arial"));
+    settings.Write(Keys::EditorFont, QStringLiteral("Courier"));
+    settings.Sync();
+    EXPECT_TRUE(QFileInfo(File()).isDir());
+}
+
+TEST_F(SettingsTest, FailedWriteLeavesTheOldFileWhole) {
+    Store(Keys::EditorFont, QStringLiteral("Courier"));
+    const QByteArray before = Content();
+    // Nobody, not even root, can create a file in a folder that is a file.
+    const QString folder = SettingsFolder();
+    const QString aside = folder + QStringLiteral(".aside");
+    {
+        Settings settings;
+        settings.Read(Keys::EditorFont);
+        ASSERT_TRUE(QDir().rename(folder, aside));
+        QFile blocker(folder);
+        ASSERT_TRUE(blocker.open(QIODevice::WriteOnly));
+        settings.Write(Keys::EditorFont, QStringLiteral("Helvetica"));
+        settings.Sync();
+        blocker.remove();
+    }
+    QDir(folder).removeRecursively();
+    ASSERT_TRUE(QDir().rename(aside, folder));
+    EXPECT_EQ(Content(), before);
+    EXPECT_EQ(Stored(Keys::EditorFont), QStringLiteral("Courier"));
+}
+
+TEST_F(SettingsTest, SymbolicLinkIsFollowed) {
+    const QString real = TestFolder() + QStringLiteral("/real.ini");
+    QFile(real).open(QIODevice::WriteOnly);
+    ASSERT_TRUE(QFile::link(real, File()));
+    Store(Keys::EditorFont, QStringLiteral("Courier"));
+    EXPECT_TRUE(QFileInfo(File()).isSymLink());
+    EXPECT_EQ(Stored(Keys::EditorFont), QStringLiteral("Courier"));
+}
