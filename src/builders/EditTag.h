@@ -13,5 +13,5 @@ void EditTag(Frame& frame);
 /// active document where the dialog's OK is to write it anew.
 void FillTagDialog(Frame& frame, const QString& tag);
 
-/// Fills the row of the Edit menu's "Edit Tag".
-void RegisterEditTag(Frame& frame);
+/// Fills the row of the Edit menu's "Edit Tag", mnuEditTag.
+void FillEditTagCommand(Frame& frame);
