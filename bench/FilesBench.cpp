@@ -1,0 +1,176 @@
+// What opening, colouring and saving cost by the size of the page, and how much memory opening takes at its
+// peak. Ends with 1 where the cost of a byte grows with the page, or the memory is more than 16 bytes a byte.
+#include "app/FileCommands.h"
+#include "app/OpenDocument.h"
+#include "support/FreshUser.h"
+#include "support/TestFrame.h"
+
+#include <benchmark/benchmark.h>
+#include <cstdio>
+#include <ctime>
+#include <QApplication>
+#include <QFile>
+#include <QProcess>
+
+namespace {
+
+constexpr qint64 kilobyte = 1'000;
+constexpr qint64 megabyte = 1'000'000;
+constexpr double bytesOfMemoryAByte = 16;
+constexpr double longestToShortest = 2;
+
+/// A page with a tag for every twenty bytes.
+QByteArray Page(qint64 size) {
+    const QByteArray row(
+        "<P>Some words, then <B>bold ones</B>,\r\nand <A HREF=\"next.html\">on</A>.</P>\r\n");
+    QByteArray page;
+    page.reserve(size + row.size());
+    while (page.size() < size)
+        page += row;
+    return page;
+}
+
+QString PageFile(qint64 size) {
+    const QString path = TestFolder() + QStringLiteral("/page%1.html").arg(size);
+    QFile file(path);
+    if (!file.exists() && file.open(QIODevice::WriteOnly))
+        file.write(Page(size));
+    return path;
+}
+
+/// Seconds of one run, the program's own time: others share the machine.
+double CpuSeconds() {
+    timespec now = {};
+    clock_gettime(CLOCK_PROCESS_CPUTIME_ID, &now);
+    return static_cast<double>(now.tv_sec) + static_cast<double>(now.tv_nsec) / 1e9;
+}
+
+class SavingFrame final : public TestFrame {
+  public:
+    SavingFrame() { FillFileCommands(*this); }
+};
+
+double OpenOnce(SavingFrame& frame, const QString& path) {
+    const double start = CpuSeconds();
+    OpenDocumentFile(frame, path);
+    const double taken = CpuSeconds() - start;
+    frame.CloseDocument();
+    return taken;
+}
+
+void OpenAndColour(benchmark::State& state) {
+    SavingFrame frame;
+    const QString path = PageFile(state.range(0));
+    for ([[maybe_unused]] auto step : state) {
+        OpenDocumentFile(frame, path);
+        state.PauseTiming();
+        frame.CloseDocument();
+        state.ResumeTiming();
+    }
+    state.SetComplexityN(state.range(0));
+    state.SetBytesProcessed(state.iterations() * state.range(0));
+    state.counters["ns_a_byte"] =
+        benchmark::Counter(static_cast<double>(state.range(0)) * 1e-9,
+                           benchmark::Counter::kIsIterationInvariantRate | benchmark::Counter::kInvert);
+}
+BENCHMARK(OpenAndColour)
+    ->Arg(10 * kilobyte)
+    ->Arg(100 * kilobyte)
+    ->Arg(megabyte)
+    ->Arg(10 * megabyte)
+    ->Arg(50 * megabyte)
+    ->Unit(benchmark::kMillisecond)
+    ->Complexity(benchmark::oN);
+
+void Save(benchmark::State& state) {
+    SavingFrame frame;
+    const QString path = PageFile(state.range(0));
+    OpenDocumentFile(frame, path);
+    frame.active->SetCaption(TestFolder() + QStringLiteral("/saved.html"));
+    for ([[maybe_unused]] auto step : state)
+        mnuSave_Click(frame);
+    state.SetComplexityN(state.range(0));
+    state.SetBytesProcessed(state.iterations() * state.range(0));
+}
+BENCHMARK(Save)
+    ->Arg(100 * kilobyte)
+    ->Arg(megabyte)
+    ->Arg(10 * megabyte)
+    ->Unit(benchmark::kMillisecond)
+    ->Complexity(benchmark::oN)
+    ->UseRealTime();
+
+/// The most memory that this process ever held, in bytes.
+double PeakMemory() {
+    QFile status(QStringLiteral("/proc/self/status"));
+    if (!status.open(QIODevice::ReadOnly))
+        return 0;
+    for (const QByteArray& line : status.readAll().split('\n')) {
+        if (line.startsWith("VmHWM:"))
+            return line.mid(6).trimmed().split(' ').first().toDouble() * 1024;
+    }
+    return 0;
+}
+
+/// The peak memory of a fresh process that opens a page of that size and nothing else.
+double PeakMemoryOf(qint64 size) {
+    QProcess child;
+    child.start(QCoreApplication::applicationFilePath(), {QStringLiteral("--open"), PageFile(size)});
+    child.waitForFinished(-1);
+    return child.readAllStandardOutput().trimmed().toDouble();
+}
+
+int OpenAndTellMemory(const QString& path) {
+    SavingFrame frame;
+    OpenDocumentFile(frame, path);
+    QCoreApplication::processEvents();
+    std::printf("%.0f\n", PeakMemory());
+    return frame.Box().TextLength() > 0 ? 0 : 1;
+}
+
+bool MemoryIsLean() {
+    const double alone = PeakMemoryOf(kilobyte);
+    bool lean = true;
+    for (const qint64 size : {megabyte, 10 * megabyte, 50 * megabyte}) {
+        const double perByte = (PeakMemoryOf(size) - alone) / static_cast<double>(size);
+        std::printf("peak memory, %3lld MB: %5.1f bytes a byte above the %.0f MB of a small page\n",
+                    static_cast<long long>(size / megabyte), perByte, alone / 1e6);
+        lean = lean && perByte <= bytesOfMemoryAByte;
+    }
+    return lean;
+}
+
+/// A byte of a page fifty times as large costs about the same.
+bool CostIsLinear() {
+    SavingFrame frame;
+    const auto perByte = [&](qint64 size) {
+        const QString path = PageFile(size);
+        double best = OpenOnce(frame, path);
+        for (int run = 0; run < 2; ++run)
+            best = std::min(best, OpenOnce(frame, path));
+        return best / static_cast<double>(size);
+    };
+    const double small = perByte(megabyte);
+    const double large = perByte(50 * megabyte);
+    std::printf("opening: %.1f ns a byte at 1 MB, %.1f at 50 MB\n", small * 1e9, large * 1e9);
+    return large <= longestToShortest * small;
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+    FreshUser();
+    const QApplication application(argc, argv);
+    if (argc == 3 && qstrcmp(argv[1], "--open") == 0)
+        return OpenAndTellMemory(QFile::decodeName(argv[2]));
+    benchmark::Initialize(&argc, argv);
+    if (benchmark::ReportUnrecognizedArguments(argc, argv))
+        return 1;
+    benchmark::RunSpecifiedBenchmarks();
+    // Each run makes the user fresh, and the pages with it.
+    const bool linear = CostIsLinear();
+    const bool lean = MemoryIsLean();
+    return linear && lean ? 0 : 1;
+}
