@@ -188,6 +188,21 @@ class Desk:
             return None
         return wait_for("the widget " + name, lambda: walk(within or self.application()))
 
+    def widget_text_contains(self, text):
+        """Whether any showing widget's name or text holds a text."""
+        import pyatspi
+
+        def walk(node, depth=0):
+            if node is None or depth > 30:
+                return False
+            try:
+                if text in (node.name or "") and node.getState().contains(pyatspi.STATE_SHOWING):
+                    return True
+                return any(walk(child, depth + 1) for child in node)
+            except Exception:  # the tree changes while it is walked
+                return False
+        return walk(self.application())
+
     def click_widget(self, name, role=None, button=1):
         import pyatspi
         extents = self.widget(name, role).queryComponent().getExtents(pyatspi.DESKTOP_COORDS)

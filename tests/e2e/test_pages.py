@@ -1,0 +1,114 @@
+"""Pages on the screen: open, type, save, close with the question, recent files, a second copy, skeletons."""
+import sys
+from driver import main, read, wait_for, PROGRAM
+import subprocess
+
+PAGE = b"<HTML>\r\n<BODY>\r\n<P>One caf\xe9</P>\r\n</BODY>\r\n</HTML>\r\n"
+
+
+def box_text(desk):
+    return desk.widget("Text", "text").queryText()
+
+
+def text_of(desk):
+    text = box_text(desk)
+    return text.getText(0, text.characterCount)
+
+
+def test_opens_types_and_saves(desk):
+    path = desk.write("one.htm", PAGE)
+    desk.run(path)
+    wait_for("the page's text", lambda: "One caf\u00e9" in text_of(desk))
+    desk.type("hello")
+    desk.key("ctrl+s")
+    wait_for("the saved file", lambda: read(path) == b"hello" + PAGE + b"\r\n")
+    desk.key("alt+F4")
+    assert desk.ended() == 0
+    assert desk.setting("Window Options", "FirstTimeAgain") == "2"
+    assert path in desk.setting("Menu Array Values", "MenuArray%280%29")
+
+
+def test_closing_asks_and_cancel_keeps_everything(desk):
+    path = desk.write("one.htm", PAGE)
+    desk.run(path)
+    wait_for("the page", lambda: "One" in text_of(desk))
+    desk.type("x")
+    desk.key("alt+F4")
+    desk.wait_window("Save Document?")
+    desk.key("Escape")
+    desk.wait_no_window("Save Document?")
+    assert desk.program.poll() is None
+    desk.key("alt+F4")
+    desk.wait_window("Save Document?")
+    desk.key("alt+n")
+    assert desk.ended() == 0
+    assert read(path) == PAGE
+
+
+def test_closing_with_yes_saves(desk):
+    path = desk.write("one.htm", PAGE)
+    desk.run(path)
+    wait_for("the page", lambda: "One" in text_of(desk))
+    desk.type("x")
+    desk.key("ctrl+w")
+    desk.wait_window("Save Document?")
+    desk.key("alt+y")
+    wait_for("the saved file", lambda: read(path) == b"x" + PAGE + b"\r\n")
+    assert desk.program.poll() is None
+
+
+def test_a_second_copy_hands_its_page_over(desk):
+    first = desk.write("one.htm", PAGE)
+    second = desk.write("two.htm", b"<P>Second</P>\n")
+    desk.run(first)
+    wait_for("the page", lambda: "One" in text_of(desk))
+    result = subprocess.run([PROGRAM, "two.htm"], env=desk.env, cwd=desk.home, capture_output=True, timeout=30)
+    assert result.returncode == 0 and not result.stdout and not result.stderr, result
+    desk.widget("two.htm", "page tab")
+    wait_for("the second page", lambda: "Second" in text_of(desk))
+    desk.key("alt+F4")
+    assert desk.ended() == 0
+    assert second in desk.setting("Menu Array Values", "MenuArray%280%29")
+
+
+def test_recent_files_come_back_in_the_menu(desk):
+    path = desk.write("one.htm", PAGE)
+    desk.run(path)
+    wait_for("the page", lambda: "One" in text_of(desk))
+    desk.key("alt+F4")
+    assert desk.ended() == 0
+    desk.run()
+    desk.key("alt+f")
+    desk.key("Up", "Return")
+    wait_for("the page again", lambda: "One" in text_of(desk))
+
+
+def test_a_new_page_from_the_toolbar_is_saved_under_a_name(desk):
+    desk.run()
+    desk.click_widget("New", "push button")
+    wait_for("the skeleton", lambda: "The Tarnwick 3.0.6" in text_of(desk))
+    desk.key("ctrl+End")
+    desk.type("end")
+    desk.key("ctrl+s")
+    desk.wait_active("Save")
+    target = desk.path("new.htm")
+    desk.type(target)
+    desk.key("Return")
+    wait_for("the new file", lambda: read(target))
+    assert read(target) == (b'<HTML>\r\n<HEAD>\r\n<meta name="generator" content="The Tarnwick 3.0.6">\r\n<TITLE></TITLE>\r\n'
+                            b'</HEAD>\r\n<BODY>\r\n\r\n</BODY>\r\n</HTML>end\r\n')
+    desk.widget("new.htm", "page tab")
+
+
+def test_an_unreadable_page_comes_in_once_it_can_be_read(desk):
+    path = desk.path("late.htm")
+    desk.run(path)
+    wait_for("the awaited path in the status bar", lambda: desk.widget_text_contains(path))
+    desk.write("late.htm", PAGE)
+    wait_for("the page", lambda: "One" in text_of(desk))
+    desk.key("alt+F4")
+    assert desk.ended() == 0
+
+
+if __name__ == "__main__":
+    main(sys.modules[__name__])
