@@ -1,17 +1,19 @@
 // The text control of a document: plain text, one colour per character, and the events of typing.
 #pragma once
 
-#include <QByteArray>
-#include <QString>
-#include <QtGlobal>
+#include "platform/ColorNumber.h"
+#include "platform/RichTextColors.h"
+
 #include <optional>
+#include <QByteArray>
 #include <Qsci/qsciscintillabase.h>
+#include <QString>
+#include <QTextLayout>
+#include <utility>
+#include <vector>
 
 class QPainter;
 class QRectF;
-
-/// A colour as the documents and settings hold it: red in the low byte, then green, then blue.
-using ColorNumber = int;
 
 /// How the bytes 13 and 10 standing raw in an RTF text are taken.
 enum class RawLineEnds {
@@ -32,7 +34,7 @@ class RichTextBox : public QsciScintillaBase {
     Q_PROPERTY(int SelLength READ SelLength WRITE SetSelLength)
     Q_PROPERTY(QString SelText READ SelText WRITE SetSelText)
     Q_PROPERTY(int SelColor READ SelColor WRITE SetSelColor)
-    Q_PROPERTY(QString SelRTF WRITE SetSelRTF)
+    Q_PROPERTY(QString SelRTF READ SelRTF WRITE SetSelRTF)
     Q_PROPERTY(int RightMargin READ RightMargin WRITE SetRightMargin)
     Q_PROPERTY(int BackColor READ BackColor WRITE SetBackColor)
     Q_PROPERTY(QFont Font READ Font WRITE SetFont)
@@ -60,11 +62,12 @@ class RichTextBox : public QsciScintillaBase {
     /// The colour of the character at a position (0-based), or -1 outside the text.
     ColorNumber ColorAt(int position) const;
 
-    /// The start of the selection, or the caret. Assigning takes the selection away and moves the caret there;
-    /// a value outside the text is cut to it.
+    /// The start of the selection, or the caret. Assigning takes the selection away and moves the caret
+    /// there; a value behind the text's end is cut to it, a negative one is refused: nothing changes.
     int SelStart() const;
     void SetSelStart(int position);
-    /// The selection's length. Assigning keeps SelStart, and puts the caret behind the selection.
+    /// The selection's length. Assigning keeps SelStart, and puts the caret behind the selection; a negative
+    /// value is refused: nothing changes.
     int SelLength() const;
     void SetSelLength(int length);
     /// The selected text. Assigning replaces the selection, in the colour at the caret, and leaves the caret
@@ -76,7 +79,9 @@ class RichTextBox : public QsciScintillaBase {
     /// until the caret moves away. Undo counts no colouring.
     ColorNumber SelColor() const;
     void SetSelColor(ColorNumber color);
-    /// Replaces the selection by the text and colours of an RTF text (RtfReader); the caret stands behind it.
+    /// The selection as RTF. Assigning replaces the selection by the text and colours of an RTF text (RtfReader);
+    /// the caret stands behind it.
+    QString SelRTF() const;
     virtual void SetSelRTF(const QString& rtf);
 
     /// How raw line ends in RTF are taken: by default as the system's own text files ask.
@@ -95,12 +100,13 @@ class RichTextBox : public QsciScintillaBase {
     void SetEnabled(bool enabled);
     void SetFocus();
 
-    /// Searches forward for a text from start (0-based) to end, or to the end of the text when end is left out;
-    /// with neither given it searches the selection if there is one, else the whole text. Case is ignored
-    /// without MatchCase. On success selects the match and returns its position; else returns -1 and leaves
-    /// the selection alone. An empty text is never found.
-    int Find(const QString& text, std::optional<int> start = std::nullopt, std::optional<int> end = std::nullopt,
-             int options = 0);
+    /// Searches forward for a text from start (0-based) to end, or to the end of the text when end is left
+    /// out; with an end alone it searches from SelStart, with neither given the selection if there is one,
+    /// else the whole text. A match lies in the range whole. Case is ignored without MatchCase. On success
+    /// selects the match and returns its position; else returns -1 and leaves the selection alone. An empty
+    /// text is never found.
+    int Find(const QString& text, std::optional<int> start = std::nullopt,
+             std::optional<int> end = std::nullopt, int options = 0);
     /// The position of the nearest given character before a position (0-based, not included), or -1. Looks at
     /// no more of the text than lies between. No selection changes.
     int FindBackward(QChar character, int before) const;
@@ -144,13 +150,141 @@ class RichTextBox : public QsciScintillaBase {
     /// A key goes down. KeyCode is the virtual key code (27 Esc, 37 to 40 the arrows, 48 to 57 the digits);
     /// Shift adds 1 for Shift, 2 for Ctrl, 4 for Alt. A handler that sets KeyCode to 0 swallows the key.
     void KeyDown(int& KeyCode, int Shift);
-    /// A key yields a character: its code of code page 1252 (8 Backspace, 13 Enter). A handler that sets it to
-    /// 0 swallows it; another code is typed in its place. It comes for input methods too, character by character.
+    /// A key yields a character: its code of code page 1252 (8 Backspace, 13 Enter). A handler that sets it
+    /// to 0 swallows it; another code is typed in its place. It comes for input methods too, character by
+    /// character.
     void KeyPress(int& KeyAscii);
     /// Mouse buttons: 1 left, 2 right, 4 middle; x and y in pixels of the viewport.
     void MouseDown(int Button, int Shift, QPoint at);
     void MouseUp(int Button, int Shift, QPoint at);
 
+  protected:
+    bool event(QEvent* event) override;
+    bool viewportEvent(QEvent* event) override;
+    void changeEvent(QEvent* event) override;
+    void contextMenuEvent(QContextMenuEvent* event) override;
+    void dragEnterEvent(QDragEnterEvent* event) override;
+    void dragMoveEvent(QDragMoveEvent* event) override;
+    void dropEvent(QDropEvent* event) override;
+    void focusInEvent(QFocusEvent* event) override;
+    void focusOutEvent(QFocusEvent* event) override;
+    void inputMethodEvent(QInputMethodEvent* event) override;
+    QVariant inputMethodQuery(Qt::InputMethodQuery query) const override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void mouseDoubleClickEvent(QMouseEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
+    bool canInsertFromMimeData(const QMimeData* source) const override;
+    QByteArray fromMimeData(const QMimeData* source, bool& rectangular) const override;
+    QMimeData* toMimeData(const QByteArray& text, bool rectangular) const override;
+
   private:
+    /// Positions in bytes of the UTF-8 text, as the base class counts them.
+    struct ByteRange {
+        int start;
+        int end;
+        bool Empty() const { return start == end; }
+        bool operator==(const ByteRange&) const = default;
+    };
+    /// Text that the base class has announced and not yet been seen to hold, with the colours it is to have.
+    struct Incoming {
+        int start;
+        StyleRuns styles;
+    };
+
+    /// Around every call and event that may change something: when the outermost ends, the box settles.
+    class Settling {
+      public:
+        /// A user's event that arrives while another one waits in an event loop of its own settles by itself.
+        explicit Settling(RichTextBox& box, bool outermost = false);
+        ~Settling();
+        Settling(const Settling&) = delete;
+        Settling& operator=(const Settling&) = delete;
+
+      private:
+        RichTextBox& box_;
+        int outer_;
+    };
+
+    long Sci(unsigned int message, long wParam = 0, long lParam = 0) const;
+    void SetUp();
+    void ApplyStyles();
+    void ApplyPalette();
+
+    int ByteLength() const;
+    bool IsAscii() const;
+    int CharFromByte(int byte) const;
+    int ByteFromChar(int position) const;
+    QByteArray Bytes(int start, int end) const;
+    QString TextOf(ByteRange range) const;
+    ByteRange Selection() const;
+    void Select(int anchorByte, int caretByte);
+
+    int StyleFor(ColorNumber color);
+    int StyleAt(int byte) const;
+    int StyleBefore(int byte) const;
+    int StyleAtCaret() const;
+    StyleRuns StylesOf(int start, int length) const;
+    void SetStyles(int start, const StyleRuns& styles);
+
+    void Settle();
+    void StyleIncoming();
+    void HoldTypingStyle();
+    void BeforeModification(int position, int type, int length);
+    void BeforeInsertion(int position, int type, int length);
+    void BeforeDeletion(int position, int type, int length);
+    /// Carries out a handler of another object: it meets a settled box, and its own calls settle by
+    /// themselves.
+    template <typename Handler> void Outside(Handler handler) {
+        Settle();
+        const int depth = std::exchange(depth_, 0);
+        handler();
+        depth_ = depth;
+    }
+
+    /// Replaces a stretch as one undo step; the caret stands behind what came in.
+    void Replace(ByteRange range, const QByteArray& text, const StyleRuns& styles);
+    void ReplaceSelection(const QByteArray& text);
+    /// Text coming from outside, in the document's line ends and characters.
+    QByteArray Incorporate(const QString& text) const;
+
+    void PressKey(QKeyEvent* event);
+    bool RunEditingKey(int key, Qt::KeyboardModifiers modifiers);
+    void TypeText(const QString& text);
+    void TypeCode(int code, bool controlTypes);
+    void Type(const QByteArray& text);
+    void Cut();
+    void Paste();
+    void PasteFrom(const QMimeData* source);
+    void PastePrimarySelection(QPoint at);
+    void ReleaseLeftButton();
+    int FindBytes(const QString& text, ByteRange range, int options) const;
+    bool IsWholeWord(const QString& text, int start, int end) const;
+    QVector<QTextLayout::FormatRange> PrintColors(int startByte, const QString& text) const;
+    void SetPreedit(const QString& text);
+
+    QFont font_;
+    ColorNumber backColor_ = 0xffffff;
+    int rightMargin_ = 0;
     RawLineEnds rawLineEnds_;
+    bool enabled_ = true;
+    int holds_ = 0;
+    QString preedit_;
+
+    StyleTable styles_;
+    UndoColors undoColors_;
+    std::optional<Incoming> incoming_;
+    /// The colours of the next insertion, where it is not that of its place.
+    std::optional<StyleRuns> nextStyles_;
+    std::optional<int> typingStyle_;
+    int typingCaret_ = 0;
+
+    int depth_ = 0;
+    bool changed_ = false;
+    bool caretMovedByEdit_ = false;
+    ByteRange lastSelection_{0, 0};
+    int lastSelStart_ = 0;
+    int lastSelLength_ = 0;
 };

@@ -17,7 +17,7 @@ struct RtfText {
     std::vector<RtfRun> runs; ///< cover the text without a gap; neighbours differ in colour, none is empty
 };
 
-/// Reads groups, \colortbl, \cfN, \par, \line (both CR LF), \tab, \'hh, \uN (a character outside the code page
-/// comes as its decimal reference), \\ \{ \}. Unknown words are skipped with the one blank behind them, a raw
-/// tab is a tab, an unbalanced } ends the document. One pass, linear in the text.
+/// Reads groups, \colortbl, \cfN, \par, \line (both CR LF), \tab, \'hh, \uN (a character outside the code
+/// page comes as its decimal reference), \\ \{ \}. Unknown words are skipped with the one blank behind them,
+/// a raw tab is a tab, an unbalanced } ends the document. One pass, linear in the text.
 RtfText ReadRtf(const QString& rtf, RawLineEnds rawLineEnds);

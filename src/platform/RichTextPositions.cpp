@@ -1,0 +1,116 @@
+// The text control: characters to bytes and back, stretches of text, and the colours they have.
+#include "platform/RichTextBox.h"
+
+#include <algorithm>
+
+int RichTextBox::ByteLength() const {
+    return static_cast<int>(Sci(SCI_GETLENGTH));
+}
+
+int RichTextBox::TextLength() const {
+    return static_cast<int>(
+        Sci(SCI_INDEXPOSITIONFROMLINE, Sci(SCI_GETLINECOUNT), SC_LINECHARACTERINDEX_UTF32));
+}
+
+bool RichTextBox::IsAscii() const {
+    return TextLength() == ByteLength();
+}
+
+int RichTextBox::CharFromByte(int byte) const {
+    if (IsAscii())
+        return byte;
+    const long line = Sci(SCI_LINEFROMPOSITION, byte);
+    const long lineStart = Sci(SCI_POSITIONFROMLINE, line);
+    return static_cast<int>(Sci(SCI_INDEXPOSITIONFROMLINE, line, SC_LINECHARACTERINDEX_UTF32) +
+                            Sci(SCI_COUNTCHARACTERS, lineStart, byte));
+}
+
+int RichTextBox::ByteFromChar(int position) const {
+    if (IsAscii())
+        return position;
+    if (position >= TextLength())
+        return ByteLength();
+    const long line = Sci(SCI_LINEFROMINDEXPOSITION, position, SC_LINECHARACTERINDEX_UTF32);
+    const long rest = position - Sci(SCI_INDEXPOSITIONFROMLINE, line, SC_LINECHARACTERINDEX_UTF32);
+    const long lineStart = Sci(SCI_POSITIONFROMLINE, line);
+    return static_cast<int>(rest == 0 ? lineStart : Sci(SCI_POSITIONRELATIVE, lineStart, rest));
+}
+
+QByteArray RichTextBox::Bytes(int start, int end) const {
+    if (end <= start)
+        return QByteArray();
+    QByteArray bytes(end - start, Qt::Uninitialized);
+    // The control writes one zero byte behind the text: room that QByteArray always has.
+    SendScintilla(SCI_GETTEXTRANGE, start, end, bytes.data());
+    return bytes;
+}
+
+QString RichTextBox::TextOf(ByteRange range) const {
+    return QString::fromUtf8(Bytes(range.start, range.end));
+}
+
+RichTextBox::ByteRange RichTextBox::Selection() const {
+    return {static_cast<int>(Sci(SCI_GETSELECTIONSTART)), static_cast<int>(Sci(SCI_GETSELECTIONEND))};
+}
+
+void RichTextBox::Select(int anchorByte, int caretByte) {
+    Sci(SCI_SETSEL, anchorByte, caretByte);
+    Sci(SCI_CHOOSECARETX);
+}
+
+int RichTextBox::StyleFor(ColorNumber color) {
+    const StyleTable::Found found = styles_.StyleFor(color);
+    if (found.isNew)
+        Sci(SCI_STYLESETFORE, found.style, styles_.ColorOf(found.style));
+    return found.style;
+}
+
+int RichTextBox::StyleAt(int byte) const {
+    return static_cast<int>(Sci(SCI_GETSTYLEAT, byte) & 0xff);
+}
+
+int RichTextBox::StyleBefore(int byte) const {
+    if (byte > 0)
+        return StyleAt(byte - 1);
+    return ByteLength() > 0 ? StyleAt(0) : 0;
+}
+
+int RichTextBox::StyleAtCaret() const {
+    const ByteRange range = Selection();
+    if (!range.Empty())
+        return StyleAt(range.start);
+    if (typingStyle_ && typingCaret_ == range.start)
+        return *typingStyle_;
+    return StyleBefore(range.start);
+}
+
+StyleRuns RichTextBox::StylesOf(int start, int length) const {
+    constexpr int step = 1 << 16;
+    StyleRuns runs;
+    // Each byte of the text comes with its style behind it, and two zero bytes follow the last one.
+    QByteArray cells(2 * std::min(step, length) + 2, Qt::Uninitialized);
+    for (int from = start; from < start + length; from += step) {
+        const int size = std::min(step, start + length - from);
+        SendScintilla(SCI_GETSTYLEDTEXT, from, from + size, cells.data());
+        int first = 0;
+        for (int i = 1; i <= size; ++i) {
+            if (i < size && cells[2 * i + 1] == cells[2 * first + 1])
+                continue;
+            runs.Append(i - first, static_cast<unsigned char>(cells[2 * first + 1]));
+            first = i;
+        }
+    }
+    return runs;
+}
+
+void RichTextBox::SetStyles(int start, const StyleRuns& styles) {
+    Sci(SCI_STARTSTYLING, start);
+    if (styles.Count() == 1) {
+        Sci(SCI_SETSTYLING, styles.LengthOf(0), styles.StyleOf(0));
+        return;
+    }
+    QByteArray bytes;
+    for (std::size_t run = 0; run < styles.Count(); ++run)
+        bytes.append(styles.LengthOf(run), static_cast<char>(styles.StyleOf(run)));
+    SendScintilla(SCI_SETSTYLINGEX, static_cast<unsigned long>(bytes.size()), bytes.constData());
+}

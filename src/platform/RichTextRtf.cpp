@@ -1,0 +1,47 @@
+// The text control: the selection as RTF, in and out.
+#include "platform/RichTextBox.h"
+
+#include "platform/RtfReader.h"
+
+void RichTextBox::SetSelRTF(const QString& rtf) {
+    const Settling settling(*this);
+    const RtfText content = ReadRtf(rtf, rawLineEnds_);
+    const QByteArray bytes = content.text.toUtf8();
+    const bool ascii = bytes.size() == content.text.size();
+    StyleRuns styles;
+    qsizetype from = 0;
+    for (const RtfRun& run : content.runs) {
+        const auto characters = QStringView(content.text).mid(from, run.length);
+        const qsizetype length = ascii ? characters.size() : characters.toUtf8().size();
+        styles.Append(static_cast<int>(length), StyleFor(run.color));
+        from += run.length;
+    }
+    Replace(Selection(), bytes, styles);
+    typingStyle_.reset();
+}
+
+QString RichTextBox::SelRTF() const {
+    const ByteRange range = Selection();
+    const StyleRuns styles = StylesOf(range.start, range.end - range.start);
+    QString table = QStringLiteral("{{\\colortbl ;");
+    for (int style = 1; style < styles_.End(); ++style) {
+        const ColorNumber color = styles_.ColorOf(style);
+        table += QStringLiteral("\\red%1\\green%2\\blue%3;")
+                     .arg(color & 0xff)
+                     .arg((color >> 8) & 0xff)
+                     .arg((color >> 16) & 0xff);
+    }
+    QString rtf = table + QLatin1Char('}');
+    int from = range.start;
+    for (std::size_t run = 0; run < styles.Count(); ++run) {
+        QString piece = TextOf({from, from + styles.LengthOf(run)});
+        piece.replace(QStringLiteral("\\"), QStringLiteral("\\\\"));
+        piece.replace(QStringLiteral("{"), QStringLiteral("\\{"));
+        piece.replace(QStringLiteral("}"), QStringLiteral("\\}"));
+        piece.replace(QStringLiteral("\r"), QStringLiteral("\\'0d"));
+        piece.replace(QStringLiteral("\n"), QStringLiteral("\\'0a"));
+        rtf += QStringLiteral("\\cf%1 ").arg(styles.StyleOf(run)) + piece;
+        from += styles.LengthOf(run);
+    }
+    return rtf + QLatin1Char('}');
+}
