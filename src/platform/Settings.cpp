@@ -87,7 +87,11 @@ void Settings::WriteNumber(const SettingsKey& key, double number) {
         Write(key, QString::number(static_cast<double>(static_cast<float>(number)), 'g', 7));
 }
 
-void Settings::Sync() {
-    for (const auto& store : std::as_const(stores_))
+bool Settings::Sync() {
+    bool written = true;
+    for (const auto& store : std::as_const(stores_)) {
         store->sync();
+        written = written && store->status() != QSettings::AccessError;
+    }
+    return written;
 }

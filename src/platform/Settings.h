@@ -29,8 +29,9 @@ class Settings {
     void WriteFlag(const SettingsKey& key, bool on);
     void WriteNumber(const SettingsKey& key, double number);
 
-    /// Brings what was written to the disk now. Runs by itself at the end of the event and on destruction.
-    void Sync();
+    /// Brings what was written to the disk now; false where that failed. Runs by itself at the end of the event
+    /// and on destruction.
+    bool Sync();
 
   private:
     QSettings& Store(const QString& application) const;

@@ -1,0 +1,29 @@
+// Loads the plugin with the browser and design controls, if it is installed.
+#include "app/WebPlugin.h"
+
+#include "editor/Frame.h"
+#include "editor/WebControls.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QPluginLoader>
+
+QStringList WebPluginFolders() {
+    const QDir program(QCoreApplication::applicationDirPath());
+    return {program.path(), QDir::cleanPath(program.filePath(QStringLiteral("../lib/tarnwick")))};
+}
+
+WebControlsFactory* LoadWebPlugin(const QStringList& folders) {
+    for (const QString& folder : folders) {
+        // The loader adds the system's own ending of plugins.
+        QPluginLoader loader(QDir(folder).filePath(QStringLiteral("tarnwick_web")));
+        loader.setLoadHints(QLibrary::PreventUnloadHint);
+        if (auto* factory = qobject_cast<WebControlsFactory*>(loader.instance()))
+            return factory;
+    }
+    return nullptr;
+}
+
+void UseWebPlugin(Frame& frame) {
+    frame.State<WebControls>().Load = [] { return LoadWebPlugin(WebPluginFolders()); };
+}

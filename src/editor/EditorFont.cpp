@@ -1,0 +1,17 @@
+// The font of the documents' text, as the settings have it.
+#include "editor/EditorFont.h"
+
+#include "platform/Settings.h"
+#include "platform/Values.h"
+
+#include <algorithm>
+
+QFont StoredEditorFont(const Settings& store) {
+    // The largest size of a rich-text control; a glyph beyond it costs more memory than it shows.
+    constexpr double largestPoints = 1638;
+    constexpr double smallestPoints = 1;
+    QFont font(store.Read(Keys::EditorFont));
+    if (const double points = Values::Val(store.Read(Keys::EditorFontSize)); points > 0)
+        font.setPointSizeF(std::clamp(points, smallestPoints, largestPoints));
+    return font;
+}
