@@ -2,7 +2,6 @@
 #include "editor/AutoFill.h"
 
 #include "editor/AutoFillHooks.h"
-#include "editor/CustomColor.h"
 #include "editor/Document.h"
 #include "editor/EditorState.h"
 #include "editor/Forms.h"
@@ -155,11 +154,11 @@ bool AutoFill::TakeRow(int& KeyAscii) {
 QChar AutoFill::WriteKey(const QString& key) {
     QString written = key;
     if (key == QLatin1String("custom")) {
-        const auto& pickColor = frame_.State<AutoFillHooks>().PickColor;
-        const QString picked = pickColor ? pickColor(frame_.Window()) : QString();
+        const auto& pickColorHex = frame_.State<AutoFillHooks>().PickColorHex;
+        const QString picked = pickColorHex ? pickColorHex(frame_.Window()) : QString();
         if (picked.isEmpty())
             return {};
-        written = CustomColorText(picked);
+        written = u'#' + picked;
     } else if (frame_.Store().ReadFlag(Keys::LowerCaseTags)) {
         written = key.toLower();
     }

@@ -7,7 +7,7 @@
 class QWidget;
 
 struct AutoFillHooks {
-    /// The colour dialog: the chosen colour's number as decimal text with a leading blank, empty when it was
-    /// cancelled. Without it "custom" is as if cancelled.
-    std::function<QString(QWidget* owner)> PickColor;
+    /// Shows the colour dialog: the chosen colour as six upper-case hexadecimal digits, red first, or empty
+    /// when it was cancelled. Without it every "custom" is cancelled.
+    std::function<QString(QWidget* owner)> PickColorHex;
 };

@@ -110,7 +110,7 @@ void frmDropDown::MoveToCaret() {
     const QPoint caret = text.CaretPixel();
     place_ = DropDownTwips(parentWidget()->frameGeometry().topLeft() * twipsPerPixel, caret);
     const QPoint line = text.viewport()->mapTo(parentWidget(), caret);
-    caretLine_ = QRect(line, QSize(1, QFontMetrics(text.Font()).height()));
+    caretLine_ = QRect(line, QSize(1, text.LineHeight()));
     Arrange();
 }
 

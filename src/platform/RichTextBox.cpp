@@ -264,6 +264,10 @@ QPoint RichTextBox::CaretPixel() const {
             static_cast<int>(Sci(SCI_POINTYFROMPOSITION, 0, caret))};
 }
 
+int RichTextBox::LineHeight() const {
+    return static_cast<int>(Sci(SCI_TEXTHEIGHT));
+}
+
 RichTextBox::PaintHold::PaintHold(RichTextBox& box) : box_(box) {
     if (box_.holds_++ == 0)
         box_.setUpdatesEnabled(false);

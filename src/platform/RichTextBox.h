@@ -128,6 +128,8 @@ class RichTextBox : public QsciScintillaBase {
 
     /// The caret in pixels of the viewport: left edge and top of its line.
     QPoint CaretPixel() const;
+    /// The height of a line, in pixels.
+    int LineHeight() const;
 
     /// Painting waits while a hold lives: what others know as hiding the control during a write.
     class PaintHold {
