@@ -6,5 +6,5 @@
 class Settings;
 
 /// EditorFont in EditorFontSize points. A size that begins with a number is that number ("12pt" is 12), cut
-/// to what can be drawn; one that is none or not above 0 leaves the default size of fonts.
+/// to what can be drawn; one that is none, or not above 0, counts as never stored.
 QFont StoredEditorFont(const Settings& store);

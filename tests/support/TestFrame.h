@@ -5,6 +5,7 @@
 #include "editor/Document.h"
 #include "editor/Forms.h"
 #include "editor/Frame.h"
+#include "editor/Modes.h"
 #include "platform/RichTextBox.h"
 #include "platform/Settings.h"
 #include "support/ScriptedPrompts.h"
@@ -49,11 +50,14 @@ class TestDocument final : public QWidget, public Document {
     RichTextBox& txtInput() override { return *input; }
     QWidget& Window() override { return *this; }
     bool Unload() override;
+    DocumentModes* Modes() override { return modes.get(); }
 
     QString caption;
     bool modified = false;
     RecordingBox* input;
     QTimer Timer1;
+    /// None until a test gives it some.
+    std::unique_ptr<DocumentModes> modes;
 };
 
 /// Starts with one open document, active. Every call that goes to the application is recorded.

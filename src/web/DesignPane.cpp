@@ -1,0 +1,121 @@
+// The design control: edits a page as it looks, and writes it back to its file.
+#include "web/DesignPane.h"
+
+#include "platform/WholeFile.h"
+#include "web/DesignPage.h"
+
+#include <QContextMenuEvent>
+#include <QEventLoop>
+#include <QMenu>
+#include <QPointer>
+#include <QTimer>
+#include <QWebEngineView>
+
+namespace {
+
+// The largest pages take some seconds; an engine that is silent for longer won't answer any more.
+constexpr int patienceMilliseconds = 30000;
+
+/// Lets everything but the user's keys and clicks go on, until the signal comes or the patience ends.
+template <typename Sender, typename Signal> void WaitFor(Sender* sender, Signal signal) {
+    QEventLoop loop;
+    QObject::connect(sender, signal, &loop, &QEventLoop::quit);
+    QObject::connect(sender, &QObject::destroyed, &loop, &QEventLoop::quit);
+    QTimer::singleShot(patienceMilliseconds, &loop, &QEventLoop::quit);
+    loop.exec(QEventLoop::ExcludeUserInputEvents);
+}
+
+} // namespace
+
+DesignPage* DesignPane::Edited() const {
+    return static_cast<DesignPage*>(Page());
+}
+
+void DesignPane::Load(const QString& path) {
+    path_.clear();
+    source_.reset();
+    state_ = State::Empty;
+    const std::optional<QByteArray> bytes = WholeFile::Read(path);
+    if (bytes) {
+        source_.emplace(*bytes);
+        path_ = path;
+        state_ = State::Loading;
+    }
+    // A new page each time: nothing of the old one can still arrive in it.
+    auto page = std::make_unique<DesignPage>(Profile());
+    DesignPage* shown = page.get();
+    connect(shown, &DesignPage::Shown, this, [this](bool ok) {
+        state_ = ok ? State::Ready : State::Empty;
+        emit Settled();
+    });
+    ShowPage(std::move(page));
+    if (source_)
+        shown->Show(*source_, path);
+}
+
+void DesignPane::Emptied() {
+    state_ = State::Empty;
+    emit Settled();
+}
+
+bool DesignPane::WaitUntilReady() {
+    const QPointer<DesignPane> self(this);
+    if (state_ == State::Loading)
+        WaitFor(this, &DesignPane::Settled);
+    return self && state_ == State::Ready;
+}
+
+std::optional<EditedPage> DesignPane::Collect() {
+    struct Answer {
+        std::optional<EditedPage> page;
+        bool awaited = true;
+    };
+    // Shared, since the answer can come when nobody waits for it any more.
+    const auto answer = std::make_shared<Answer>();
+    const QPointer<DesignPane> self(this);
+    Edited()->Collect([answer, self](const std::optional<EditedPage>& page) {
+        answer->page = page;
+        if (self && answer->awaited)
+            emit self->Settled();
+    });
+    WaitFor(this, &DesignPane::Settled);
+    answer->awaited = false;
+    if (!self || state_ != State::Ready)
+        return std::nullopt;
+    return answer->page;
+}
+
+bool DesignPane::Save(const QString& path) {
+    if (!WaitUntilReady())
+        return false;
+    const std::optional<EditedPage> page = Collect();
+    if (!page)
+        return false;
+    if (!page->changed && path == path_)
+        return true;
+    const QByteArray bytes = !page->changed      ? source_->Bytes()
+                             : page->headChanged ? source_->WithDocument(page->document)
+                                                 : source_->WithBody(page->body);
+    if (!WholeFile::Write(path, bytes))
+        return false;
+    if (path == path_)
+        Edited()->MarkSaved();
+    return true;
+}
+
+// The engine's own menu would offer to reload the page, and to leave it.
+void DesignPane::contextMenuEvent(QContextMenuEvent* event) {
+    event->accept();
+    if (state_ != State::Ready)
+        return;
+    QMenu menu(this);
+    for (const auto action : {QWebEnginePage::Undo, QWebEnginePage::Redo, QWebEnginePage::NoWebAction,
+                              QWebEnginePage::Cut, QWebEnginePage::Copy, QWebEnginePage::Paste,
+                              QWebEnginePage::NoWebAction, QWebEnginePage::SelectAll}) {
+        if (action == QWebEnginePage::NoWebAction)
+            menu.addSeparator();
+        else
+            menu.addAction(Page()->action(action));
+    }
+    menu.exec(event->globalPos());
+}

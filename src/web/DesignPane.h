@@ -1,0 +1,45 @@
+// The design control: edits a page as it looks, and writes it back to its file.
+#pragma once
+
+#include "editor/WebControls.h"
+#include "web/PageSource.h"
+#include "web/WebPane.h"
+
+#include <optional>
+#include <QString>
+
+class DesignPage;
+struct EditedPage;
+
+class DesignPane final : public WebPane, public DesignControl {
+    Q_OBJECT
+
+  public:
+    explicit DesignPane(QWidget* parent) : WebPane(parent) {}
+
+    QWidget& widget() override { return *this; }
+    void Load(const QString& path) override;
+    QString LoadedPath() const override { return path_; }
+    /// Waits for a page that is still coming up, with the user's input held back, and no longer than some
+    /// seconds.
+    bool Save(const QString& path) override;
+
+  Q_SIGNALS:
+    /// The page came up (or did not), or the engine died.
+    void Settled();
+
+  protected:
+    void Emptied() override;
+    void contextMenuEvent(QContextMenuEvent* event) override;
+
+  private:
+    enum class State { Empty, Loading, Ready };
+
+    DesignPage* Edited() const;
+    bool WaitUntilReady();
+    std::optional<EditedPage> Collect();
+
+    State state_ = State::Empty;
+    QString path_;
+    std::optional<PageSource> source_;
+};

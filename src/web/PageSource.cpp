@@ -1,0 +1,141 @@
+// A page's source text, and how a page edited as it looks becomes source again.
+#include "web/PageSource.h"
+
+#include <QRegularExpression>
+#include <QSet>
+
+namespace {
+
+/// Steps through what stands before a page's body: comments, declarations, and the tags of a head.
+class HeadScan {
+  public:
+    explicit HeadScan(QStringView text) : text_(text) {}
+
+    /// The position behind the body's start tag, or -1 where something else than a head comes before it.
+    qsizetype BodyBegin() {
+        while (SkipBlanks()) {
+            if (text_.mid(at_).startsWith(u"<!--")) {
+                at_ += 2;
+                if (!GoTo(u"-->"))
+                    return -1;
+                SkipTag();
+                continue;
+            }
+            const QString name = TagName();
+            if (!SkipTag() || !MayStandBefore(name))
+                return name == QStringLiteral("body") ? at_ : -1;
+            if (HasRawContent(name) && !GoTo(QStringLiteral("</") + name))
+                return -1;
+        }
+        return -1;
+    }
+
+  private:
+    /// False at the end, and at text that is no tag.
+    bool SkipBlanks() {
+        while (at_ < text_.size() && text_[at_].isSpace())
+            ++at_;
+        return at_ < text_.size() && text_[at_] == u'<';
+    }
+
+    bool GoTo(QStringView end) {
+        const qsizetype found = text_.indexOf(end, at_, Qt::CaseInsensitive);
+        at_ = found < 0 ? text_.size() : found;
+        return found >= 0;
+    }
+
+    /// The name of the tag that begins here, in small letters; "!" for a declaration, "/head" for an end tag.
+    QString TagName() const {
+        qsizetype end = at_ + 1;
+        if (end < text_.size() && (text_[end] == u'!' || text_[end] == u'?'))
+            return QStringLiteral("!");
+        while (end < text_.size() && (text_[end].isLetterOrNumber() || text_[end] == u'/') &&
+               (text_[end] != u'/' || end == at_ + 1))
+            ++end;
+        return text_.mid(at_ + 1, end - at_ - 1).toString().toLower();
+    }
+
+    /// Goes behind the tag's ">", past those in quotes.
+    bool SkipTag() {
+        QChar quote;
+        for (; at_ < text_.size(); ++at_) {
+            const QChar here = text_[at_];
+            if (!quote.isNull())
+                quote = here == quote ? QChar() : quote;
+            else if (here == u'"' || here == u'\'')
+                quote = here;
+            else if (here == u'>')
+                return ++at_ > 0;
+        }
+        return false;
+    }
+
+    static bool MayStandBefore(const QString& name) {
+        static const QSet<QString> head = {
+            QStringLiteral("!"),      QStringLiteral("html"),   QStringLiteral("head"),
+            QStringLiteral("/head"),  QStringLiteral("title"),  QStringLiteral("/title"),
+            QStringLiteral("meta"),   QStringLiteral("link"),   QStringLiteral("base"),
+            QStringLiteral("style"),  QStringLiteral("/style"), QStringLiteral("script"),
+            QStringLiteral("/script")};
+        return head.contains(name);
+    }
+
+    static bool HasRawContent(const QString& name) {
+        return name == QStringLiteral("title") || name == QStringLiteral("style") ||
+               name == QStringLiteral("script");
+    }
+
+    QStringView text_;
+    qsizetype at_ = 0;
+};
+
+/// The line end of the first line; CR LF in a text of one line.
+QString LineEndOf(const QString& text) {
+    static const QRegularExpression lineEnd(QStringLiteral("\r\n|\r|\n"));
+    const auto first = lineEnd.match(text);
+    return first.hasMatch() ? first.captured() : QStringLiteral("\r\n");
+}
+
+QString LineFeeds(QString text) {
+    return text.replace(QStringLiteral("\r\n"), QStringLiteral("\n")).replace(u'\r', u'\n');
+}
+
+} // namespace
+
+PageSource::PageSource(const QByteArray& bytes)
+    : bytes_(bytes), encoding_(PageEncoding::Of(bytes)), text_(encoding_.Decode(bytes)) {
+    FindBody();
+}
+
+void PageSource::FindBody() {
+    bodyBegin_ = HeadScan(text_).BodyBegin();
+    if (bodyBegin_ < 0)
+        return;
+    static const QRegularExpression end(QStringLiteral("</body\\s*>(\\s*)(?:</html\\s*>(\\s*))?\\z"),
+                                        QRegularExpression::CaseInsensitiveOption);
+    const qsizetype last = text_.lastIndexOf(QStringLiteral("</body"), -1, Qt::CaseInsensitive);
+    const auto found = last < bodyBegin_ ? QRegularExpressionMatch() : end.match(text_, last);
+    bodyEnd_ = found.hasMatch() ? found.capturedStart() : text_.size();
+    if (found.hasMatch())
+        blanksBehindBody_ = LineFeeds(found.captured(1) + found.captured(2));
+}
+
+QString PageSource::OwnLineEnds(QString text) const {
+    const QString own = LineEndOf(text_);
+    text = LineFeeds(std::move(text));
+    return own == QStringLiteral("\n") ? text : text.replace(QStringLiteral("\n"), own);
+}
+
+QByteArray PageSource::WithBody(const QString& body) const {
+    QString content = body;
+    if (content.endsWith(blanksBehindBody_))
+        content.chop(blanksBehindBody_.size());
+    return encoding_.Encode(text_.first(bodyBegin_) + OwnLineEnds(content) + text_.sliced(bodyEnd_));
+}
+
+QByteArray PageSource::WithDocument(const QString& html) const {
+    static const QRegularExpression beforeHtml(QStringLiteral("\\A(?:\\s+|<!--.*?-->|<[!?][^>]*>)*+"),
+                                               QRegularExpression::DotMatchesEverythingOption);
+    const QString kept = beforeHtml.match(text_).captured();
+    return encoding_.Encode(kept + OwnLineEnds(html + u'\n'));
+}

@@ -1,0 +1,93 @@
+// What both controls are: a widget with an engine's view in it, once there is something to show.
+#include "web/WebPane.h"
+
+#include <QVBoxLayout>
+#include <QWebEngineDownloadRequest>
+#include <QWebEnginePage>
+#include <QWebEngineProfile>
+#include <QWebEngineSettings>
+#include <QWebEngineView>
+
+namespace {
+
+/// Pages are strangers: none may reach the user's files, windows, clipboard or disk.
+void Restrict(QWebEngineSettings& settings) {
+    for (const auto attribute :
+         {QWebEngineSettings::LocalContentCanAccessRemoteUrls,
+          QWebEngineSettings::LocalContentCanAccessFileUrls, QWebEngineSettings::JavascriptCanOpenWindows,
+          QWebEngineSettings::JavascriptCanAccessClipboard,
+          QWebEngineSettings::AllowWindowActivationFromJavaScript,
+          QWebEngineSettings::HyperlinkAuditingEnabled, QWebEngineSettings::PluginsEnabled,
+          QWebEngineSettings::ScreenCaptureEnabled, QWebEngineSettings::FullScreenSupportEnabled,
+          QWebEngineSettings::DnsPrefetchEnabled, QWebEngineSettings::AutoLoadIconsForPage,
+          QWebEngineSettings::NavigateOnDropEnabled})
+        settings.setAttribute(attribute, false);
+    settings.setUnknownUrlSchemePolicy(QWebEngineSettings::DisallowUnknownUrlSchemes);
+    settings.setDefaultTextEncoding(QStringLiteral("windows-1252"));
+}
+
+std::shared_ptr<QWebEngineProfile> MakeProfile() {
+    // A profile without a name keeps everything in memory.
+    auto profile = std::make_shared<QWebEngineProfile>();
+    Restrict(*profile->settings());
+    QObject::connect(profile.get(), &QWebEngineProfile::downloadRequested, profile.get(),
+                     [](QWebEngineDownloadRequest* download) { download->cancel(); });
+    return profile;
+}
+
+} // namespace
+
+std::shared_ptr<QWebEngineProfile> SharedWebProfile() {
+    static std::weak_ptr<QWebEngineProfile> shared;
+    auto profile = shared.lock();
+    if (!profile)
+        shared = profile = MakeProfile();
+    return profile;
+}
+
+WebPane::WebPane(QWidget* parent) : QWidget(parent), profile_(SharedWebProfile()) {
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    // It lies over the source text, and must not let it show through.
+    setAutoFillBackground(true);
+    setFocusPolicy(Qt::StrongFocus);
+    hide();
+}
+
+WebPane::~WebPane() {
+    // The page goes before the profile that it was made with.
+    delete view_;
+}
+
+QWebEnginePage* WebPane::Page() const {
+    return view_ ? view_->page() : nullptr;
+}
+
+void WebPane::ShowPage(std::unique_ptr<QWebEnginePage> page) {
+    QWebEnginePage* shown = page.release();
+    connect(
+        shown, &QWebEnginePage::renderProcessTerminated, this,
+        [this, shown] {
+            if (Page() == shown)
+                Empty();
+        },
+        Qt::QueuedConnection);
+    if (view_) {
+        // The view deletes the page it had: that is a child of the view.
+        view_->setPage(shown);
+    } else {
+        view_ = new QWebEngineView(shown, this);
+        layout()->addWidget(view_);
+        setFocusProxy(view_);
+    }
+    shown->setParent(view_);
+}
+
+void WebPane::Empty() {
+    if (!view_)
+        return;
+    setFocusProxy(nullptr);
+    delete view_;
+    view_ = nullptr;
+    Emptied();
+}

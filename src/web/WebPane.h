@@ -1,0 +1,36 @@
+// What both controls are: a widget with an engine's view in it, once there is something to show.
+#pragma once
+
+#include <memory>
+#include <QWidget>
+
+class QWebEnginePage;
+class QWebEngineProfile;
+class QWebEngineView;
+
+/// The profile that all panes share for as long as one lives: nothing of it is ever written to the disk.
+std::shared_ptr<QWebEngineProfile> SharedWebProfile();
+
+/// Empty and cheap until the first page; empty again when the process that draws the page dies.
+class WebPane : public QWidget {
+    Q_OBJECT
+
+  public:
+    explicit WebPane(QWidget* parent);
+    ~WebPane() override;
+
+  protected:
+    /// The pane takes the page, and deletes the one it had.
+    void ShowPage(std::unique_ptr<QWebEnginePage> page);
+    /// Null while the pane is empty.
+    QWebEnginePage* Page() const;
+    QWebEngineView* View() const { return view_; }
+    QWebEngineProfile& Profile() { return *profile_; }
+    virtual void Emptied() {}
+
+  private:
+    void Empty();
+
+    std::shared_ptr<QWebEngineProfile> profile_;
+    QWebEngineView* view_ = nullptr;
+};
