@@ -44,8 +44,7 @@ TypingEngine::TypingEngine(Frame& frame, Document& document, QTimer& Timer1, QOb
     connect(text, &RichTextBox::SelChange, this, &TypingEngine::ShowLinePosition);
     connect(text, &RichTextBox::GotFocus, this, &TypingEngine::txtInput_GotFocus);
     connect(text, &RichTextBox::DblClick, this, &TypingEngine::txtInput_DblClick);
-    connect(text, &RichTextBox::KeyDown, this,
-            [this](const int& KeyCode, int Shift) { txtInput_KeyDown(KeyCode, Shift); });
+    connect(text, &RichTextBox::KeyDown, this, &TypingEngine::txtInput_KeyDown);
     connect(text, &RichTextBox::KeyPress, this, &TypingEngine::txtinput_KeyPress);
     connect(text, &RichTextBox::MouseUp, this,
             [this](int Button, int /*Shift*/, QPoint at) { txtInput_MouseUp(Button, at); });
@@ -80,7 +79,7 @@ void TypingEngine::txtInput_MouseUp(int Button, QPoint at) {
         frame_.PopUpEditMenu(document_.txtInput().viewport()->mapToGlobal(at));
 }
 
-void TypingEngine::txtInput_KeyDown(int KeyCode, int Shift) {
+void TypingEngine::txtInput_KeyDown(int& KeyCode, int Shift) {
     if (KeyCode == keyEscape || KeyCode == keyRight) {
         autoFill_.UnloadList();
         autoFill_.ClearValueList();
@@ -88,10 +87,10 @@ void TypingEngine::txtInput_KeyDown(int KeyCode, int Shift) {
     if (KeyCode == keyDown)
         frame_.State<EditorState>().ListReturnCaret = document_.txtInput().SelStart();
     if (KeyCode == keyUp || KeyCode == keyDown) {
-        if (frmDropDown* list = autoFill_.List()) {
-            list->FocusList();
-            list->ScrollToSelected();
-        }
+        frmDropDown* list = autoFill_.List();
+        // The key that goes into the list moves no caret in the text: Esc would come back to another line.
+        if (list && list->FocusList())
+            KeyCode = 0;
     }
     if (Shift == ctrlAlone && KeyCode >= keyDigit0 && KeyCode <= keyDigit9)
         RunUserButton(KeyCode - keyDigit0);

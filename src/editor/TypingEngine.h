@@ -34,7 +34,7 @@ class TypingEngine : public QObject {
     void txtInput_Change();
     void txtInput_GotFocus();
     void txtInput_DblClick();
-    void txtInput_KeyDown(int KeyCode, int Shift);
+    void txtInput_KeyDown(int& KeyCode, int Shift);
     void txtInput_MouseUp(int Button, QPoint at);
 
     void ShowLinePosition();

@@ -97,9 +97,12 @@ void frmDropDown::Open() {
     ScrollToSelected();
 }
 
-void frmDropDown::FocusList() {
-    if (isVisible())
-        ui_->ListView1->setFocus();
+bool frmDropDown::FocusList() {
+    if (!isVisible())
+        return false;
+    ui_->ListView1->setFocus();
+    ScrollToSelected();
+    return true;
 }
 
 void frmDropDown::MoveToCaret() {

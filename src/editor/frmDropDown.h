@@ -40,8 +40,9 @@ class frmDropDown final : public QFrame {
 
     /// Shows it without giving it the focus.
     void Open();
-    /// Gives ListView1 the focus; does nothing while it is hidden.
-    void FocusList();
+    /// Gives ListView1 the focus, with its selected row in view. Returns false, and does nothing, while it is
+    /// hidden.
+    bool FocusList();
 
     /// Puts it at the caret of the active document.
     void MoveToCaret();

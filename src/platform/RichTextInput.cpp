@@ -32,12 +32,18 @@ bool IsUserEvent(QEvent::Type type) {
     }
 }
 
+/// True for a character that a key types. A soft hyphen does not print where it stands, and is typed all the
+/// same.
+bool IsTyped(const QKeyEvent& event) {
+    return !event.text().isEmpty() && (event.text()[0].isPrint() || event.text()[0] == QChar(0xad));
+}
+
 /// True for the keys that belong to a text whatever a menu makes of them: characters and plain editing keys.
 bool IsTextKey(const QKeyEvent& event) {
     if ((event.modifiers() & ~(Qt::ShiftModifier | Qt::KeypadModifier)) != Qt::NoModifier)
         return false;
-    return (!event.text().isEmpty() && event.text()[0].isPrint()) ||
-           EditingKeyOf(event.key(), event.modifiers()).has_value() || event.key() == Qt::Key_Backspace;
+    return IsTyped(event) || EditingKeyOf(event.key(), event.modifiers()).has_value() ||
+           event.key() == Qt::Key_Backspace;
 }
 
 } // namespace
@@ -93,7 +99,7 @@ void RichTextBox::PressKey(QKeyEvent* event) {
         TypeCode(*character, !isLetter);
         if (*character == 27)
             event->ignore();
-    } else if (YieldsText(event->modifiers()) && !event->text().isEmpty() && event->text()[0].isPrint()) {
+    } else if (YieldsText(event->modifiers()) && IsTyped(*event)) {
         TypeText(event->text());
     } else {
         event->ignore();

@@ -1,0 +1,212 @@
+// Keys, caret, focus and mouse in a document: everything but the tag close and the auto-fill lists.
+#include "editor/TypingEngine.h"
+
+#include "editor/frmDropDown.h"
+#include "support/TypingFrame.h"
+
+#include <gtest/gtest.h>
+#include <QListWidget>
+#include <QTest>
+
+namespace {
+
+TEST(TypingEngine, TypedTextIsPlain) {
+    TypingFrame frame;
+    frame.Type("a<B c=\"d\"/(&'%.\r");
+    EXPECT_EQ(frame.Box().Text(), QStringLiteral("a<B c=\"d\"/(&'%.\r\n"));
+    for (int i = 0; i < frame.Box().TextLength(); ++i)
+        EXPECT_EQ(frame.Box().ColorAt(i), 0) << i;
+}
+
+TEST(TypingEngine, TypedTextTakesTheStoredTextColor) {
+    TypingFrame frame;
+    frame.SetText(QStringLiteral("a"));
+    frame.Store().WriteNumber(Keys::TextColor[0], 255);
+    frame.Type("b");
+    EXPECT_EQ(frame.Box().ColorAt(0), 0);
+    EXPECT_EQ(frame.Box().ColorAt(1), 255);
+    frame.Store().Write(Keys::TextColor[0], QStringLiteral("nonsense"));
+    frame.Type("c");
+    EXPECT_EQ(frame.Box().ColorAt(2), 0);
+}
+
+TEST(TypingEngine, ASelectionIsNotRecolored) {
+    TypingFrame frame;
+    frame.SetText(QStringLiteral("abc"));
+    frame.Box().SetSelStart(0);
+    frame.Box().SetSelLength(3);
+    frame.Box().SetSelColor(255);
+    frame.Type("=");
+    // The key itself is typed by the control; nothing of the engine has coloured what was selected.
+    EXPECT_EQ(frame.Box().Text(), QStringLiteral("="));
+    EXPECT_EQ(frame.Box().ColorAt(0), 255);
+}
+
+TEST(TypingEngine, OpeningADocumentSetsTheFlags) {
+    TypingFrame frame;
+    frame.Flags().DropDownOpen = true;
+    frame.Flags().DropDownFollowsCaret = false;
+    frame.NewDocument();
+    const TypingEngine second(frame, *frame.active, frame.active->Timer1, nullptr);
+    EXPECT_FALSE(frame.Flags().DropDownOpen);
+    EXPECT_TRUE(frame.Flags().DropDownFollowsCaret);
+    EXPECT_EQ(frame.active->Timer1.interval(), 1150);
+    EXPECT_TRUE(frame.active->Timer1.isSingleShot());
+    EXPECT_FALSE(frame.active->Timer1.isActive());
+}
+
+TEST(TypingEngine, IsFoundByItsDocument) {
+    TypingFrame frame;
+    EXPECT_EQ(TypingEngine::Of(*frame.active), frame.engine);
+    frame.NewDocument();
+    EXPECT_EQ(TypingEngine::Of(*frame.active), nullptr);
+}
+
+TEST(TypingEngine, EveryChangeMarksTheDocument) {
+    TypingFrame frame;
+    EXPECT_FALSE(frame.active->Modified());
+    frame.Type("a");
+    EXPECT_TRUE(frame.active->Modified());
+    frame.active->SetModified(false);
+    frame.Type("\b");
+    EXPECT_TRUE(frame.active->Modified());
+    frame.active->SetModified(false);
+    frame.Box().SetSelText(QStringLiteral("x"));
+    EXPECT_TRUE(frame.active->Modified());
+    frame.active->SetModified(false);
+    frame.Box().SetSelStart(0);
+    EXPECT_FALSE(frame.active->Modified());
+}
+
+TEST(TypingEngine, ShowsTheLineOfTheCaret) {
+    TypingFrame frame;
+    frame.SetText(QStringLiteral("a\r\nb\r\n\r\nc"));
+    EXPECT_EQ(frame.statuses.last(), QStringLiteral("Line 4"));
+    frame.Box().SetSelStart(3);
+    EXPECT_EQ(frame.statuses.last(), QStringLiteral("Line 2"));
+    frame.Key(Qt::Key_Up);
+    EXPECT_EQ(frame.statuses.last(), QStringLiteral("Line 1"));
+    frame.Type("\r");
+    EXPECT_EQ(frame.statuses.last(), QStringLiteral("Line 2"));
+    frame.Key(Qt::Key_End, Qt::ControlModifier);
+    EXPECT_EQ(frame.statuses.last(), QStringLiteral("Line 5"));
+}
+
+TEST(TypingEngine, FocusShowsTheLineAndSelectsTheTab) {
+    TypingFrame frame;
+    auto* other = new QWidget(frame.window.get());
+    other->setFocusPolicy(Qt::StrongFocus);
+    other->show();
+    other->setFocus();
+    frame.active->SetCaption(QStringLiteral("C:\\site\\a.htm"));
+    frame.statuses.clear();
+    frame.selectedTabs.clear();
+    frame.Box().SetFocus();
+    EXPECT_EQ(frame.statuses, QStringList{QStringLiteral("Line 1")});
+    EXPECT_EQ(frame.selectedTabs, QStringList{QStringLiteral("C:\\site\\a.htm")});
+}
+
+TEST(TypingEngine, RightButtonPopsUpTheEditMenu) {
+    TypingFrame frame;
+    QWidget* text = frame.Box().viewport();
+    QTest::mouseClick(text, Qt::LeftButton, {}, QPoint(20, 10));
+    QTest::mouseClick(text, Qt::MiddleButton, {}, QPoint(20, 10));
+    EXPECT_TRUE(frame.popUps.empty());
+    QTest::mouseClick(text, Qt::RightButton, {}, QPoint(20, 10));
+    ASSERT_EQ(frame.popUps.size(), 1U);
+    EXPECT_EQ(frame.popUps.front(), text->mapToGlobal(QPoint(20, 10)));
+}
+
+TEST(TypingEngine, AfterADoubleClickTheMouseSelectsNoFurther) {
+    TypingFrame frame;
+    frame.SetText(QStringLiteral("word another more"));
+    QWidget* text = frame.Box().viewport();
+    frame.Box().SetSelStart(2);
+    const QPoint at = frame.Box().CaretPixel() + QPoint(0, 3);
+    QTest::mouseClick(text, Qt::LeftButton, {}, at);
+    QTest::mouseDClick(text, Qt::LeftButton, {}, at);
+    EXPECT_EQ(frame.Box().SelText(), QStringLiteral("word"));
+}
+
+struct ButtonRow {
+    Qt::Key key;
+    int index;
+};
+
+TEST(TypingEngine, CtrlAndDigitRunUserButtons) {
+    TypingFrame frame;
+    for (size_t i = 0; i < 65; ++i) {
+        frame.Flags().FirstBut[i] = QStringLiteral("<B%1>").arg(i);
+        frame.Flags().SecondBut[i] = QStringLiteral("</B%1>").arg(i);
+    }
+    for (const auto& [key, index] :
+         {ButtonRow{Qt::Key_1, 0}, ButtonRow{Qt::Key_2, 1}, ButtonRow{Qt::Key_3, 2}, ButtonRow{Qt::Key_4, 3},
+          ButtonRow{Qt::Key_5, 4}, ButtonRow{Qt::Key_6, 5}, ButtonRow{Qt::Key_7, 6}, ButtonRow{Qt::Key_8, 7},
+          ButtonRow{Qt::Key_9, 8}, ButtonRow{Qt::Key_0, 9}}) {
+        frame.SetText(QString());
+        frame.Key(key, Qt::ControlModifier);
+        EXPECT_EQ(frame.Marked(), QStringLiteral("<B%1>|</B%1>").arg(index));
+    }
+}
+
+TEST(TypingEngine, UserButtonsKeepTheirTextsInLowerCaseToo) {
+    TypingFrame frame;
+    frame.Store().WriteFlag(Keys::LowerCaseTags, true);
+    frame.Flags().FirstBut[0] = QStringLiteral("<DIV>\r\n");
+    frame.Flags().SecondBut[0] = QStringLiteral("\r\n</DIV>");
+    frame.Key(Qt::Key_1, Qt::ControlModifier);
+    EXPECT_EQ(frame.Box().Text(), QStringLiteral("<div>\r\n\r\n</div>"));
+    EXPECT_EQ(frame.Flags().FirstBut[0], QStringLiteral("<DIV>\r\n"));
+    EXPECT_EQ(frame.Flags().SecondBut[0], QStringLiteral("\r\n</DIV>"));
+}
+
+TEST(TypingEngine, OnlyCtrlAloneRunsUserButtons) {
+    TypingFrame frame;
+    frame.Flags().FirstBut.fill(QStringLiteral("<B>"));
+    frame.Key(Qt::Key_1, Qt::ControlModifier | Qt::ShiftModifier);
+    frame.Key(Qt::Key_1, Qt::AltModifier);
+    frame.Key(Qt::Key_1, Qt::ControlModifier | Qt::AltModifier);
+    frame.Key(Qt::Key_Control, Qt::ControlModifier);
+    EXPECT_EQ(frame.Box().Text(), QString());
+    frame.Type("1");
+    EXPECT_EQ(frame.Box().Text(), QStringLiteral("1"));
+}
+
+TEST(TypingEngine, TheDownKeyRemembersTheCaret) {
+    TypingFrame frame;
+    frame.SetMarked("ab|c");
+    frame.Key(Qt::Key_Down);
+    EXPECT_EQ(frame.Flags().ListReturnCaret, 2);
+    EXPECT_EQ(QApplication::focusWidget(), &frame.Box());
+    frame.Box().SetSelStart(1);
+    frame.Key(Qt::Key_Up);
+    EXPECT_EQ(frame.Flags().ListReturnCaret, 2);
+    EXPECT_EQ(QApplication::focusWidget(), &frame.Box());
+}
+
+TEST(TypingEngine, KeysWithoutAListDoNothingElse) {
+    TypingFrame frame;
+    frame.SetMarked("a|b");
+    frame.active->SetModified(false);
+    frame.Key(Qt::Key_Escape);
+    EXPECT_EQ(frame.Marked(), QStringLiteral("a|b"));
+    frame.Key(Qt::Key_Right);
+    EXPECT_EQ(frame.Marked(), QStringLiteral("ab|"));
+    EXPECT_FALSE(frame.active->Modified());
+    EXPECT_EQ(frame.List(), nullptr);
+}
+
+TEST(TypingEngine, PunctuationIsNoArrowKey) {
+    // The codes of these characters are the key codes of Left, Up, Right and Down.
+    TypingFrame frame;
+    frame.SetText(QStringLiteral("<IMG"));
+    frame.Type(" ");
+    for (const char* character : {"%", "&", "'", "("}) {
+        frame.Type(character);
+        EXPECT_NE(frame.List(), nullptr) << character;
+    }
+    EXPECT_EQ(frame.Box().Text(), QStringLiteral("<IMG %&'("));
+    EXPECT_EQ(frame.Flags().ListReturnCaret, 0);
+}
+
+} // namespace

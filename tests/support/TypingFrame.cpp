@@ -1,0 +1,95 @@
+// A test frame whose document has a typing engine, and a person at its keyboard.
+#include "support/TypingFrame.h"
+
+#include "editor/frmDropDown.h"
+
+#include <gtest/gtest.h>
+#include <QApplication>
+#include <QKeyEvent>
+#include <QListWidget>
+#include <QTest>
+
+TypingFrame::TypingFrame() {
+    // The engine's own mark on the document is what tests look at.
+    QObject::disconnect(active->input, &RichTextBox::Change, active, nullptr);
+    engine = new TypingEngine(*this, *active, active->Timer1, active);
+    window->activateWindow();
+    EXPECT_TRUE(QTest::qWaitForWindowActive(window.get()));
+    active->input->SetFocus();
+}
+
+void TypingFrame::Send(int key, const QString& text, Qt::KeyboardModifiers modifiers) {
+    QWidget* target = QApplication::focusWidget();
+    ASSERT_NE(target, nullptr);
+    QKeyEvent down(QEvent::KeyPress, key, modifiers, text);
+    QApplication::sendEvent(target, &down);
+    target = QApplication::focusWidget();
+    ASSERT_NE(target, nullptr);
+    QKeyEvent up(QEvent::KeyRelease, key, modifiers, text);
+    QApplication::sendEvent(target, &up);
+}
+
+void TypingFrame::Type(const QString& characters) {
+    for (const QChar c : characters) {
+        if (c == u'\r')
+            Send(Qt::Key_Return, QString(c), Qt::NoModifier);
+        else if (c == u'\b')
+            Send(Qt::Key_Backspace, QString(c), Qt::NoModifier);
+        else
+            // Qt numbers the keys of Latin-1 by the code of their upper-case character.
+            Send(c.toUpper().unicode(), QString(c), Qt::NoModifier);
+    }
+}
+
+void TypingFrame::Key(Qt::Key key, Qt::KeyboardModifiers modifiers) {
+    Send(key, key == Qt::Key_Escape ? QString(QChar(27)) : QString(), modifiers);
+}
+
+void TypingFrame::Pause() {
+    ASSERT_TRUE(PausePending());
+    ASSERT_TRUE(QMetaObject::invokeMethod(&active->Timer1, "timeout"));
+}
+
+void TypingFrame::SetMarked(const QString& marked) {
+    QString text = marked;
+    const auto caret = static_cast<int>(text.indexOf(u'|'));
+    const auto start = static_cast<int>(text.indexOf(u'['));
+    const auto end = static_cast<int>(text.indexOf(u']')) - 1;
+    text.remove(u'|').remove(u'[').remove(u']');
+    SetText(text);
+    Box().SetSelStart(start >= 0 ? start : caret);
+    if (start >= 0)
+        Box().SetSelLength(end - start);
+}
+
+QString TypingFrame::Marked() {
+    QString text = Box().Text();
+    const int start = Box().SelStart();
+    if (const int length = Box().SelLength(); length > 0)
+        return text.insert(start + length, u']').insert(start, u'[');
+    return text.insert(start, u'|');
+}
+
+frmDropDown* TypingFrame::List() {
+    return Lists().List();
+}
+
+bool TypingFrame::ListShown() {
+    return List() && List()->isVisible();
+}
+
+QListWidget* TypingFrame::ListView1() {
+    return List() ? List()->findChild<QListWidget*>(QStringLiteral("ListView1")) : nullptr;
+}
+
+QStringList TypingFrame::Rows() {
+    QStringList rows;
+    for (int row = 0; List() && row < ListView1()->count(); ++row)
+        rows << ListView1()->item(row)->text();
+    return rows;
+}
+
+QString TypingFrame::SelectedRow() {
+    const QListWidgetItem* item = List() ? ListView1()->currentItem() : nullptr;
+    return item ? item->text() : QString();
+}
