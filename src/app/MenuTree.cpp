@@ -222,7 +222,7 @@ std::span<const MenuRow> MenuTree() {
     return tree;
 }
 
-void BuildMenus(QMenuBar& bar, Frame& frame, QObject* owner) {
+void BuildMenus(QMenuBar& bar, Frame& frame) {
     QVector<QMenu*> open;
     for (const MenuRow& row : tree) {
         switch (row.kind) {
@@ -236,7 +236,7 @@ void BuildMenus(QMenuBar& bar, Frame& frame, QObject* owner) {
             open.pop_back();
             break;
         case MenuRow::Entry:
-            AddEntry(*open.last(), row, frame, owner);
+            AddEntry(*open.last(), row, frame, &bar);
             break;
         case MenuRow::Separator:
             AddSeparator(*open.last(), row);

@@ -30,6 +30,7 @@ StatusBar::StatusBar(QWidget* parent)
     addWidget(program_, 1);
     // A long text is cut at the edge; it never widens the window.
     program_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    minute_.setObjectName(QStringLiteral("minute"));
     minute_.setSingleShot(true);
     connect(&minute_, &QTimer::timeout, this, &StatusBar::Tick);
     Tick();

@@ -30,5 +30,5 @@ class StatusBar final : public QStatusBar {
     QLabel* date_;
     QLabel* time_;
     QLabel* program_;
-    QTimer minute_;
+    QTimer minute_{this};
 };

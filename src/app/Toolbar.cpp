@@ -79,7 +79,7 @@ Toolbar1::Toolbar1(Frame& frame, QWidget* parent) : QWidget(parent), frame_(fram
     auto* flow = new FlowLayout(this);
     flow->setSpacing(0);
     flow->setContentsMargins(2, 2, 2, 2);
-    QSizePolicy policy(QSizePolicy::Preferred, QSizePolicy::Fixed);
+    QSizePolicy policy(QSizePolicy::Preferred, QSizePolicy::Minimum);
     policy.setHeightForWidth(true);
     setSizePolicy(policy);
     for (const ToolbarRow& row : buttons)
