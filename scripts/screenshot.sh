@@ -52,7 +52,7 @@ import -window root "$home/last.png"
 for attempt in $(seq 50); do
     sleep 0.2
     import -window root "$home/next.png"
-    if cmp -s <(convert "$home/last.png" rgb:-) <(convert "$home/next.png" rgb:-) && [ "$attempt" -gt 4 ]; then
+    if [ "$(identify -format '%#' "$home/last.png")" = "$(identify -format '%#' "$home/next.png")" ] && [ "$attempt" -gt 4 ]; then
         break
     fi
     mv "$home/next.png" "$home/last.png"

@@ -62,6 +62,8 @@ class Desk:
                              env=self.env, capture_output=True, text=True, check=True).stdout.split()
         self.env["DBUS_SESSION_BUS_ADDRESS"], self.bus = bus[0], int(bus[1])
         self.start(["openbox"])
+        wait_for("the window manager", lambda: "window id" in subprocess.run(
+            ["xprop", "-root", "_NET_SUPPORTING_WM_CHECK"], env=self.env, capture_output=True, text=True).stdout)
         self.start(["/usr/libexec/at-spi-bus-launcher", "--launch-immediately"])
         if not first_run:
             self.settings("Window Options", FirstTimeAgain=1)
@@ -107,6 +109,7 @@ class Desk:
         """Starts the program and waits for its window."""
         self.program = self.start([PROGRAM, *arguments])
         self.wait_window(window)
+        self.wait_active(window)
         return self.program
 
     def ended(self):

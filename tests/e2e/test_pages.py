@@ -7,7 +7,7 @@ PAGE = b"<HTML>\r\n<BODY>\r\n<P>One caf\xe9</P>\r\n</BODY>\r\n</HTML>\r\n"
 
 
 def box_text(desk):
-    return desk.widget("Text", "text").queryText()
+    return desk.widget("Document text", "text").queryText()
 
 
 def text_of(desk):
