@@ -19,6 +19,10 @@ void Forms::Add(QWidget* form) {
     connect(form, &QObject::destroyed, this, [this, form] { std::erase(forms_, form); });
 }
 
+void Forms::Remove(QWidget* form) {
+    std::erase(forms_, form);
+}
+
 QWidget* Forms::Find(const QString& name) const {
     const auto found =
         std::ranges::find_if(forms_, [&](QWidget* form) { return form->objectName() == name; });

@@ -20,6 +20,8 @@ class Forms : public QObject {
     QString CaptionAt(int index) const;
     /// Puts a form at the list's end; it leaves by itself when it is destroyed.
     void Add(QWidget* form);
+    /// Takes a form off the list ahead of its destruction: from then on no one finds it.
+    void Remove(QWidget* form);
     /// The loaded form of a name (objectName), or null.
     QWidget* Find(const QString& name) const;
     /// Closes and deletes the form of a name, if it is loaded.

@@ -1,0 +1,165 @@
+// What happens as the main frame closes: dialogs and documents go, and the settings go out.
+#include "app/Shutdown.h"
+
+#include "app/frmTarnwick.h"
+#include "app/ProgramState.h"
+#include "app/RecentFiles.h"
+#include "app/Twips.h"
+#include "app/UserButtons.h"
+#include "builders/BuilderState.h"
+#include "editor/Document.h"
+#include "editor/EditorState.h"
+#include "platform/Settings.h"
+#include "platform/Values.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int storedButtons = 30;
+
+} // namespace
+
+Shutdown::Shutdown(frmTarnwick& frame) : frame_(frame) {}
+
+std::span<const char* const> Shutdown::UnloadedForms() {
+    static constexpr const char* forms[] = {
+        "frmBody",      "frmEmbed", "frmFont",   "frmForm",   "frmFrame",    "frmGraphicLink",
+        "frmHRInput",   "frmInfo",  "frmJava",   "frmLinks",  "frmParam",    "frmTable",
+        "frmTime",      "frmFTP",   "frmSplash", "frmSpacer", "frmExternal", "frmBulletList",
+        "frmGridInput", "frmImage", "frmMulti",  "frmTools",  "VisFrame",
+    };
+    return forms;
+}
+
+std::span<const Shutdown::Step> Shutdown::Steps() {
+    static constexpr Step steps[] = {
+        {"UnhookWindow", &Shutdown::UnhookWindow},
+        {"KeepWindowState", &Shutdown::KeepWindowState},
+        {"KeepRecentFiles", &Shutdown::KeepRecentFiles},
+        {"WriteFirstTimeAgain", &Shutdown::WriteFirstTimeAgain},
+        {"WriteDictionaries", &Shutdown::WriteDictionaries},
+        {"WriteTextColors", &Shutdown::WriteTextColors},
+        {"WriteEditorValues", &Shutdown::WriteEditorValues},
+        {"WriteGeometry", &Shutdown::WriteGeometry},
+        {"WriteMainWindowState", &Shutdown::WriteMainWindowState},
+        {"WriteUseDDE", &Shutdown::WriteUseDDE},
+        {"WriteRecentFiles", &Shutdown::WriteRecentFiles},
+        {"WriteUserButtons", &Shutdown::WriteUserButtons},
+        {"UnloadImageDialog", &Shutdown::UnloadImageDialog},
+    };
+    return steps;
+}
+
+bool Shutdown::Run() {
+    if (!QueryUnload() || !UnloadDocuments())
+        return false;
+    for (const Step& step : Steps()) {
+        Watch(step.name);
+        (this->*step.run)();
+    }
+    frame_.Store().Sync();
+    return true;
+}
+
+bool Shutdown::QueryUnload() {
+    for (const char* form : UnloadedForms()) {
+        Watch(form);
+        frame_.LoadedForms().Unload(QString::fromLatin1(form));
+    }
+    Document* document = frame_.ActiveForm();
+    return !document || document->Unload();
+}
+
+bool Shutdown::UnloadDocuments() {
+    while (Document* document = frame_.ActiveForm())
+        if (!document->Unload())
+            return false;
+    return true;
+}
+
+void Shutdown::UnhookWindow() {
+    frame_.SetHooks(false, false);
+}
+
+void Shutdown::KeepWindowState() {
+    mainWindowState_ = frame_.isMinimized() ? u"1"_s : frame_.isMaximized() ? u"2"_s : u"0"_s;
+}
+
+void Shutdown::KeepRecentFiles() {
+    auto& program = frame_.State<ProgramState>();
+    for (int n = 0; n < RecentFiles::Count; ++n)
+        program.MenuArray[static_cast<size_t>(n)] = RecentFiles::Caption(frame_, n);
+}
+
+void Shutdown::WriteFirstTimeAgain() {
+    frame_.Store().WriteNumber(Keys::FirstTimeAgain, frame_.State<ProgramState>().FirstTimeAgain + 1.0);
+}
+
+void Shutdown::WriteDictionaries() {
+    const auto& program = frame_.State<ProgramState>();
+    frame_.Store().Write(Keys::StandardDic(), program.StandardDic);
+    frame_.Store().Write(Keys::CustomDic(), program.CustomDic);
+}
+
+void Shutdown::WriteTextColors() {
+    const auto& colors = frame_.State<EditorState>().ColorTable;
+    for (size_t slot = 0; slot < colors.size(); ++slot)
+        frame_.Store().Write(Keys::EdTextColor[slot], colors[slot]);
+}
+
+void Shutdown::WriteEditorValues() {
+    Settings& store = frame_.Store();
+    const auto& program = frame_.State<ProgramState>();
+    store.Write(Keys::LinkColor, program.LinkColor);
+    store.Write(Keys::UserTemplate, program.UserTemplate);
+    store.Write(Keys::TemplateWindowState, program.TemplateWindowState);
+    store.WriteNumber(Keys::Background2, frame_.State<EditorState>().Background2);
+    store.Write(Keys::ReloadFlag, Values::FromBoolean(program.ReloadFlag));
+    store.Write(Keys::TheOpenFile, program.TheOpenFile);
+    store.Write(Keys::LastDir(), frame_.State<BuilderState>().LastDir);
+}
+
+void Shutdown::WriteGeometry() {
+    // A maximised or minimised frame keeps the geometry of its last normal run.
+    if (mainWindowState_ != u"0")
+        return;
+    Settings& store = frame_.Store();
+    store.WriteNumber(Keys::MainFormHeight, Twips::FromPixels(frame_.height()));
+    store.WriteNumber(Keys::MainFormWidth, Twips::FromPixels(frame_.width()));
+    store.WriteNumber(Keys::MainFormLeft, Twips::FromPixels(frame_.x()));
+    store.WriteNumber(Keys::MainFormTop, Twips::FromPixels(frame_.y()));
+}
+
+void Shutdown::WriteMainWindowState() {
+    frame_.Store().Write(Keys::MainWindowState, mainWindowState_);
+}
+
+void Shutdown::WriteUseDDE() {
+    frame_.Store().Write(Keys::UseDDE, QString());
+}
+
+void Shutdown::WriteRecentFiles() {
+    const auto& program = frame_.State<ProgramState>();
+    for (int n = 0; n < RecentFiles::Count; ++n)
+        frame_.Store().Write(Keys::MenuArray(n), program.MenuArray[static_cast<size_t>(n)]);
+}
+
+void Shutdown::WriteUserButtons() {
+    Settings& store = frame_.Store();
+    const auto& editor = frame_.State<EditorState>();
+    for (int n = 0; n < storedButtons; ++n) {
+        store.Write(Keys::FirstBut(n), editor.FirstBut[static_cast<size_t>(n)]);
+        store.Write(Keys::SecondBut(n), editor.SecondBut[static_cast<size_t>(n)]);
+        store.Write(Keys::ButCap(n), frame_.Picture2().Caption(n));
+    }
+}
+
+void Shutdown::UnloadImageDialog() {
+    frame_.LoadedForms().Unload(u"frmImage"_s);
+}
+
+void Shutdown::Watch(const char* name) const {
+    if (watch)
+        watch(name);
+}

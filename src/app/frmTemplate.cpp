@@ -1,0 +1,178 @@
+// A document window: a child window of the frame that holds one text control.
+#include "app/frmTemplate.h"
+
+#include "app/Icons.h"
+#include "app/ProgramState.h"
+#include "app/Twips.h"
+#include "editor/Commands.h"
+#include "editor/EditorState.h"
+#include "editor/Forms.h"
+#include "editor/Frame.h"
+#include "editor/Modes.h"
+#include "editor/TypingEngine.h"
+#include "editor/WriteColoredText.h"
+#include "platform/Prompts.h"
+#include "platform/RichTextBox.h"
+#include "platform/Settings.h"
+#include "platform/Values.h"
+
+#include <QAction>
+#include <QCloseEvent>
+#include <QMdiArea>
+#include <QMenu>
+#include <QTimer>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+// So much larger than the window's inside is the text, so that its border lies outside.
+constexpr int borderTwips = 75;
+constexpr int noWrapTwips = 65000;
+constexpr int listDelayMilliseconds = 1150;
+
+QString StateDigit(const QWidget& window) {
+    return window.isMinimized() ? u"1"_s : window.isMaximized() ? u"2"_s : u"0"_s;
+}
+
+// The window's own system menu takes Ctrl+W as well as Ctrl+F4: two actions on one key, and neither would
+// work.
+void LeaveCtrlWToTheFileMenu(QMenu* systemMenu) {
+    for (QAction* entry : systemMenu->actions())
+        if (entry->shortcuts().contains(QKeySequence(Qt::CTRL | Qt::Key_W)))
+            entry->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_F4));
+}
+
+} // namespace
+
+frmTemplate::frmTemplate(Frame& frame)
+    : frame_(frame), client_(new QWidget(this)), txtInput_(new RichTextBox(client_)),
+      timer1_(new QTimer(this)) {
+    setObjectName(u"frmTemplate"_s);
+    txtInput_->setObjectName(u"txtInput"_s);
+    txtInput_->setAccessibleName(tr("Document text"));
+    txtInput_->setFrameStyle(int(QFrame::Box) | int(QFrame::Plain));
+    txtInput_->setLineWidth(2);
+    client_->setFocusProxy(txtInput_);
+    client_->installEventFilter(this);
+    setWidget(client_);
+    setWindowIcon(ProgramIcon());
+    LeaveCtrlWToTheFileMenu(systemMenu());
+
+    timer1_->setObjectName(u"Timer1"_s);
+    timer1_->setSingleShot(true);
+    timer1_->setInterval(listDelayMilliseconds);
+    new TypingEngine(frame_, *this, *timer1_, this);
+    modes_ = std::make_unique<DocumentModes>(frame_, *this);
+}
+
+frmTemplate::~frmTemplate() = default;
+
+void frmTemplate::Form_Load() {
+    SetModified(false);
+    auto& editor = frame_.State<EditorState>();
+    editor.DropDownOpen = false;
+    QString nothing;
+    WriteColoredText(frame_, nothing, QString(), true);
+    editor.DropDownFollowsCaret = true;
+    ReadSettings();
+    ++frame_.State<ProgramState>().DocumentCount;
+    ShowInItsState();
+    modes_->PlaceAtLoad();
+}
+
+void frmTemplate::ShowInItsState() {
+    const int state = Values::WholeVal(frame_.State<ProgramState>().TemplateWindowState);
+    if (state == 2)
+        showMaximized();
+    else
+        show();
+}
+
+void frmTemplate::ReadSettings() {
+    const Settings& store = frame_.Store();
+    if (store.ReadFlag(Keys::UseMSIE))
+        modes_->LoadControls();
+    txtInput_->SetRightMargin(store.ReadFlag(Keys::WordWrap) ? 0 : noWrapTwips);
+    if (store.ReadFlag(Keys::UseWebTimer))
+        frame_.Commands().Run(u"frmTime"_s);
+    Form_Resize();
+    if (const int background = frame_.State<EditorState>().Background2; background > 0)
+        txtInput_->SetBackColor(background);
+    QFont font(store.Read(Keys::EditorFont));
+    if (const double size = Values::Val(store.Read(Keys::EditorFontSize)); size > 0)
+        font.setPointSizeF(size);
+    txtInput_->SetFont(font);
+}
+
+void frmTemplate::Form_Activate() {
+    txtInput_->SetBackColor(frame_.State<EditorState>().Background2);
+    txtInput_->SetFocus();
+}
+
+void frmTemplate::Form_Resize() {
+    const int border = Twips::ToPixels(borderTwips);
+    const QPoint corner(-txtInput_->frameWidth(), -txtInput_->frameWidth());
+    txtInput_->setGeometry(QRect(corner, client_->size() + QSize(border, border)));
+    if (modes_)
+        modes_->PlaceAtResize();
+}
+
+void frmTemplate::SetCaption(const QString& path) {
+    caption_ = path;
+    QString title = path;
+    // A title takes "[*]" for the place of a change mark; doubled it is just text.
+    setWindowTitle(title.replace(u"[*]"_s, u"[*][*]"_s));
+}
+
+bool frmTemplate::Form_QueryUnload() {
+    frame_.LoadedForms().Unload(u"frmDropDown"_s);
+    if (Modified()) {
+        // The question is about the window that a person sees on top, and saving works on the active one.
+        frame_.ActivateDocument(*this);
+        const MsgAnswer answer =
+            frame_.Ask().MsgBox(frame_.Window(), u"Do you want to save?"_s, MsgButtons::YesNoCancel,
+                                MsgIcon::Question, u"Save Document?"_s);
+        if (answer == MsgAnswer::Cancel)
+            return false;
+        if (answer == MsgAnswer::Yes)
+            frame_.SaveActiveDocument();
+    }
+    frame_.RemoveDocumentTab(Caption());
+    auto& program = frame_.State<ProgramState>();
+    --program.DocumentCount;
+    program.TemplateWindowState = StateDigit(*this);
+    frame_.LoadedForms().Unload(u"frmTime"_s);
+    return true;
+}
+
+bool frmTemplate::Unload() {
+    if (stage_ != Open)
+        return stage_ == Unloaded;
+    // A second request to close while the question is up gets the answer Cancel.
+    stage_ = Asking;
+    stage_ = Form_QueryUnload() ? Unloaded : Open;
+    if (stage_ == Unloaded)
+        TakeDown();
+    return stage_ == Unloaded;
+}
+
+void frmTemplate::TakeDown() {
+    timer1_->stop();
+    // Its handlers may still be running, so it is deleted later; from now on no one finds it.
+    frame_.LoadedForms().Remove(this);
+    hide();
+    if (QMdiArea* area = mdiArea())
+        area->removeSubWindow(this);
+    deleteLater();
+}
+
+void frmTemplate::closeEvent(QCloseEvent* event) {
+    event->setAccepted(Unload());
+}
+
+bool frmTemplate::eventFilter(QObject* watched, QEvent* event) {
+    if (watched == client_ && event->type() == QEvent::Resize)
+        Form_Resize();
+    return QMdiSubWindow::eventFilter(watched, event);
+}
