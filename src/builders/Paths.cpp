@@ -77,6 +77,8 @@ QString ExactCasePath(const QString& path) {
 
 QString ExactCasePath(const QString& path, const NameLookUp& lookUp) {
     const QChar separator = Path::Separator(path);
+    if (separator == u'/' && !path.startsWith(u'/'))
+        return path;
     const qsizetype root = RootOf(separator);
     QString result = path.left(root).toUpper();
     result.reserve(path.size());

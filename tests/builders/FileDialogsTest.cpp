@@ -1,0 +1,199 @@
+// Picking a file into a field of a tag dialog.
+#include "builders/FileDialogs.h"
+
+#include "builders/BuilderState.h"
+#include "builders/frmImage.h"
+#include "platform/DesktopPrompts.h"
+#include "support/FreshUser.h"
+#include "support/TestFrame.h"
+
+#include <gtest/gtest.h>
+#include <QApplication>
+#include <QCheckBox>
+#include <QDialogButtonBox>
+#include <QDir>
+#include <QFileDialog>
+#include <QImage>
+#include <QLineEdit>
+#include <QListView>
+#include <QPushButton>
+#include <QTest>
+#include <QTimer>
+
+namespace {
+
+QString Here(const char* name) {
+    return TestFolder() + u'/' + QString::fromLatin1(name);
+}
+
+void Picture(const QString& path, int width, int height) {
+    QImage image(width, height, QImage::Format_RGB32);
+    image.fill(Qt::blue);
+    ASSERT_TRUE(image.save(path));
+}
+
+/// A frame whose prompts are the desktop's own.
+class RealPromptsFrame final : public TestFrame {
+  public:
+    Prompts& Ask() override { return desktop_; }
+
+  private:
+    DesktopPrompts desktop_;
+};
+
+} // namespace
+
+TEST(FileFilter, TextsToTheLetter) {
+    EXPECT_EQ(FileFilter::Picture,
+              QStringLiteral(
+                  "Image Files (*.jpg);(*.gif);(*.png);(*.bmp)|*.jpg;*.gif;*.png;*.bmp|All files (*.*)|*.*"));
+    EXPECT_EQ(FileFilter::Document,
+              QStringLiteral("All Files (*.*)|*.*|") +
+                  QStringLiteral("HTML Files (*.htm);(*.html);(*.shtml)|*.htm;*.html;*.shtml|") +
+                  QStringLiteral("MS Files (*.htx);(*.asp);(*.idc)|*.htx;*.asp;*.idc|") +
+                  QStringLiteral("Server Files (*.cgi);(*.pl)|*.cgi;*.pl|") +
+                  QStringLiteral("Text Files (*.txt)|*.txt|"));
+    EXPECT_EQ(FileFilter::LinkTarget,
+              QStringLiteral("All Files (*.*)|*.*|") +
+                  QStringLiteral("HTML Files (*.htm);(*.html)|*.htm;*.html|") +
+                  QStringLiteral("Graphic Files (*.jpg);(*.gif);(*.bmp)|*.jpg;*.jpeg;*.gif;*.bmp|") +
+                  QStringLiteral("Text Files (*.txt)|*.txt|"));
+    EXPECT_EQ(FileFilter::AnyFile, QStringLiteral("All Files (*.*)|*.*|"));
+}
+
+TEST(SharedFileDialog, OpensInLastDirAndKeepsItsFilter) {
+    TestFrame frame;
+    auto& state = frame.State<BuilderState>();
+    state.LastDir = QStringLiteral("/site");
+    frame.prompts.openAnswers = {ScriptedPrompts::Cancelled(),
+                                 ScriptedPrompts::Picked(QStringLiteral("/img/a.gif")),
+                                 FileAnswer{QStringLiteral("/img/"), {QString()}}};
+    SharedFileDialog(frame).SetFilter(FileFilter::LinkTarget, 2);
+    EXPECT_EQ(SharedFileDialog(frame).ShowOpen(nullptr), std::nullopt);
+    EXPECT_EQ(SharedFileDialog(frame).ShowOpen(nullptr), QStringLiteral("/img/a.gif"));
+    EXPECT_EQ(SharedFileDialog(frame).ShowOpen(nullptr), std::nullopt) << "an empty first name is a cancel";
+    ASSERT_EQ(frame.prompts.asked.size(), 3);
+    for (const Asked& asked : frame.prompts.asked) {
+        EXPECT_EQ(asked.kind, Asked::Open);
+        EXPECT_EQ(asked.request.folder, QStringLiteral("/site"));
+        EXPECT_EQ(asked.request.filter, FileFilter::LinkTarget);
+        EXPECT_EQ(asked.request.filterIndex, 2);
+        EXPECT_EQ(asked.request.panel, nullptr);
+    }
+    EXPECT_EQ(state.LastDir, QStringLiteral("/site")) << "tag dialogs never change it";
+}
+
+TEST(PictureBrowse, PreviewsTheSelectionAndUnloadsTheForm) {
+    TestFrame frame;
+    Picture(Here("wide.png"), 468, 60);
+    Picture(Here("tall.png"), 100, 400);
+    frame.prompts.whileOpen = [&](const FileRequest& request) {
+        auto* form = qobject_cast<frmImage*>(frame.LoadedForms().Find(QStringLiteral("frmImage")));
+        ASSERT_NE(form, nullptr);
+        EXPECT_EQ(request.panel, form->Frame1());
+        request.selectionChanged(Here("wide.png"));
+        EXPECT_EQ(form->PictureSize(), QSize(468, 60));
+    };
+    frame.prompts.openAnswers = {ScriptedPrompts::Picked(Here("tall.png")), ScriptedPrompts::Cancelled()};
+    {
+        PictureBrowse browse(frame);
+        EXPECT_EQ(browse.Show(nullptr), Here("tall.png"));
+        EXPECT_EQ(browse.PictureSize(), QSize(100, 400)) << "a name that was typed was never selected";
+    }
+    EXPECT_EQ(frame.LoadedForms().Find(QStringLiteral("frmImage")), nullptr);
+    {
+        PictureBrowse browse(frame);
+        EXPECT_EQ(browse.Show(nullptr), std::nullopt);
+    }
+    EXPECT_EQ(frame.LoadedForms().Find(QStringLiteral("frmImage")), nullptr);
+}
+
+TEST(PictureBrowse, ShowsThePictureInTheRealFileDialog) {
+    RealPromptsFrame frame;
+    Picture(Here("wide.png"), 468, 60);
+    frame.State<BuilderState>().LastDir = TestFolder();
+    SharedFileDialog(frame).SetFilter(FileFilter::Picture);
+    bool seen = false;
+    QTimer timer;
+    QObject::connect(&timer, &QTimer::timeout, &timer, [&] {
+        auto* dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
+        if (!dialog || seen)
+            return;
+        seen = true;
+        auto* list = dialog->findChild<QListView*>(QStringLiteral("listView"));
+        ASSERT_TRUE(QTest::qWaitFor([&] { return list->model()->rowCount(list->rootIndex()) == 1; }));
+        list->setCurrentIndex(list->model()->index(0, 0, list->rootIndex()));
+        auto* form = qobject_cast<frmImage*>(frame.LoadedForms().Find(QStringLiteral("frmImage")));
+        ASSERT_NE(form, nullptr);
+        EXPECT_EQ(form->PictureSize(), QSize(468, 60));
+        EXPECT_EQ(form->Frame1()->window(), dialog);
+        EXPECT_TRUE(form->Frame1()->isVisible());
+        QTest::mouseClick(dialog->findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Open),
+                          Qt::LeftButton);
+    });
+    timer.start(0);
+    PictureBrowse browse(frame);
+    EXPECT_EQ(browse.Show(frame.Window()), Here("wide.png"));
+    EXPECT_TRUE(seen);
+    EXPECT_EQ(browse.PictureSize(), QSize(468, 60));
+}
+
+TEST(FieldPath, AbsoluteOrRelativeThenSlashes) {
+    TestFrame frame;
+    struct Row {
+        QStringView caption;
+        QStringView path;
+        bool absolute;
+        bool forwardSlash;
+        QStringView field;
+    };
+    const Row rows[] = {
+        {u"C:\\site\\p\\a.htm", u"C:\\site\\img\\b.gif", false, true, u"../img/b.gif"},
+        {u"C:\\site\\p\\a.htm", u"C:\\site\\img\\b.gif", false, false, u"..\\img\\b.gif"},
+        {u"C:\\site\\p\\a.htm", u"C:\\site\\img\\b.gif", true, true, u"C:/site/img/b.gif"},
+        {u"C:\\site\\p\\a.htm", u"C:\\site\\img\\b.gif", true, false, u"C:\\site\\img\\b.gif"},
+    };
+    for (const Row& row : rows) {
+        frame.active->caption = row.caption.toString();
+        QLineEdit field(QStringLiteral("old"));
+        PickIntoField(frame, field, row.path.toString(), row.absolute, row.forwardSlash);
+        EXPECT_EQ(field.text(), row.field.toString());
+        EXPECT_EQ(FieldPath(frame, row.path.toString(), row.absolute, row.forwardSlash),
+                  row.field.toString());
+    }
+}
+
+TEST(FieldPath, NeverSavedDocumentShowsTheBoxAndFillsTheFieldAllTheSame) {
+    TestFrame frame;
+    QLineEdit field(QStringLiteral("old"));
+    PickIntoField(frame, field, QStringLiteral("C:\\site\\b.gif"), false, true);
+    EXPECT_EQ(field.text(), QStringLiteral("site/b.gif"));
+    ASSERT_EQ(frame.prompts.Messages().size(), 1);
+    EXPECT_TRUE(frame.prompts.Messages().first().startsWith(QStringLiteral("I am unable to complete")));
+}
+
+TEST(FieldPath, WithoutADocumentOnlyAFullPathComes) {
+    TestFrame frame;
+    frame.CloseDocument();
+    QLineEdit field(QStringLiteral("old"));
+    PickIntoField(frame, field, QStringLiteral("C:\\site\\b.gif"), false, true);
+    EXPECT_EQ(field.text(), QStringLiteral("old"));
+    PickIntoField(frame, field, QStringLiteral("C:\\site\\b.gif"), true, true);
+    EXPECT_EQ(field.text(), QStringLiteral("C:/site/b.gif"));
+    EXPECT_TRUE(frame.prompts.asked.isEmpty());
+}
+
+TEST(ForwardSlash, ClickConvertsTheWholeTextOfTheFields) {
+    QCheckBox box;
+    box.setChecked(true);
+    QLineEdit first(QStringLiteral("http://x/y"));
+    QLineEdit second(QStringLiteral("a\\b"));
+    ConvertSlashesOnClick(box, {&first, &second});
+    EXPECT_EQ(second.text(), QStringLiteral("a\\b")) << "not before a click";
+    box.click();
+    EXPECT_EQ(first.text(), QStringLiteral("http:\\\\x\\y"));
+    EXPECT_EQ(second.text(), QStringLiteral("a\\b"));
+    box.click();
+    EXPECT_EQ(first.text(), QStringLiteral("http://x/y"));
+    EXPECT_EQ(second.text(), QStringLiteral("a/b"));
+}

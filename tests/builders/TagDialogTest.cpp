@@ -1,0 +1,104 @@
+// What all tag dialogs have in common, and the table that a tag is built from.
+#include "builders/TagDialog.h"
+
+#include "builders/BuildTag.h"
+#include "support/TestFrame.h"
+
+#include <gtest/gtest.h>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QTest>
+
+class SampleDialog final : public TagDialog {
+    Q_OBJECT
+
+  public:
+    explicit SampleDialog(Frame& frame) : TagDialog(frame) {
+        (new QLineEdit(this))->setObjectName(QStringLiteral("txtField"));
+        (new QPushButton(this))->setObjectName(QStringLiteral("cmdOther"));
+        (new QPushButton(this))->setObjectName(QStringLiteral("cmdOK"));
+        (new QPushButton(this))->setObjectName(QStringLiteral("cmdCancel"));
+        Wire();
+    }
+
+  protected:
+    void cmdOK_Click() override {
+        Insert(QStringLiteral("<B>"), QStringLiteral("</B>"));
+        Unload();
+    }
+};
+
+namespace {
+
+const QString Name = QStringLiteral("frmSample");
+
+class TagDialogTest : public testing::Test {
+  protected:
+    void SetUp() override { Show(); }
+    void Show() { dialog = &frame.LoadedForms().Show<SampleDialog>(Name, frame); }
+    bool Loaded() { return frame.LoadedForms().Find(Name) != nullptr; }
+    TestFrame frame;
+    SampleDialog* dialog = nullptr;
+};
+
+} // namespace
+
+TEST_F(TagDialogTest, StandsOverTheFrameModeless) {
+    EXPECT_EQ(dialog->parentWidget(), frame.Window());
+    EXPECT_FALSE(dialog->isModal());
+    EXPECT_TRUE(dialog->isWindow());
+}
+
+TEST_F(TagDialogTest, EnterInAFieldIsOk) {
+    frame.SetText(QStringLiteral("word"));
+    frame.Box().SetSelStart(0);
+    frame.Box().SetSelLength(4);
+    QTest::keyClick(dialog->findChild<QLineEdit*>(), Qt::Key_Return);
+    EXPECT_EQ(frame.Box().Text(), QStringLiteral("<B>word</B>"));
+    EXPECT_FALSE(Loaded());
+}
+
+TEST_F(TagDialogTest, CancelEscAndCloseUnloadAndDoNothingElse) {
+    frame.SetText(QStringLiteral("word"));
+    QTest::mouseClick(dialog->findChild<QPushButton*>(QStringLiteral("cmdCancel")), Qt::LeftButton);
+    EXPECT_FALSE(Loaded());
+    Show();
+    QTest::keyClick(dialog, Qt::Key_Escape);
+    EXPECT_FALSE(Loaded());
+    Show();
+    dialog->close();
+    EXPECT_FALSE(Loaded());
+    EXPECT_EQ(frame.Box().Text(), QStringLiteral("word"));
+}
+
+TEST_F(TagDialogTest, NothingIsKeptBetweenShowings) {
+    dialog->findChild<QLineEdit*>()->setText(QStringLiteral("typed"));
+    QTest::keyClick(dialog, Qt::Key_Escape);
+    Show();
+    EXPECT_EQ(dialog->findChild<QLineEdit*>()->text(), QString());
+}
+
+TEST_F(TagDialogTest, WithoutADocumentOkJustCloses) {
+    frame.CloseDocument();
+    QTest::mouseClick(dialog->findChild<QPushButton*>(QStringLiteral("cmdOK")), Qt::LeftButton);
+    EXPECT_FALSE(Loaded());
+    EXPECT_TRUE(frame.prompts.asked.isEmpty());
+}
+
+TEST(BuildTag, PartsInOrderEmptyOnesLeftOut) {
+    TestFrame frame;
+    const QVector<TagPart> parts{TagPart::Quoted(QStringLiteral("ALT"), QStringLiteral("A \"b\" C")),
+                                 TagPart::Plain(QStringLiteral("WIDTH"), QStringLiteral("10")),
+                                 TagPart::Plain(QStringLiteral("HEIGHT"), QString()),
+                                 TagPart::Quoted(QStringLiteral("SRC"), QString()),
+                                 TagPart::Word(QStringLiteral(" ISMAP")),
+                                 TagPart::Word(QStringLiteral(" NOSHADE"), false)};
+    EXPECT_EQ(BuildTag(frame, QStringLiteral("<IMG"), parts),
+              QStringLiteral("<IMG ALT=\"A \"b\" C\" WIDTH=10 ISMAP>"));
+    frame.Store().WriteFlag(Keys::LowerCaseTags, true);
+    EXPECT_EQ(BuildTag(frame, QStringLiteral("<IMG"), parts),
+              QStringLiteral("<img alt=\"A \"b\" C\" width=10 ismap>"));
+    EXPECT_EQ(BuildTag(frame, QStringLiteral("<HR"), {}), QStringLiteral("<hr>"));
+}
+
+#include "TagDialogTest.moc"
