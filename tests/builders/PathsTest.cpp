@@ -119,7 +119,8 @@ TEST(ExactCasePath, RowsInBothForms) {
         {u"/Home/gone.gif", u"/home/"},
         {u"/Home/", u"/home/"},
         {u"", u""},
-        {u"c:", u"C:"},
+        {u"c:", u"c:"},
+        {u"A.HTM", u"A.HTM"},
     };
     for (const Row& row : rows)
         EXPECT_EQ(ExactCasePath(T(row.path), InLowerCase), T(row.exact)) << T(row.path).toStdString();
