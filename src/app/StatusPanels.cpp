@@ -4,6 +4,7 @@
 #include <QDateTime>
 #include <QLabel>
 #include <QLocale>
+#include <QRegularExpression>
 
 namespace {
 
@@ -16,6 +17,12 @@ QLabel* MakePanel(const QString& name, const QString& accessibleName, QWidget* p
     panel->setFrameShadow(QFrame::Sunken);
     panel->setMargin(2);
     return panel;
+}
+
+// The locale's short format without the seconds that some have: the panel changes once a minute.
+QString TimeFormat(const QLocale& locale) {
+    static const QRegularExpression seconds(QStringLiteral("[:.]ss?"));
+    return locale.timeFormat(QLocale::ShortFormat).remove(seconds);
 }
 
 } // namespace
@@ -49,7 +56,7 @@ QString StatusBar::Panel3() const {
 void StatusBar::ShowMoment(const QDateTime& moment) {
     const QLocale locale;
     date_->setText(locale.toString(moment.date(), QLocale::ShortFormat));
-    time_->setText(locale.toString(moment.time(), QLocale::ShortFormat));
+    time_->setText(locale.toString(moment.time(), TimeFormat(locale)));
 }
 
 int StatusBar::UntilNextMinute(const QDateTime& moment) {

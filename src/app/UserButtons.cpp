@@ -12,12 +12,30 @@
 #include <QHBoxLayout>
 #include <QMouseEvent>
 #include <QPushButton>
+#include <QStyleOptionButton>
+#include <QStylePainter>
 #include <QTabBar>
 
 namespace {
 
 constexpr int buttonsPerPage = 15;
 constexpr int rightButton = 2;
+
+// A button whose caption, where it is too long for the face, ends in dots.
+class CaptionButton final : public QPushButton {
+  public:
+    using QPushButton::QPushButton;
+
+  protected:
+    void paintEvent(QPaintEvent*) override {
+        QStylePainter painter(this);
+        QStyleOptionButton option;
+        initStyleOption(&option);
+        const int room = style()->subElementRect(QStyle::SE_PushButtonContents, &option, this).width();
+        option.text = fontMetrics().elidedText(option.text, Qt::ElideRight, room, Qt::TextShowMnemonic);
+        painter.drawControl(QStyle::CE_PushButton, option);
+    }
+};
 
 } // namespace
 
@@ -50,7 +68,7 @@ QWidget* UserButtons::MakePage(int page) {
     row->setContentsMargins(0, 0, 0, 0);
     row->setSpacing(2);
     for (int index = page * buttonsPerPage; index < (page + 1) * buttonsPerPage; ++index) {
-        auto* button = new QPushButton(frameButtons);
+        auto* button = new CaptionButton(frameButtons);
         button->setObjectName(QStringLiteral("Command1_%1").arg(index));
         button->setFocusPolicy(Qt::TabFocus);
         // All fifteen share the width there is, however long a caption is.

@@ -22,7 +22,9 @@ TEST(StatusPanels, DateAndTimeStandThereFromTheStart) {
     const QDateTime after = QDateTime::currentDateTime();
     EXPECT_EQ(bar.objectName(), QStringLiteral("StatusBar"));
     const auto date = [&](const QDateTime& at) { return locale.toString(at.date(), QLocale::ShortFormat); };
-    const auto time = [&](const QDateTime& at) { return locale.toString(at.time(), QLocale::ShortFormat); };
+    const auto time = [&](const QDateTime& at) {
+        return locale.toString(at.time(), QStringLiteral("HH:mm"));
+    };
     EXPECT_TRUE(PanelText(bar, "Panel1") == date(before) || PanelText(bar, "Panel1") == date(after));
     EXPECT_TRUE(PanelText(bar, "Panel2") == time(before) || PanelText(bar, "Panel2") == time(after));
     EXPECT_EQ(bar.Panel3(), QString());
@@ -34,7 +36,10 @@ TEST(StatusPanels, TheClockIsTheDesktopsShortForm) {
     bar.ShowMoment(QDateTime(QDate(2023, 3, 5), QTime(14, 7, 59)));
     EXPECT_EQ(PanelText(bar, "Panel1"), QStringLiteral("05/03/2023"));
     EXPECT_EQ(PanelText(bar, "Panel2"), QStringLiteral("14:07"));
+    // No seconds, also where the short form has them: they would stand still.
     QLocale::setDefault(QLocale::c());
+    bar.ShowMoment(QDateTime(QDate(2023, 3, 5), QTime(14, 7, 59)));
+    EXPECT_EQ(PanelText(bar, "Panel2"), QStringLiteral("14:07"));
 }
 
 TEST(StatusPanels, TheNextLookIsAtTheFullMinute) {
