@@ -8,12 +8,14 @@
 #include "app/FileDrop.h"
 #include "app/frmExternal.h"
 #include "app/frmTemplate.h"
+#include "app/HelpCommands.h"
 #include "app/MenuTree.h"
 #include "app/OpenDocument.h"
 #include "app/Preview.h"
 #include "app/Shutdown.h"
 #include "app/Skeletons.h"
 #include "app/StatusPanels.h"
+#include "app/ToolbarCommands.h"
 #include "app/ToolbarHolder.h"
 #include "app/UserButtons.h"
 #include "app/WindowCommands.h"
@@ -82,6 +84,8 @@ void frmTarnwick::FillCommands() {
     FillSkeletonCommands(*this);
     FillPreviewCommands(*this);
     FillMenuTagCommands(*this);
+    FillToolbarCommands(*this);
+    FillHelpCommands(*this);
     FillDialogCommands(*this);
     FillEditTagCommand(*this);
     FillOptionsCommands(*this);
@@ -137,6 +141,7 @@ void frmTarnwick::TabStrip3_Click(int index) {
 
 void frmTarnwick::HookWindow() {
     area_->viewport()->installEventFilter(this);
+    BindHelpKey(*this, *this);
     connect(area_, &QMdiArea::subWindowActivated, this, &frmTarnwick::SubWindowActivated);
     connect(tabStrip2_, &DocumentTabs::Click, this, &frmTarnwick::TabStrip2_Click);
     connect(qApp, &QGuiApplication::applicationStateChanged, this, [this](Qt::ApplicationState state) {

@@ -1,0 +1,31 @@
+// The Help menu and the help key.
+#include "app/HelpCommands.h"
+
+#include "app/frmSplash.h"
+#include "editor/Commands.h"
+#include "editor/Forms.h"
+#include "editor/Frame.h"
+
+#include <QShortcut>
+#include <QWidget>
+
+void FillHelpCommands(Frame& frame) {
+    frame.Commands().Set(QStringLiteral("mnuMainHelp"), [&frame] { ShowHelp(frame); });
+    frame.Commands().Set(QStringLiteral("mnuAbout"), [&frame] { mnuAbout_Click(frame); });
+}
+
+void BindHelpKey(QWidget& window, Frame& frame) {
+    auto* key = new QShortcut(QKeySequence(Qt::Key_F1), &window);
+    key->setContext(Qt::ApplicationShortcut);
+    QObject::connect(key, &QShortcut::activated, &window, [&frame] { ShowHelp(frame); });
+}
+
+void ShowHelp(Frame& frame) {
+    frame.SetStatusPanel(QStringLiteral("The help file tarnwick.chm is not installed."));
+}
+
+void mnuAbout_Click(Frame& frame) {
+    frame.LoadedForms()
+        .Show<frmSplash>(QStringLiteral("frmSplash"), frame)
+        .SetMessage(QStringLiteral("See help file for Copyright,\nLicense and Warranty information."));
+}

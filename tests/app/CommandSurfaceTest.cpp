@@ -1,0 +1,279 @@
+// Menus, toolbar and keys in the program's own frame: what is there, what waits, and what happens with no
+// document open.
+#include "app/frmTarnwick.h"
+#include "app/frmTools.h"
+#include "app/MenuTree.h"
+#include "app/Startup.h"
+#include "app/StatusPanels.h"
+#include "app/Toolbar.h"
+#include "app/UserButtons.h"
+#include "editor/Document.h"
+#include "editor/EditorState.h"
+#include "platform/RichTextBox.h"
+#include "platform/Settings.h"
+#include "support/FreshUser.h"
+#include "support/ScriptedPrompts.h"
+#include "support/Text.h"
+
+#include <gtest/gtest.h>
+#include <QAction>
+#include <QLabel>
+#include <QPushButton>
+#include <QtTest/QTest>
+
+namespace {
+
+QString Text(const char* text) {
+    return QString::fromLatin1(text);
+}
+
+class CommandSurfaceTest : public testing::Test {
+  protected:
+    CommandSurfaceTest() {
+        FreshUser();
+        frame = std::make_unique<frmTarnwick>(store, prompts);
+        frame->show();
+        frame->activateWindow();
+        QCoreApplication::processEvents();
+    }
+
+    void Run(const QString& name) {
+        frame->Commands().Run(name);
+        QCoreApplication::processEvents();
+    }
+    RichTextBox& NewDocument() {
+        frame->NewDocument();
+        RichTextBox& text = frame->ActiveForm()->txtInput();
+        text.SetFocus();
+        QCoreApplication::processEvents();
+        return text;
+    }
+    QAction* Button(const char* key) { return frame->findChild<QAction*>(Text("tb_") + Text(key)); }
+    QString Panel3() { return frame->findChild<StatusBar*>()->Panel3(); }
+    /// Every name of both tables.
+    static QStringList AllNames() {
+        QStringList names;
+        for (const MenuRow& row : MenuTree())
+            if (row.kind == MenuRow::Entry)
+                names << Text(row.name);
+        for (const ToolbarRow& row : ToolbarTable())
+            names << Text("tb_") + Text(row.key);
+        return names;
+    }
+
+    Settings store;
+    ScriptedPrompts prompts;
+    std::unique_ptr<frmTarnwick> frame;
+};
+
+// What waits for its part of the program. A command that comes leaves this list.
+TEST_F(CommandSurfaceTest, ExactlyTheseWaitForTheirCommands) {
+    const QStringList waiting = {
+        Text("mnuPrint"),          Text("mnuSpellCheck"),     Text("mnuFind"),
+        Text("mnuFindAgain"),      Text("mnuReplace"),        Text("mnuMultiFile"),
+        Text("mnuShowLinks"),      Text("mnuAddBreaks"),      Text("mnuAddLi"),
+        Text("mnuRemoveTags"),     Text("mnuInsertImageMap"), Text("mnuWizard"),
+        Text("mnuConvertFromMac"), Text("mnuConvertToMac"),   Text("mnuConvertFromUNIX"),
+        Text("mnuConvertToUNIX"),  Text("tb_print"),          Text("tb_object"),
+        Text("tb_find"),           Text("tb_spell"),          Text("tb_form"),
+        Text("tb_table"),          Text("tb_frame"),          Text("tb_CSS"),
+        Text("tb_Layer"),
+    };
+    QStringList disabled;
+    QStringList without;
+    for (const QString& name : AllNames()) {
+        const auto* action = frame->findChild<QAction*>(name);
+        ASSERT_TRUE(action) << name.toStdString();
+        // A hidden entry counts as disabled for as long as it is hidden.
+        if (action->isVisible() && !action->isEnabled())
+            disabled << name;
+        if (!frame->Commands().Has(name))
+            without << name;
+    }
+    EXPECT_EQ(without, waiting);
+    EXPECT_EQ(disabled, waiting);
+}
+
+TEST_F(CommandSurfaceTest, NoCommandIsWithoutAnEntry) {
+    const QStringList entries = AllNames();
+    for (const QString& name : frame->Commands().Names())
+        EXPECT_TRUE(entries.contains(name)) << name.toStdString();
+}
+
+// With no document open a command of the text is silent: no message, no question whose answer could not be
+// used, no window, no document. What needs no document does its work.
+TEST_F(CommandSurfaceTest, WithoutADocumentEveryCommandOfTheTextIsSilent) {
+    const QStringList needNone = {
+        Text("mnuNew"),   Text("mnuOpen"),  Text("mnuExit"),      Text("mnuWebBrowser"), Text("mnuMainHelp"),
+        Text("mnuAbout"), Text("mnuLink"),  Text("mnuImage"),     Text("mnuEmbed"),      Text("mnuHR"),
+        Text("tb_new"),   Text("tb_open"),  Text("tb_ftp"),       Text("tb_hr"),         Text("tb_abc"),
+        Text("tb_body"),  Text("tb_java"),  Text("tb_java2"),     Text("tb_link"),       Text("tb_image"),
+        Text("tb_embed"), Text("tb_split"), Text("tb_rectangle"),
+    };
+    const int forms = frame->LoadedForms().Count();
+    int silent = 0;
+    for (const QString& name : AllNames()) {
+        // The recent files open documents as well.
+        if (needNone.contains(name) || name.startsWith(Text("mnuFileArray_")))
+            continue;
+        SCOPED_TRACE(name.toStdString());
+        Run(name);
+        ++silent;
+        // Saving a template is the one that says what it lacks.
+        const QStringList said =
+            name == Text("mnuSetUserTemplate") ? QStringList{Text("Load document first.")} : QStringList();
+        EXPECT_EQ(prompts.Messages(), said);
+        EXPECT_EQ(prompts.asked.size(), said.size());
+        prompts.asked.clear();
+        EXPECT_EQ(prompts.beeps, 0);
+        EXPECT_EQ(frame->LoadedForms().Count(), forms);
+        EXPECT_FALSE(frame->ActiveForm());
+        EXPECT_EQ(Panel3(), QString());
+    }
+    EXPECT_EQ(silent, 124 + 47 - needNone.size() - 8);
+}
+
+TEST_F(CommandSurfaceTest, WithoutADocumentADialogComesUpAllTheSame) {
+    const char* const rows[][2] = {
+        {"mnuLink", "frmLinks"},  {"mnuImage", "frmGraphicLink"}, {"mnuEmbed", "frmEmbed"},
+        {"mnuHR", "frmHRInput"},  {"tb_hr", "frmHRInput"},        {"tb_abc", "frmFont"},
+        {"tb_body", "frmBody"},   {"tb_java", "frmJava"},         {"tb_java2", "frmParam"},
+        {"tb_link", "frmLinks"},  {"tb_image", "frmGraphicLink"}, {"tb_embed", "frmEmbed"},
+        {"tb_split", "frmMulti"}, {"tb_rectangle", "frmSpacer"},
+    };
+    for (const auto& row : rows) {
+        Run(Text(row[0]));
+        const QWidget* form = frame->LoadedForms().Find(Text(row[1]));
+        ASSERT_TRUE(form) << row[0];
+        EXPECT_TRUE(form->isVisible()) << row[0];
+        EXPECT_FALSE(form->isModal()) << row[0];
+        EXPECT_EQ(form->parentWidget(), frame.get()) << row[0];
+        frame->LoadedForms().Unload(Text(row[1]));
+    }
+    EXPECT_TRUE(prompts.asked.isEmpty());
+}
+
+TEST_F(CommandSurfaceTest, EveryShortcutRunsItsEntryFromWithinTheText) {
+    const char* const rows[][2] = {
+        {"Ctrl+N", "mnuNew"},       {"Ctrl+O", "mnuOpen"},         {"Ctrl+S", "mnuSave"},
+        {"Ctrl+W", "mnuClose"},     {"Ctrl+P", "mnuPrint"},        {"Ctrl+D", "mnuEditTag"},
+        {"Ctrl+A", "mnuSelectAll"}, {"Ctrl+F12", "mnuSpellCheck"}, {"Ctrl+F", "mnuFind"},
+        {"F3", "mnuFindAgain"},     {"Ctrl+R", "mnuReplace"},      {"Ctrl+B", "mnuBold"},
+        {"Ctrl+I", "mnuItalic"},    {"Ctrl+U", "mnuUnderline"},    {"Ctrl+T", "mnuReload"},
+        {"Ctrl+L", "mnuLink"},      {"Ctrl+Q", "mnuImage"},        {"Ctrl+E", "mnuEmbed"},
+        {"Ctrl+J", "mnuCenter"},    {"Ctrl+G", "mnuBreak"},        {"Ctrl+H", "mnuHR"},
+        {"Shift+F5", "mnuCascade"}, {"Shift+F4", "mnuTile"},
+    };
+    RichTextBox& text = NewDocument();
+    ASSERT_TRUE(QTest::qWaitFor([&] { return text.hasFocus(); }));
+    text.SetText(Text("text"));
+    QStringList ran;
+    QStringList expected;
+    for (const auto& row : rows) {
+        const QString name = Text(row[1]);
+        frame->Commands().Set(name, [&ran, name] { ran << name; });
+        frame->MenuEntry(name)->setEnabled(true);
+    }
+    for (const auto& row : rows) {
+        const int key = QKeySequence(Text(row[0]))[0].toCombined();
+        QTest::keyClick(&text, Qt::Key(key & ~Qt::KeyboardModifierMask),
+                        Qt::KeyboardModifiers(key & Qt::KeyboardModifierMask));
+        expected << Text(row[1]);
+        EXPECT_EQ(ran, expected) << row[0];
+    }
+    EXPECT_EQ(text.Text(), Text("text"));
+}
+
+TEST_F(CommandSurfaceTest, AKeyWhoseEntryWaitsTypesNothing) {
+    RichTextBox& text = NewDocument();
+    ASSERT_TRUE(QTest::qWaitFor([&] { return text.hasFocus(); }));
+    QTest::keyClick(&text, Qt::Key_P, Qt::ControlModifier);
+    QTest::keyClick(&text, Qt::Key_R, Qt::ControlModifier);
+    QTest::keyClick(&text, Qt::Key_F, Qt::ControlModifier);
+    EXPECT_EQ(text.Text(), QString());
+}
+
+TEST_F(CommandSurfaceTest, MenuToolbarAndUserButtonWriteIntoTheActiveDocument) {
+    RichTextBox& text = NewDocument();
+    frame->MenuEntry(Text("mnuBold"))->trigger();
+    Button("h1")->trigger();
+    frame->State<EditorState>().FirstBut[0] = Text("<DIV>");
+    frame->State<EditorState>().SecondBut[0] = Text("</DIV>");
+    frame->findChild<QPushButton*>(Text("Command1_0"))->click();
+    EXPECT_EQ(text.Text(), Text("<B><H1><DIV></DIV></H1></B>"));
+}
+
+TEST_F(CommandSurfaceTest, ReloadShowsThePageInTheBrowserAndReadsNoFile) {
+    RichTextBox& text = NewDocument();
+    text.SetText(Text("changed"));
+    prompts.saveAnswers = {ScriptedPrompts::Cancelled(), ScriptedPrompts::Cancelled()};
+    frame->MenuEntry(Text("mnuReload"))->trigger();
+    Button("preview")->trigger();
+    EXPECT_EQ(text.Text(), Text("changed"));
+    // Both begin with the save, which asks for a name here.
+    ASSERT_EQ(prompts.asked.size(), 2);
+    EXPECT_EQ(prompts.asked[0].kind, Asked::Save);
+    EXPECT_EQ(prompts.asked[1].kind, Asked::Save);
+}
+
+TEST_F(CommandSurfaceTest, TheNewButtonGivesASkeletonAndTheMenuABlankPage) {
+    Button("new")->trigger();
+    ASSERT_TRUE(frame->ActiveForm());
+    EXPECT_TRUE(frame->ActiveForm()->txtInput().Text().contains(Text("<HTML>")));
+    EXPECT_FALSE(frame->ActiveForm()->Modified());
+    frame->MenuEntry(Text("mnuNew"))->trigger();
+    EXPECT_EQ(frame->ActiveForm()->txtInput().Text(), QString());
+    EXPECT_TRUE(prompts.asked.isEmpty());
+}
+
+TEST_F(CommandSurfaceTest, TheHelpKeyAndTheHelpEntrySayWhatIsMissing) {
+    frame->MenuEntry(Text("mnuMainHelp"))->trigger();
+    EXPECT_EQ(Panel3(), Text("The help file tarnwick.chm is not installed."));
+    frame->SetStatusPanel(QString());
+    RichTextBox& text = NewDocument();
+    ASSERT_TRUE(QTest::qWaitFor([&] { return text.hasFocus(); }));
+    QTest::keyClick(&text, Qt::Key_F1);
+    EXPECT_EQ(Panel3(), Text("The help file tarnwick.chm is not installed."));
+}
+
+TEST_F(CommandSurfaceTest, AboutIsTheStartScreenWithAMessage) {
+    const auto about = [&] { return frame->LoadedForms().Find(Text("frmSplash")); };
+    frame->MenuEntry(Text("mnuAbout"))->trigger();
+    QWidget* box = about();
+    ASSERT_TRUE(box);
+    EXPECT_TRUE(box->isVisible());
+    EXPECT_FALSE(box->isModal());
+    EXPECT_FALSE(box->parentWidget());
+    EXPECT_EQ(box->findChild<QLabel*>(Text("lblVersion"))->text(), Text("Version 3.0.6"));
+    EXPECT_EQ(box->findChild<QLabel*>(Text("lblMessage"))->text(),
+              Text("See help file for Copyright,\nLicense and Warranty information."));
+    QTest::mouseClick(box->findChild<QLabel*>(Text("lblMessage")), Qt::LeftButton);
+    EXPECT_FALSE(about());
+    // Any resize of the frame closes it as well.
+    frame->MenuEntry(Text("mnuAbout"))->trigger();
+    ASSERT_TRUE(about());
+    frame->resize(frame->width() + 20, frame->height());
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !about(); }));
+}
+
+TEST_F(CommandSurfaceTest, TheUserStripShowsOnlyWhenItsSettingIsOne) {
+    for (const char* value : {"1", "0", "2", "True", ""}) {
+        FreshUser();
+        {
+            Settings written;
+            written.Write(Keys::ShowUserButtons, Text(value));
+            written.Write(Keys::FirstTimeAgain, Text("1"));
+            written.Write(Keys::ButCap(17), Text("Box"));
+            written.Write(Keys::FirstBut(17), Text("<DIV>"));
+        }
+        Settings settings;
+        frmTarnwick started(settings, prompts);
+        Startup(started, QString(), [] { return false; }).Run();
+        const auto* strip = started.findChild<UserButtons*>(Text("Picture2"));
+        EXPECT_EQ(strip->isVisibleTo(&started), Text(value) == Text("1")) << value;
+        EXPECT_EQ(strip->Caption(17), Text("Box"));
+        EXPECT_EQ(started.State<EditorState>().FirstBut[17], Text("<DIV>"));
+    }
+}
+
+} // namespace
