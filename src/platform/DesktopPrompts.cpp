@@ -22,6 +22,7 @@
 namespace {
 
 constexpr int PanelSide = 200;
+constexpr int InputBoxWidth = 320;
 constexpr int CustomColorCount = 16;
 
 /// A message box. Where it offers no way out, neither Esc nor the window's close button may pick an answer.
@@ -104,6 +105,8 @@ class BorrowedPanel {
         // Qt's own dialog has its look-in line in row 0, the file list in row 1 and the name fields below.
         grid->addWidget(&panel, 1, grid->columnCount(), Qt::AlignTop);
         panel.show();
+        // What the panel takes must not be taken from the file list.
+        dialog.resize(dialog.width() + PanelSide, dialog.height());
     }
     ~BorrowedPanel() {
         if (!panel_)
@@ -183,6 +186,7 @@ QString DesktopPrompts::InputBox(QWidget* owner, const QString& prompt, const QS
     dialog.setWindowTitle(title);
     dialog.setLabelText(QString(prompt).replace(QStringLiteral("\r\n"), QStringLiteral("\n")));
     dialog.setTextValue(standard);
+    dialog.setMinimumWidth(InputBoxWidth);
     return dialog.exec() == QDialog::Accepted ? Cp1252::Accept(dialog.textValue()) : QString();
 }
 
