@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <QStyle>
+#include <QWidget>
 
 FlowLayout::FlowLayout(QWidget* parent) : QLayout(parent) {}
 
