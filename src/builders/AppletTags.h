@@ -6,15 +6,15 @@
 class Frame;
 
 struct AppletFields {
-    QString codeBase;
-    QString code;
-    QString width;
-    QString height;
-    QString alt;
-    QString name;
-    QString vSpace;
-    QString hSpace;
-    QString align;
+    QString codeBase{};
+    QString code{};
+    QString width{};
+    QString height{};
+    QString alt{};
+    QString name{};
+    QString vSpace{};
+    QString hSpace{};
+    QString align{};
 };
 
 /// The closing tag stands on a line of its own.

@@ -6,12 +6,12 @@
 class Frame;
 
 struct BodyFields {
-    QString bg;
-    QString text;
-    QString link;
-    QString vlink;
-    QString alink;
-    QString background;
+    QString bg{};
+    QString text{};
+    QString link{};
+    QString vlink{};
+    QString alink{};
+    QString background{};
     bool operator==(const BodyFields&) const = default;
 };
 

@@ -9,10 +9,10 @@ enum class SpacerKind { None, Horizontal, Vertical, Block };
 
 struct SpacerFields {
     SpacerKind kind = SpacerKind::None;
-    QString size;
-    QString width;
-    QString height;
-    QString align;
+    QString size{};
+    QString width{};
+    QString height{};
+    QString align{};
 };
 
 /// Only the fields of the kind are written, whatever the others hold; without a kind nothing stands behind

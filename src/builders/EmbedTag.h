@@ -6,10 +6,10 @@
 class Frame;
 
 struct EmbedFields {
-    QString width;
-    QString height;
-    QString palette;
-    QString url;
+    QString width{};
+    QString height{};
+    QString palette{};
+    QString url{};
 };
 
 QString EmbedTag(Frame& frame, const EmbedFields& fields);

@@ -8,9 +8,9 @@
 class Frame;
 
 struct FontFields {
-    QString size;
-    QString color;
-    QString face;
+    QString size{};
+    QString color{};
+    QString face{};
 };
 
 TagPair FontTag(Frame& frame, const FontFields& fields);

@@ -7,17 +7,17 @@ class Frame;
 
 /// The dialog's fields that are written. Its alignment is not one of them: no image tag gets an ALIGN.
 struct ImageFields {
-    QString url;
-    QString lowSrc;
-    QString alt;
-    QString width;
-    QString height;
-    QString hSpace;
-    QString vSpace;
-    QString border;
-    QString useMap;
+    QString url{};
+    QString lowSrc{};
+    QString alt{};
+    QString width{};
+    QString height{};
+    QString hSpace{};
+    QString vSpace{};
+    QString border{};
+    QString useMap{};
     bool isMap = false;
-    QString linkMe;
+    QString linkMe{};
 };
 
 /// USEMAP is always written, as "#" where no map is named. A link makes ` <A HREF=="…">` of the text before

@@ -6,10 +6,10 @@
 class Frame;
 
 struct LinkFields {
-    QString protocol;
-    QString url;
-    QString anchor;
-    QString target;
+    QString protocol{};
+    QString url{};
+    QString anchor{};
+    QString target{};
 };
 
 /// Protocol, URL and anchor are joined unchecked.

@@ -6,10 +6,10 @@
 class Frame;
 
 struct RuleFields {
-    QString width;
+    QString width{};
     bool percent = false;
-    QString thickness;
-    QString align;
+    QString thickness{};
+    QString align{};
     bool noShade = false;
 };
 

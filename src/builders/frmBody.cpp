@@ -79,10 +79,13 @@ QLineEdit* frmBody::ColorField(int index) const {
 
 void frmBody::ShowSample(int index, const QColor& color) {
     ClickLabel* const labels[] = {nullptr, ui_->lblText, ui_->lblLink, ui_->lblVlink, ui_->lblAlink};
-    if (index == 0)
-        ui_->Picture1->SetBackColor(color);
-    else
+    if (index > 0) {
         labels[index]->SetForeColor(color);
+        return;
+    }
+    ui_->Picture1->SetBackColor(color);
+    // Its own name stays readable on any page.
+    ui_->lblBG->SetForeColor(qGray(color.rgb()) < 128 ? Qt::white : Qt::black);
 }
 
 void frmBody::cmdShowColor_Click(int index) {

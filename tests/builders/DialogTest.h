@@ -44,7 +44,11 @@ class DialogTest : public testing::Test {
         else
             Control<QLineEdit>(name).setText(text);
     }
-    void Press(const QString& name) { QTest::mouseClick(&Control<QAbstractButton>(name), Qt::LeftButton); }
+    /// Clicks a button near its left edge: where the box of a check box is.
+    void Press(const QString& name) {
+        auto& button = Control<QAbstractButton>(name);
+        QTest::mouseClick(&button, Qt::LeftButton, {}, QPoint(10, button.height() / 2));
+    }
 
     /// The text of the label whose buddy a field is, as it is read.
     QString LabelOf(const QString& field) {

@@ -1,0 +1,65 @@
+// Pictures of every tag dialog for the eye: set TARNWICK_PICTURES to a folder and run FormPictures.*.
+#include "builders/DialogTest.h"
+#include "builders/frmBulletList.h"
+#include <QDir>
+#include <QStyleFactory>
+
+namespace {
+
+QPalette Dark() {
+    QPalette dark;
+    const QColor window(0x2b, 0x2b, 0x2b);
+    const QColor text(0xee, 0xee, 0xee);
+    dark.setColor(QPalette::Window, window);
+    dark.setColor(QPalette::WindowText, text);
+    dark.setColor(QPalette::Base, QColor(0x1e, 0x1e, 0x1e));
+    dark.setColor(QPalette::AlternateBase, window);
+    dark.setColor(QPalette::Text, text);
+    dark.setColor(QPalette::Button, QColor(0x3a, 0x3a, 0x3a));
+    dark.setColor(QPalette::ButtonText, text);
+    dark.setColor(QPalette::Highlight, QColor(0x2a, 0x82, 0xda));
+    dark.setColor(QPalette::HighlightedText, Qt::black);
+    dark.setColor(QPalette::PlaceholderText, Qt::gray);
+    for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
+        dark.setColor(QPalette::Disabled, role, QColor(0x80, 0x80, 0x80));
+    return dark;
+}
+
+class FormPictures : public DialogTest {
+  protected:
+    void Take(const QString& folder, const QString& name) {
+        form = frame.LoadedForms().Find(name);
+        ASSERT_TRUE(QTest::qWaitForWindowExposed(form));
+        EXPECT_TRUE(form->grab().save(QDir(folder).filePath(name + QStringLiteral(".png"))));
+    }
+};
+
+TEST_F(FormPictures, OfEveryDialog) {
+    const QString folder = qEnvironmentVariable("TARNWICK_PICTURES");
+    if (folder.isEmpty())
+        GTEST_SKIP() << "TARNWICK_PICTURES names no folder";
+    ASSERT_TRUE(QDir().mkpath(folder));
+    if (qEnvironmentVariableIsSet("TARNWICK_DARK"))
+        QApplication::setPalette(Dark());
+    frame.SetText(QStringLiteral("<BODY BGCOLOR=\"#FFFFCC\" TEXT=\"#333333\" VLINK=\"#800080\">"));
+    ShowBulletList(frame, QStringLiteral("U"));
+    form = frame.LoadedForms().Find(QStringLiteral("frmBulletList"));
+    for (const QString& item : {QStringLiteral("Apples"), QStringLiteral("Pears")}) {
+        Fill(QStringLiteral("txtAddItem"), item);
+        Press(QStringLiteral("cmdAddItem"));
+    }
+    Take(folder, QStringLiteral("frmBulletList"));
+    for (const QString& entry : frame.Commands().Names())
+        frame.Commands().Run(entry);
+    form = frame.LoadedForms().Find(QStringLiteral("frmSpacer"));
+    Press(QStringLiteral("optBlock"));
+    form = frame.LoadedForms().Find(QStringLiteral("frmFont"));
+    Fill(QStringLiteral("txtFontColor"), QStringLiteral("#2060C0"));
+    for (int i = 0; i < frame.LoadedForms().Count(); ++i) {
+        const QString name = frame.LoadedForms().At(i)->objectName();
+        if (name != QStringLiteral("frmTemplate"))
+            Take(folder, name);
+    }
+}
+
+} // namespace

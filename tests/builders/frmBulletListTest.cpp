@@ -1,0 +1,132 @@
+#include "builders/frmBulletList.h"
+
+#include "builders/DialogTest.h"
+#include "builders/ListText.h"
+#include "builders/TagRows.h"
+
+namespace {
+
+Row List(const char16_t* kind, QStringList items, const char16_t* asWritten, const char16_t* lowered) {
+    return {[=](Frame& frame) { return ListText(frame, T(kind), items); }, asWritten, lowered};
+}
+
+TEST(ListText, WritesALinePerItem) {
+    const QStringList two = {T(u"One"), T(u"<B>Two</B>")};
+    Check({
+        List(u"U", two, u"<UL>\r\n<LI>One\r\n<LI><B>Two</B>\r\n</UL>",
+             u"<ul>\r\n<li>One\r\n<li><B>Two</B>\r\n</ul>"),
+        List(u"O", two, u"<OL>\r\n<LI>One\r\n<LI><B>Two</B>\r\n</OL>",
+             u"<ol>\r\n<li>One\r\n<li><B>Two</B>\r\n</ol>"),
+        List(u"D", two, u"<DL>\r\n<DT>One\r\n<DT><B>Two</B>\r\n</DL>",
+             u"<dl>\r\n<dt>One\r\n<dt><B>Two</B>\r\n</dl>"),
+        List(u"U", {}, u"<UL>\r\n</UL>", u"<ul>\r\n</ul>"),
+        List(u"O", {QString()}, u"<OL>\r\n<LI>\r\n</OL>", u"<ol>\r\n<li>\r\n</ol>"),
+        List(u"", two, u"", u""),
+        List(u"u", two, u"", u""),
+    });
+}
+
+class frmBulletListTest : public DialogTest {
+  protected:
+    QWidget& Show(const char16_t* kind) {
+        ShowBulletList(frame, T(kind));
+        form = frame.LoadedForms().Find(T(u"frmBulletList"));
+        return *form;
+    }
+    void Add(const char16_t* item) {
+        Fill(T(u"txtAddItem"), T(item));
+        Press(T(u"cmdAddItem"));
+    }
+    QStringList Shown() {
+        QStringList items;
+        for (int row = 0; row < Control<QListWidget>(T(u"List1")).count(); ++row)
+            items << Control<QListWidget>(T(u"List1")).item(row)->text();
+        return items;
+    }
+};
+
+TEST_F(frmBulletListTest, LooksAsItShould) {
+    Show(u"U");
+    EXPECT_EQ(form->windowTitle(), T(u"Lists"));
+    EXPECT_EQ(Control<QAbstractButton>(T(u"cmdAddItem")).text(), T(u"&Add Item"));
+    EXPECT_EQ(Control<QAbstractButton>(T(u"cmdDone")).text(), T(u"&Done"));
+    EXPECT_EQ(Field(T(u"txtAddItem")), QString());
+    EXPECT_EQ(Shown(), QStringList());
+    EXPECT_FALSE(form->isModal());
+    EXPECT_EQ(form->property("Tag").toString(), T(u"U"));
+}
+
+TEST_F(frmBulletListTest, CollectsItemsAndWritesThemAtOnce) {
+    Show(u"U");
+    Add(u"One");
+    EXPECT_EQ(Field(T(u"txtAddItem")), QString());
+    EXPECT_EQ(form->focusWidget(), &Control<QLineEdit>(T(u"txtAddItem")));
+    Add(u"Two");
+    EXPECT_EQ(Text(), QString());
+    Press(T(u"cmdDone"));
+    EXPECT_EQ(Text(), T(u"<UL>\r\n<LI>One\r\n<LI>Two\r\n</UL>"));
+    EXPECT_FALSE(Loaded(T(u"frmBulletList")));
+}
+
+TEST_F(frmBulletListTest, ANewKindIsTakenAndTheItemsStay) {
+    QWidget& first = Show(u"U");
+    Add(u"One");
+    EXPECT_EQ(&Show(u"D"), &first);
+    Press(T(u"cmdDone"));
+    EXPECT_EQ(Text(), T(u"<DL>\r\n<DT>One\r\n</DL>"));
+}
+
+TEST_F(frmBulletListTest, GoesWithLowerCaseTags) {
+    LowerCaseTags();
+    Show(u"O");
+    Add(u"One");
+    Press(T(u"cmdDone"));
+    EXPECT_EQ(Text(), T(u"<ol>\r\n<li>One\r\n</ol>"));
+}
+
+TEST_F(frmBulletListTest, WritesNothingForAnUnknownKind) {
+    Show(u"X");
+    Add(u"One");
+    Press(T(u"cmdDone"));
+    EXPECT_EQ(Text(), QString());
+    EXPECT_FALSE(Loaded(T(u"frmBulletList")));
+}
+
+TEST_F(frmBulletListTest, ADoubleClickRemovesAnItem) {
+    Show(u"U");
+    for (const char16_t* item : {u"One", u"Two", u"Three"})
+        Add(item);
+    auto& list = Control<QListWidget>(T(u"List1"));
+    const QPoint at = list.visualItemRect(list.item(1)).center();
+    QTest::mouseClick(list.viewport(), Qt::LeftButton, {}, at);
+    EXPECT_EQ(list.count(), 3);
+    QTest::mouseDClick(list.viewport(), Qt::LeftButton, {}, at);
+    EXPECT_EQ(Shown(), (QStringList{T(u"One"), T(u"Three")}));
+}
+
+TEST_F(frmBulletListTest, WorksByKeysAlone) {
+    Show(u"U");
+    auto& txtAddItem = Control<QLineEdit>(T(u"txtAddItem"));
+    for (const char16_t* item : {u"One", u"Two", u"Three"}) {
+        QTest::keyClicks(&txtAddItem, T(item));
+        QTest::keyClick(&txtAddItem, Qt::Key_Return);
+    }
+    EXPECT_EQ(Shown(), (QStringList{T(u"One"), T(u"Two"), T(u"Three")}));
+    auto& list = Control<QListWidget>(T(u"List1"));
+    list.setFocus();
+    list.setCurrentRow(0);
+    QTest::keyClick(&list, Qt::Key_Delete);
+    EXPECT_EQ(Shown(), (QStringList{T(u"Two"), T(u"Three")}));
+    QTest::keyClick(&list, Qt::Key_Return);
+    EXPECT_EQ(list.count(), 1);
+    QTest::keyClick(&Control<QAbstractButton>(T(u"cmdDone")), Qt::Key_Return);
+    EXPECT_EQ(Text(), T(u"<UL>\r\n<LI>Three\r\n</UL>"));
+}
+
+TEST_F(frmBulletListTest, AnEmptyListHasTwoLines) {
+    Show(u"U");
+    Press(T(u"cmdDone"));
+    EXPECT_EQ(Text(), T(u"<UL>\r\n</UL>"));
+}
+
+} // namespace

@@ -1,0 +1,134 @@
+#include "builders/frmFont.h"
+
+#include "builders/DialogTest.h"
+#include "builders/FontTag.h"
+#include "builders/TagRows.h"
+#include <QFontDatabase>
+#include <QSignalSpy>
+
+namespace {
+
+Row Font(FontFields fields, const char16_t* asWritten, const char16_t* lowered) {
+    return {[=](Frame& frame) { return Shown(FontTag(frame, fields)); }, asWritten, lowered};
+}
+
+TEST(FontTag, QuotesTheFaceAlone) {
+    Check({
+        Font({}, u"<FONT>|</FONT>", u"<font>|</font>"),
+        Font({T(u"3"), T(u"#FF0000"), T(u"Arial, Verdana")},
+             u"<FONT SIZE=3 COLOR=#FF0000 FACE=\"Arial, Verdana\">|</FONT>",
+             u"<font size=3 color=#FF0000 face=\"Arial, Verdana\">|</font>"),
+        Font({T(u"+1"), QString(), QString()}, u"<FONT SIZE=+1>|</FONT>", u"<font size=+1>|</font>"),
+    });
+}
+
+TEST(WithFace, JoinsNamesByACommaAndABlank) {
+    EXPECT_EQ(WithFace(QString(), T(u"Arial")), T(u"Arial"));
+    EXPECT_EQ(WithFace(T(u"Arial"), T(u"Verdana")), T(u"Arial, Verdana"));
+    EXPECT_EQ(WithFace(T(u" "), T(u"Verdana")), T(u" , Verdana"));
+}
+
+TEST(FaceNames, AreSortedInAnyCaseEachOnceWithoutAMaker) {
+    EXPECT_EQ(FaceNames({T(u"Zapf"), T(u"arial"), T(u"Courier [urw]"), T(u"Courier [adobe]"), T(u"Books"),
+                         T(u"A [b] c"), T(u"[x]")}),
+              (QStringList{T(u"[x]"), T(u"A [b] c"), T(u"arial"), T(u"Books"), T(u"Courier"), T(u"Zapf")}));
+}
+
+class frmFontTest : public DialogTest {
+  protected:
+    void SetUp() override {
+        DialogTest::SetUp();
+        Open(T(u"tb_abc"), T(u"frmFont"));
+    }
+    QListWidget& Faces() { return Control<QListWidget>(T(u"List1")); }
+    /// Two faces of known names, whatever fonts this computer has.
+    void TwoFaces() {
+        Faces().clear();
+        Faces().addItems({T(u"Arial"), T(u"Verdana")});
+    }
+    void DoubleClick(int row) {
+        const QPoint at = Faces().visualItemRect(Faces().item(row)).center();
+        QTest::mouseClick(Faces().viewport(), Qt::LeftButton, {}, at);
+        QTest::mouseDClick(Faces().viewport(), Qt::LeftButton, {}, at);
+    }
+};
+
+TEST_F(frmFontTest, LooksAsItShould) {
+    EXPECT_EQ(form->windowTitle(), T(u"Font"));
+    EXPECT_EQ(LabelOf(T(u"cboFontSize")), T(u"Font Size:"));
+    EXPECT_EQ(LabelOf(T(u"txtFontColor")), T(u"Font Color:"));
+    EXPECT_EQ(LabelOf(T(u"txtFontFace")), T(u"Font Face:"));
+    EXPECT_EQ(LabelOf(T(u"List1")), T(u"Double-Click to Add Font Face(s):"));
+    EXPECT_EQ(Tip(T(u"cmdShowColor")), T(u"Pick Font Color"));
+    EXPECT_EQ(Field(T(u"cboFontSize")), QString());
+    EXPECT_EQ(Field(T(u"txtFontColor")), QString());
+    EXPECT_EQ(Field(T(u"txtFontFace")), QString());
+    EXPECT_EQ(Items(T(u"cboFontSize")), T(u"1 2 3 4 5 6 7").split(u' '));
+}
+
+TEST_F(frmFontTest, ListsTheFamiliesOfTheSystem) {
+    QStringList shown;
+    for (int row = 0; row < Faces().count(); ++row)
+        shown << Faces().item(row)->text();
+    EXPECT_EQ(shown, FaceNames(QFontDatabase::families()));
+    EXPECT_FALSE(shown.isEmpty());
+}
+
+TEST_F(frmFontTest, DoubleClicksAddFacesInTheirOrder) {
+    TwoFaces();
+    DoubleClick(1);
+    EXPECT_EQ(Field(T(u"txtFontFace")), T(u"Verdana"));
+    Control<QLineEdit>(T(u"txtFontFace")).clear();
+    DoubleClick(0);
+    DoubleClick(1);
+    EXPECT_EQ(Field(T(u"txtFontFace")), T(u"Arial, Verdana"));
+    EXPECT_TRUE(Loaded(T(u"frmFont")));
+}
+
+TEST_F(frmFontTest, EnterOnTheListAddsAFaceAndIsNoOk) {
+    TwoFaces();
+    Faces().setFocus();
+    Faces().setCurrentRow(0);
+    QTest::keyClick(&Faces(), Qt::Key_Return);
+    QTest::keyClick(&Faces(), Qt::Key_Down);
+    QTest::keyClick(&Faces(), Qt::Key_Enter);
+    EXPECT_EQ(Field(T(u"txtFontFace")), T(u"Arial, Verdana"));
+    EXPECT_TRUE(Loaded(T(u"frmFont")));
+    EXPECT_EQ(Text(), QString());
+}
+
+TEST_F(frmFontTest, EnterOnAListWithNothingSelectedDoesNothing) {
+    Faces().clear();
+    QTest::keyClick(&Faces(), Qt::Key_Return);
+    EXPECT_EQ(Field(T(u"txtFontFace")), QString());
+    EXPECT_TRUE(Loaded(T(u"frmFont")));
+}
+
+TEST_F(frmFontTest, PicksAColour) {
+    frame.prompts.colorAnswers = {0x0000FF, std::nullopt};
+    Press(T(u"cmdShowColor"));
+    EXPECT_EQ(Field(T(u"txtFontColor")), T(u"#FF0000"));
+    // Cancel is black.
+    Press(T(u"cmdShowColor"));
+    EXPECT_EQ(Field(T(u"txtFontColor")), T(u"#000000"));
+}
+
+TEST_F(frmFontTest, WrapsTheSelection) {
+    frame.SetText(T(u"abc"));
+    frame.Box().SetSelStart(1);
+    frame.Box().SetSelLength(1);
+    Fill(T(u"cboFontSize"), T(u"3"));
+    Fill(T(u"txtFontColor"), T(u"#FF0000"));
+    Fill(T(u"txtFontFace"), T(u"Arial, Verdana"));
+    Press(T(u"cmdOK"));
+    EXPECT_EQ(Text(), T(u"a<FONT SIZE=3 COLOR=#FF0000 FACE=\"Arial, Verdana\">b</FONT>c"));
+    EXPECT_FALSE(Loaded(T(u"frmFont")));
+}
+
+TEST_F(frmFontTest, WritesACharacterFromOutsideTheCodePageAsItsReference) {
+    Fill(T(u"txtFontFace"), T(u"\u2603 \u20AC"));
+    Press(T(u"cmdOK"));
+    EXPECT_EQ(Text(), T(u"<FONT FACE=\"&#9731; \u20AC\"></FONT>"));
+}
+
+} // namespace
