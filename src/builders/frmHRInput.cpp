@@ -20,8 +20,7 @@ void frmHRInput::cmdOK_Click() {
     const QString tag = RuleTag(frame_, {FieldText(ui_->txtWidthInput), ui_->optPercent->isChecked(),
                                          FieldText(ui_->cboThickInput), FieldText(ui_->cboAlign),
                                          ui_->chkNoShade->isChecked()});
-    // This one is gone before its tag comes: where another dialog has the focus next, it is that one's
-    // document too.
+    // Alone among the dialogs this one is gone before its tag comes.
     Unload();
     Insert(tag);
 }
