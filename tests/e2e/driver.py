@@ -171,8 +171,8 @@ class Desk:
             return None
         return wait_for("the program on the accessibility bus", found)
 
-    def widget(self, name, role=None, within=None):
-        """The first showing widget of a name (and role name), as an accessible."""
+    def widget(self, name, role=None, focused=False):
+        """The first showing widget of a name (and role name), as an accessible; waits for it."""
         import pyatspi
 
         def walk(node, depth=0):
@@ -180,7 +180,8 @@ class Desk:
                 return None
             try:
                 if node.name == name and (role is None or node.getRoleName() == role):
-                    if node.getState().contains(pyatspi.STATE_SHOWING):
+                    state = node.getState()
+                    if state.contains(pyatspi.STATE_SHOWING) and (not focused or state.contains(pyatspi.STATE_FOCUSED)):
                         return node
                 for child in node:
                     hit = walk(child, depth + 1)
@@ -189,7 +190,16 @@ class Desk:
             except Exception:  # the tree changes while it is walked
                 return None
             return None
-        return wait_for("the widget " + name, lambda: walk(within or self.application()))
+        return wait_for("the widget " + name, lambda: walk(self.application()))
+
+    def text(self):
+        """The text of the document that has the focus; waits until one has."""
+        text = self.widget("Document text", "text", focused=True).queryText()
+        return text.getText(0, text.characterCount)
+
+    def wait_text(self, part):
+        """Waits until the document that has the focus holds a text."""
+        return wait_for("the text " + repr(part), lambda: part in self.text() and self.text())
 
     def widget_text_contains(self, text):
         """Whether any showing widget's name or text holds a text."""

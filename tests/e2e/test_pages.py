@@ -6,19 +6,10 @@ import subprocess
 PAGE = b"<HTML>\r\n<BODY>\r\n<P>One caf\xe9</P>\r\n</BODY>\r\n</HTML>\r\n"
 
 
-def box_text(desk):
-    return desk.widget("Document text", "text").queryText()
-
-
-def text_of(desk):
-    text = box_text(desk)
-    return text.getText(0, text.characterCount)
-
-
 def test_opens_types_and_saves(desk):
     path = desk.write("one.htm", PAGE)
     desk.run(path)
-    wait_for("the page's text", lambda: "One caf\u00e9" in text_of(desk))
+    desk.wait_text("One caf\u00e9")
     desk.type("hello")
     desk.key("ctrl+s")
     wait_for("the saved file", lambda: read(path) == b"hello" + PAGE + b"\r\n")
@@ -31,7 +22,7 @@ def test_opens_types_and_saves(desk):
 def test_closing_asks_and_cancel_keeps_everything(desk):
     path = desk.write("one.htm", PAGE)
     desk.run(path)
-    wait_for("the page", lambda: "One" in text_of(desk))
+    desk.wait_text("One")
     desk.type("x")
     desk.key("alt+F4")
     desk.wait_window("Save Document?")
@@ -48,7 +39,7 @@ def test_closing_asks_and_cancel_keeps_everything(desk):
 def test_closing_with_yes_saves(desk):
     path = desk.write("one.htm", PAGE)
     desk.run(path)
-    wait_for("the page", lambda: "One" in text_of(desk))
+    desk.wait_text("One")
     desk.type("x")
     desk.key("ctrl+w")
     desk.wait_window("Save Document?")
@@ -61,11 +52,11 @@ def test_a_second_copy_hands_its_page_over(desk):
     first = desk.write("one.htm", PAGE)
     second = desk.write("two.htm", b"<P>Second</P>\n")
     desk.run(first)
-    wait_for("the page", lambda: "One" in text_of(desk))
+    desk.wait_text("One")
     result = subprocess.run([PROGRAM, "two.htm"], env=desk.env, cwd=desk.home, capture_output=True, timeout=30)
     assert result.returncode == 0 and not result.stdout and not result.stderr, result
     desk.widget("two.htm", "page tab")
-    wait_for("the second page", lambda: "Second" in text_of(desk))
+    desk.wait_text("Second")
     desk.key("alt+F4")
     assert desk.ended() == 0
     assert second in desk.setting("Menu Array Values", "MenuArray%280%29")
@@ -74,19 +65,19 @@ def test_a_second_copy_hands_its_page_over(desk):
 def test_recent_files_come_back_in_the_menu(desk):
     path = desk.write("one.htm", PAGE)
     desk.run(path)
-    wait_for("the page", lambda: "One" in text_of(desk))
+    desk.wait_text("One")
     desk.key("alt+F4")
     assert desk.ended() == 0
     desk.run()
     desk.key("alt+f")
     desk.key("Up", "Return")
-    wait_for("the page again", lambda: "One" in text_of(desk))
+    desk.wait_text("One")
 
 
 def test_a_new_page_from_the_toolbar_is_saved_under_a_name(desk):
     desk.run()
     desk.click_widget("New", "push button")
-    wait_for("the skeleton", lambda: "The Tarnwick 3.0.6" in text_of(desk))
+    desk.wait_text("The Tarnwick 3.0.6")
     desk.key("ctrl+End")
     desk.type("end")
     desk.key("ctrl+s")
@@ -105,7 +96,7 @@ def test_an_unreadable_page_comes_in_once_it_can_be_read(desk):
     desk.run(path)
     wait_for("the awaited path in the status bar", lambda: desk.widget_text_contains(path))
     desk.write("late.htm", PAGE)
-    wait_for("the page", lambda: "One" in text_of(desk))
+    desk.wait_text("One")
     desk.key("alt+F4")
     assert desk.ended() == 0
 

@@ -1,0 +1,73 @@
+"""The tag dialogs on the screen: opened by toolbar and keys, filled by keys, and the road back from a tag."""
+import sys
+from driver import main, read, wait_for
+
+
+def fill(desk, label, text):
+    desk.click_widget(label, "text")
+    desk.type(text)
+
+
+def page(desk, data=b""):
+    path = desk.write("page.htm", data)
+    desk.run(path)
+    desk.wait_text(data.decode("cp1252").strip()[:10])
+    return path
+
+
+def test_image_link_and_body_into_one_page(desk):
+    path = page(desk, b"<BODY>\r\nword\r\n</BODY>\r\n")
+    desk.key("ctrl+Home", "Down")
+    desk.click_widget("Image", "push button")
+    desk.wait_active("Image")
+    fill(desk, "Source:", "a.gif")
+    fill(desk, "Width:", "10")
+    fill(desk, "Alternate Text:", "x")
+    desk.key("Return")
+    desk.wait_no_window("Image")
+    desk.wait_text('<IMG ALT="x" WIDTH=10 SRC="a.gif" USEMAP="#">')
+    desk.key("shift+End")
+    desk.click_widget("Link", "push button")
+    desk.wait_active("Link")
+    fill(desk, "URL OR FILE:", "x.htm")
+    fill(desk, "Anchor:", "top")
+    desk.key("Return")
+    desk.wait_no_window("Link")
+    desk.wait_text('<A HREF="x.htm#top">word</A>')
+    desk.click_widget("Body", "push button")
+    desk.wait_active("Body")
+    desk.key("Return")
+    desk.wait_no_window("Body")
+    desk.key("ctrl+s")
+    wait_for("the saved page", lambda: read(path) == (
+        b'<BODY>\r\n<IMG ALT="x" WIDTH=10 SRC="a.gif" USEMAP="#"><A HREF="x.htm#top">word</A>\r\n</BODY>\r\n\r\n'))
+
+
+def test_a_dialog_by_keyboard_alone(desk):
+    page(desk, b"<P>x</P>\r\n")
+    desk.key("ctrl+h")
+    desk.wait_active("Horizontal Rule")
+    desk.type("50")
+    desk.key("Return")
+    desk.wait_no_window("Horizontal Rule")
+    desk.wait_text("<HR WIDTH=50>")
+    desk.key("ctrl+q")
+    desk.wait_active("Image")
+    desk.key("Escape")
+    desk.wait_no_window("Image")
+    wait_for("the unchanged text", lambda: desk.text() == "<HR WIDTH=50><P>x</P>\r\n")
+
+
+def test_edit_tag_brings_the_dialog_back(desk):
+    page(desk, b'<P><IMG SRC="a.gif" WIDTH=10 HEIGHT=20></P>\r\n')
+    desk.key("ctrl+Home", "Right", "Right", "Right", "Right", "Right")
+    desk.key("ctrl+d")
+    desk.wait_active("Image")
+    fill(desk, "Border:", "1")
+    desk.key("Return")
+    desk.wait_no_window("Image")
+    desk.wait_text('<P><IMG WIDTH=10 HEIGHT=20 BORDER=1 SRC="a.gif" USEMAP="#"></P>')
+
+
+if __name__ == "__main__":
+    main(sys.modules[__name__])

@@ -1,0 +1,93 @@
+"""Auto-fill lists, the first run's Options, and the Edit, Design and View modes, on the screen."""
+import os
+import subprocess
+import sys
+from driver import main, read, wait_for, PROGRAM
+
+WEB = os.path.join(os.path.dirname(PROGRAM), "libtarnwick_web.so")
+
+
+def test_an_image_tag_by_the_lists_alone(desk):
+    path = desk.write("page.htm", b"<P>x</P>\r\n")
+    desk.run(path)
+    desk.wait_text("x")
+    desk.type("<IMG ")
+    desk.widget("Attributes")
+    desk.type("S")
+    desk.key("Return")
+    desk.wait_text('<IMG SRC=""')
+    desk.type("a.gif")
+    desk.key("Right")
+    desk.type(" ")
+    desk.widget("Attributes")
+    desk.type("ALI")
+    desk.key("Return")
+    desk.wait_text('ALIGN=""')
+    desk.widget("Values")
+    desk.type("L")
+    desk.key("Return")
+    desk.wait_text('ALIGN="LEFT"')
+    desk.key("Right")
+    desk.type(">")
+    desk.key("ctrl+s")
+    wait_for("the saved tag", lambda: read(path) == b'<IMG SRC="a.gif" ALIGN="LEFT"><P>x</P>\r\n\r\n')
+
+
+def test_the_first_run_shows_the_options_and_the_second_does_not(desk):
+    desk.run(window="Options")
+    desk.key("Escape")
+    desk.wait_window("The Tarnwick Pro")
+    desk.wait_no_window("Options")
+    desk.wait_active("The Tarnwick Pro")
+    desk.key("alt+F4")
+    assert desk.ended() == 0
+    assert desk.setting("Window Options", "FirstTimeAgain") == "1"
+    desk.run()
+    assert "Options" not in desk.windows()
+
+
+test_the_first_run_shows_the_options_and_the_second_does_not.desk = {"first_run": True}
+
+
+def with_modes(desk):
+    path = desk.path("config", "tarnwick", "The Tarnwick.ini")
+    with open(path, "ab") as file:
+        file.write(b"UseMSIE=1\n")
+
+
+def pixel(desk, x, y):
+    text = subprocess.run(["import", "-window", "root", "-crop", "1x1+%d+%d" % (x, y), "txt:-"], env=desk.env,
+                          capture_output=True, text=True).stdout
+    return text.split("#")[-1][:6].upper()
+
+
+if os.path.exists(WEB):
+    def test_view_shows_the_page_and_design_edits_it(desk):
+        with_modes(desk)
+        page = (b"<!DOCTYPE HTML PUBLIC \"-//W3C//DTD HTML 4.01//EN\">\r\n<HTML>\r\n<BODY BGCOLOR=\"#20C040\">\r\n"
+                b"<P>first</P>\r\n</BODY>\r\n</HTML>\r\n")
+        path = desk.write("page.htm", page)
+        desk.run(path)
+        desk.wait_text("first")
+        desk.click_widget("View", "page tab")
+        wait_for("the page's colour", lambda: pixel(desk, 640, 600) == "20C040", 60)
+        desk.click_widget("Edit", "page tab")
+        desk.wait_text("first")
+        desk.click_widget("Design", "page tab")
+        wait_for("the page's colour", lambda: pixel(desk, 640, 600) == "20C040", 60)
+        desk.click(640, 600)
+        desk.key("ctrl+End")
+        desk.type("typed words")
+        desk.click_widget("Edit", "page tab")
+        desk.wait_active("The Tarnwick")
+        wait_for("the question", lambda: desk.widget("Save Changes?"))
+        desk.key("alt+y")
+        wait_for("the typed words in the file", lambda: b"typed words" in (read(path) or b""))
+        saved = read(path)
+        assert saved.startswith(b"<!DOCTYPE HTML PUBLIC"), saved
+        assert b"\r\n" in saved and b"\n" not in saved.replace(b"\r\n", b""), saved
+        desk.wait_text("typed words")
+
+
+if __name__ == "__main__":
+    main(sys.modules[__name__])
