@@ -1,6 +1,7 @@
 // Pictures of every tag dialog for the eye: set TARNWICK_PICTURES to a folder and run FormPictures.*.
 #include "builders/DialogTest.h"
 #include "builders/frmBulletList.h"
+#include "builders/Site.h"
 #include <QDir>
 #include <QStyleFactory>
 
@@ -53,6 +54,11 @@ TEST_F(FormPictures, OfEveryDialog) {
         frame.Commands().Run(entry);
     form = frame.LoadedForms().Find(QStringLiteral("frmSpacer"));
     Press(QStringLiteral("optBlock"));
+    const Site site;
+    frame.active->caption = site.Path(QStringLiteral("pages/a.htm"));
+    form = frame.LoadedForms().Find(QStringLiteral("frmBody"));
+    frame.prompts.openAnswers = {ScriptedPrompts::Picked(site.Path(QStringLiteral("img/low.png")))};
+    Press(QStringLiteral("Command1"));
     form = frame.LoadedForms().Find(QStringLiteral("frmFont"));
     Fill(QStringLiteral("txtFontColor"), QStringLiteral("#2060C0"));
     for (int i = 0; i < frame.LoadedForms().Count(); ++i) {

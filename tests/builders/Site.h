@@ -28,7 +28,8 @@ class Site {
   private:
     void Picture(const QString& name, QSize size) const {
         QImage image(size, QImage::Format_RGB32);
-        image.fill(Qt::red);
+        image.fill(QColor(255, 244, 214));
+        image.setPixelColor(1, 1, QColor(200, 150, 80));
         image.save(Path(name));
     }
 };
