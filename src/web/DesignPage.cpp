@@ -62,8 +62,6 @@ QString Json(const QJsonArray& values) {
 
 DesignPage::DesignPage(QWebEngineProfile& profile) : QWebEnginePage(&profile) {
     settings()->setAttribute(QWebEngineSettings::JavascriptEnabled, false);
-    // Without scripts nothing on the page can read what it shows: its own pictures may come from its folder.
-    settings()->setAttribute(QWebEngineSettings::LocalContentCanAccessFileUrls, true);
     connect(this, &QWebEnginePage::loadFinished, this, &DesignPage::Fill);
 }
 

@@ -22,8 +22,12 @@ class HeadScan {
                 continue;
             }
             const QString name = TagName();
-            if (!SkipTag() || !MayStandBefore(name))
-                return name == QStringLiteral("body") ? at_ : -1;
+            if (!SkipTag())
+                return -1;
+            if (name == QStringLiteral("body"))
+                return at_;
+            if (!MayStandBefore(name))
+                return -1;
             if (HasRawContent(name) && !GoTo(QStringLiteral("</") + name))
                 return -1;
         }

@@ -1,6 +1,8 @@
 // What both controls are: a widget with an engine's view in it, once there is something to show.
 #include "web/WebPane.h"
 
+#include "web/FileGuard.h"
+
 #include <QVBoxLayout>
 #include <QWebEngineDownloadRequest>
 #include <QWebEnginePage>
@@ -13,15 +15,15 @@ namespace {
 /// Pages are strangers: none may reach the user's files, windows, clipboard or disk.
 void Restrict(QWebEngineSettings& settings) {
     for (const auto attribute :
-         {QWebEngineSettings::LocalContentCanAccessRemoteUrls,
-          QWebEngineSettings::LocalContentCanAccessFileUrls, QWebEngineSettings::JavascriptCanOpenWindows,
-          QWebEngineSettings::JavascriptCanAccessClipboard,
+         {QWebEngineSettings::JavascriptCanOpenWindows, QWebEngineSettings::JavascriptCanAccessClipboard,
           QWebEngineSettings::AllowWindowActivationFromJavaScript,
           QWebEngineSettings::HyperlinkAuditingEnabled, QWebEngineSettings::PluginsEnabled,
           QWebEngineSettings::ScreenCaptureEnabled, QWebEngineSettings::FullScreenSupportEnabled,
           QWebEngineSettings::DnsPrefetchEnabled, QWebEngineSettings::AutoLoadIconsForPage,
           QWebEngineSettings::NavigateOnDropEnabled})
         settings.setAttribute(attribute, false);
+    // The pages of a site on the disk show pictures from the web and link to it.
+    settings.setAttribute(QWebEngineSettings::LocalContentCanAccessRemoteUrls, true);
     settings.setUnknownUrlSchemePolicy(QWebEngineSettings::DisallowUnknownUrlSchemes);
     settings.setDefaultTextEncoding(QStringLiteral("windows-1252"));
 }
@@ -30,6 +32,7 @@ std::shared_ptr<QWebEngineProfile> MakeProfile() {
     // A profile without a name keeps everything in memory.
     auto profile = std::make_shared<QWebEngineProfile>();
     Restrict(*profile->settings());
+    profile->setUrlRequestInterceptor(new FileGuard(profile.get()));
     QObject::connect(profile.get(), &QWebEngineProfile::downloadRequested, profile.get(),
                      [](QWebEngineDownloadRequest* download) { download->cancel(); });
     return profile;

@@ -1,0 +1,243 @@
+// The design control in the real engine: what an edit leaves in the file.
+#include "web/DesignPane.h"
+
+#include "support/FreshUser.h"
+#include "support/Text.h"
+#include "web/PageFiles.h"
+#include "web/PageProbe.h"
+
+#include <gtest/gtest.h>
+#include <QDateTime>
+#include <QFile>
+#include <QFileInfo>
+#include <QTest>
+#include <QWebEnginePage>
+
+namespace {
+
+const QString canBeEdited = QStringLiteral("document.designMode === 'on'");
+
+class Design : public testing::Test {
+  protected:
+    Design() : pane(&window) {
+        FreshUser();
+        window.resize(600, 400);
+        pane.resize(600, 400);
+        window.show();
+        pane.show();
+    }
+
+    void Load(const QByteArray& bytes) {
+        path = PageFiles::Write(QStringLiteral("page.htm"), bytes);
+        pane.Load(path);
+        ASSERT_TRUE(Probe::Until(pane, canBeEdited));
+    }
+    /// Puts a text before that of the first paragraph.
+    void Type(const QString& text) {
+        Probe::Run(pane, QStringLiteral("getSelection().collapse(document.querySelector('p').firstChild, 0);"
+                                        "document.execCommand('insertText', false, %1)")
+                             .arg(Probe::Quoted(text)));
+    }
+    void Edit(const QByteArray& bytes, const QString& text = QStringLiteral("typed ")) {
+        Load(bytes);
+        Type(text);
+    }
+    QByteArray Saved() { return PageFiles::Read(path); }
+
+    QWidget window;
+    DesignPane pane;
+    QString path;
+};
+
+TEST_F(Design, AnEditChangesTheBodyAndNothingElse) {
+    const QByteArray before = "<!doctype HTML>\r\n<HTML><HEAD>\r\n<TITLE>t</TITLE>\r\n</HEAD>\r\n"
+                              "<BODY BGCOLOR=\"#ffffff\">\r\n";
+    const QByteArray after = "\r\n</BODY>\r\n</HTML>\r\n";
+    Edit(before + "<p>one</p>\r\n<p>two</p>" + after);
+    EXPECT_TRUE(pane.Save(pane.LoadedPath()));
+    EXPECT_EQ(Saved(), before + "<p>typed one</p>\r\n<p>two</p>" + after);
+}
+
+TEST_F(Design, AnEditThatWasUndoneIsNone) {
+    const QByteArray page = "<html><head></head><body>\r\n<P>one\r\n</body>\r\n</html>\r\n";
+    Edit(page);
+    Probe::Run(pane, QStringLiteral("document.execCommand('undo')"));
+    EXPECT_TRUE(pane.Save(path));
+    EXPECT_EQ(Saved(), page);
+}
+
+TEST_F(Design, ASecondSaveAddsNothingAndASecondEditIsSaved) {
+    Edit("<html><head></head><body>\r\n<p>one</p>\r\n</body>\r\n</html>\r\n");
+    EXPECT_TRUE(pane.Save(path));
+    PageFiles::Write(QStringLiteral("page.htm"), "someone else's");
+    EXPECT_TRUE(pane.Save(path));
+    EXPECT_EQ(Saved(), QByteArray("someone else's"));
+    Type(QStringLiteral("again "));
+    EXPECT_TRUE(pane.Save(path));
+    EXPECT_EQ(Saved(),
+              QByteArray("<html><head></head><body>\r\n<p>again typed one</p>\r\n</body>\r\n</html>\r\n"));
+}
+
+TEST_F(Design, APageThatNobodyChangedIsNotWritten) {
+    const QByteArray odd = "<P>unclosed <B>and <I>crossed</B></I>\n<!-- x -->\r\r\n<br/>";
+    path = PageFiles::Write(QStringLiteral("odd.htm"), odd);
+    const QDateTime old(QDate(2001, 2, 3), QTime(4, 5));
+    QFile file(path);
+    ASSERT_TRUE(file.open(QFile::ReadWrite));
+    ASSERT_TRUE(file.setFileTime(old, QFileDevice::FileModificationTime));
+    file.close();
+    pane.Load(path);
+    EXPECT_TRUE(pane.Save(path));
+    EXPECT_EQ(Saved(), odd);
+    EXPECT_EQ(QFileInfo(path).lastModified(), old);
+}
+
+TEST_F(Design, AnUnchangedPageSavedElsewhereIsACopy) {
+    path = PageFiles::Write(QStringLiteral("a.htm"), "<P>caf\xE9\n");
+    pane.Load(path);
+    const QString other = TestFolder() + QStringLiteral("/b.htm");
+    EXPECT_TRUE(pane.Save(other));
+    EXPECT_EQ(PageFiles::Read(other), QByteArray("<P>caf\xE9\n"));
+}
+
+TEST_F(Design, SaveRightAfterLoadWaitsForThePage) {
+    const QByteArray page = "<html><body><p>kept</p></body></html>";
+    path = PageFiles::Write(QStringLiteral("page.htm"), page);
+    pane.Load(path);
+    EXPECT_TRUE(pane.Save(path));
+    EXPECT_EQ(Saved(), page);
+}
+
+TEST_F(Design, WritesInThePagesOwnEncoding) {
+    struct Row {
+        const char* name;
+        QByteArray head, before, after;
+    };
+    const Row rows[] = {
+        {"none", "", "caf\xE9", "\xE9&#9731;caf\xE9"},
+        {"utf-8", "<meta charset=\"utf-8\">", "caf\xC3\xA9",
+         "\xC3\xA9\xE2\x98\x83"
+         "caf\xC3\xA9"},
+        {"koi8-r", "<meta charset=\"koi8-r\">", "\xC1", "&#233;&#9731;\xC1"},
+        {"wrong", "<meta charset=\"utf-8\">", "caf\xE9", "\xE9&#9731;caf\xE9"},
+    };
+    for (const Row& row : rows) {
+        const QByteArray start = "<html><head>" + row.head + "</head><body><p>";
+        const QByteArray end = "</p></body></html>\r\n";
+        Edit(start + row.before + end, QString::fromUtf8("\xC3\xA9\xE2\x98\x83"));
+        EXPECT_TRUE(pane.Save(path));
+        EXPECT_EQ(Saved(), start + row.after + end) << row.name;
+    }
+}
+
+TEST_F(Design, KeepsTheMarksOfUtf8AndUtf16) {
+    const auto text = [](const char* typed) {
+        return QStringLiteral("<html><head></head><body><p>%1a</p></body></html>").arg(QLatin1String(typed));
+    };
+    Edit("\xEF\xBB\xBF" + text("").toUtf8());
+    EXPECT_TRUE(pane.Save(path));
+    EXPECT_EQ(Saved(), "\xEF\xBB\xBF" + text("typed ").toUtf8());
+    const auto utf16 = [](const QString& s) {
+        QByteArray bytes("\xFF\xFE");
+        for (const QChar c : s)
+            bytes += QByteArray(1, static_cast<char>(c.cell())) + static_cast<char>(c.row());
+        return bytes;
+    };
+    Edit(utf16(text("")));
+    EXPECT_TRUE(pane.Save(path));
+    EXPECT_EQ(Saved(), utf16(text("typed ")));
+}
+
+TEST_F(Design, APageWithoutABodyTagKeepsItsDoctype) {
+    const QByteArray doctype = "<!DOCTYPE HTML PUBLIC \"-//W3C//DTD HTML 3.2//EN\">\r\n";
+    Edit(doctype + "<title>t</title>\r\n<p>one</p>\r\n<p>two</p>\r\n");
+    EXPECT_TRUE(pane.Save(path));
+    EXPECT_EQ(Saved(), doctype +
+                           "<html><head><title>t</title>\r\n</head><body><p>typed one</p>\r\n<p>two</p>\r\n"
+                           "</body></html>\r\n");
+}
+
+TEST_F(Design, AFileThatCannotBeWrittenStandsAsItWas) {
+    const QByteArray page = "<html><head></head><body><p>one</p></body></html>";
+    Edit(page);
+    EXPECT_FALSE(pane.Save(TestFolder() + QStringLiteral("/no/such/folder/page.htm")));
+    EXPECT_FALSE(pane.Save(TestFolder()));
+    EXPECT_EQ(Saved(), page);
+    EXPECT_TRUE(pane.Save(path));
+    EXPECT_TRUE(Saved().contains("typed one"));
+}
+
+TEST_F(Design, NothingLoadedSavesNothing) {
+    const QString target = TestFolder() + QStringLiteral("/x.htm");
+    EXPECT_EQ(pane.LoadedPath(), QString());
+    EXPECT_FALSE(pane.Save(target));
+    pane.Load(TestFolder() + QStringLiteral("/missing.htm"));
+    EXPECT_EQ(pane.LoadedPath(), QString());
+    EXPECT_FALSE(pane.Save(target));
+    EXPECT_FALSE(QFile::exists(target));
+}
+
+TEST_F(Design, LoadedAgainTheChangesAreGone) {
+    Edit("<html><body><p>one</p></body></html>");
+    pane.Load(path);
+    pane.Load(path);
+    ASSERT_TRUE(Probe::Until(pane, canBeEdited));
+    EXPECT_EQ(Probe::Run(pane, QStringLiteral("document.querySelector('p').textContent")).toString(),
+              QStringLiteral("one"));
+}
+
+TEST_F(Design, ADeadEngineLeavesAnEmptyViewAndTheFile) {
+    const QByteArray page = "<html><body><p>one</p></body></html>";
+    Edit(page);
+    ASSERT_TRUE(Probe::Kill(pane));
+    EXPECT_FALSE(pane.Save(path));
+    EXPECT_EQ(Saved(), page);
+    Load(page);
+}
+
+TEST_F(Design, ADeathWhileSavingIsNoSave) {
+    const QByteArray page = "<html><body><p>one</p></body></html>";
+    Edit(page);
+    Probe::Block(pane);
+    Probe::KillSoon(pane);
+    EXPECT_FALSE(pane.Save(path));
+    EXPECT_EQ(Saved(), page);
+    EXPECT_EQ(Probe::Page(pane), nullptr);
+}
+
+TEST_F(Design, ScriptsOfThePageDoNotRunAndItGoesNowhere) {
+    PageFiles::Write(QStringLiteral("other.htm"), "<title>other</title>");
+    const QByteArray script = "<script>document.title = 'ran'; location.href = 'other.htm'</script>";
+    Edit("<html><head><meta http-equiv=\"refresh\" content=\"0;url=other.htm\">" + script +
+         "</head><body onload=\"document.title='ran'\"><p>one</p><a id=\"a\" href=\"other.htm\">link</a>"
+         "</body></html>");
+    int asked = 0;
+    QObject::connect(Probe::Page(pane), &QWebEnginePage::navigationRequested, &pane, [&] { ++asked; });
+    Probe::Run(pane, QStringLiteral("document.getElementById('a').click(); location.href = 'other.htm'; 0"));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return asked == 2; }, 20000))
+        << "the page and we ask to go to other.htm";
+    EXPECT_EQ(Probe::Run(pane, QStringLiteral("document.title + location.pathname")).toString(), path);
+    EXPECT_TRUE(pane.Save(path));
+    EXPECT_TRUE(Saved().contains(script));
+    EXPECT_TRUE(Saved().contains("typed one"));
+}
+
+TEST_F(Design, StylesComeFromThePagesFolder) {
+    PageFiles::Write(QStringLiteral("s.css"), "p { color: rgb(1, 2, 3) }");
+    Load("<html><head><link rel=stylesheet href=s.css></head><body><p>one</p></body></html>");
+    EXPECT_TRUE(Probe::Until(
+        pane, QStringLiteral("getComputedStyle(document.querySelector('p')).color === 'rgb(1, 2, 3)'")));
+}
+
+TEST_F(Design, ALargePageComesThroughWhole) {
+    QByteArray page = "<html><head></head><body>\r\n";
+    for (int i = 0; i < 60000; ++i)
+        page += "<p>paragraph " + QByteArray::number(i) + " of many, all alike in length</p>\r\n";
+    page += "</body></html>\r\n";
+    ASSERT_GT(page.size(), 3'000'000);
+    Edit(page);
+    EXPECT_TRUE(pane.Save(path));
+    EXPECT_TRUE(Saved() == page.replace("<p>paragraph 0 ", "<p>typed paragraph 0 "));
+}
+
+} // namespace

@@ -1,0 +1,65 @@
+// The plugin as the program loads it, and a document that goes from source to design and back.
+#include "app/WebPlugin.h"
+
+#include "editor/Modes.h"
+#include "editor/WebControls.h"
+#include "support/TestFrame.h"
+#include "web/PageFiles.h"
+#include "web/PageProbe.h"
+
+#include <gtest/gtest.h>
+#include <QCoreApplication>
+#include <QDir>
+
+namespace {
+
+const QStringList built = {QStringLiteral(TARNWICK_PLUGIN_FOLDER)};
+
+TEST(WebPlugin, IsLoadedOnceFromTheFirstFolderThatHasIt) {
+    WebControlsFactory* factory = LoadWebPlugin(QStringList(QStringLiteral("/no/such/folder")) + built);
+    ASSERT_NE(factory, nullptr);
+    EXPECT_EQ(LoadWebPlugin(built), factory);
+}
+
+TEST(WebPlugin, IsLookedForBesideTheProgramAndWhereItIsInstalled) {
+    const QDir program(QCoreApplication::applicationDirPath());
+    EXPECT_EQ(
+        WebPluginFolders(),
+        QStringList({program.path(), QDir::cleanPath(program.filePath(QStringLiteral("../lib/tarnwick")))}));
+}
+
+TEST(WebPlugin, AbsentOrBrokenThereAreNoControls) {
+    FreshUser();
+    EXPECT_EQ(LoadWebPlugin({QStringLiteral("/no/such/folder")}), nullptr);
+    EXPECT_EQ(LoadWebPlugin({}), nullptr);
+    PageFiles::Write(QStringLiteral("tarnwick_web.so"), "no library");
+    EXPECT_EQ(LoadWebPlugin({TestFolder()}), nullptr);
+}
+
+TEST(WebPlugin, TypingInDesignComesBackIntoTheFile) {
+    TestFrame frame;
+    frame.State<WebControls>().Load = [] { return LoadWebPlugin(built); };
+    const QString path = PageFiles::Write(
+        QStringLiteral("a.htm"),
+        "<!DOCTYPE html>\r\n<html><head></head><body>\r\n<p>words</p>\r\n</body></html>\r\n");
+    frame.active->caption = path;
+    frame.active->modes = std::make_unique<DocumentModes>(frame, *frame.active);
+    frame.active->modes->LoadControls();
+    frame.active->modes->PlaceAtResize();
+    ModeStrip_Click(frame, QStringLiteral("Design"));
+    const auto* design = frame.active->findChild<QWidget*>(QStringLiteral("DHTMLEdit"));
+    ASSERT_NE(design, nullptr);
+    EXPECT_TRUE(design->isVisible());
+    ASSERT_TRUE(Probe::Until(*design, QStringLiteral("document.designMode === 'on'")));
+    Probe::Run(*design, QStringLiteral("getSelection().collapse(document.querySelector('p').firstChild, 0);"
+                                       "document.execCommand('insertText', false, 'typed ')"));
+    frame.prompts.messageAnswers = {MsgAnswer::Yes};
+    ModeStrip_Click(frame, QStringLiteral("Edit"));
+    EXPECT_EQ(
+        PageFiles::Read(path),
+        QByteArray(
+            "<!DOCTYPE html>\r\n<html><head></head><body>\r\n<p>typed words</p>\r\n</body></html>\r\n"));
+    EXPECT_EQ(frame.opened, QStringList(path));
+}
+
+} // namespace
