@@ -18,6 +18,7 @@
 #include "app/ToolbarCommands.h"
 #include "app/ToolbarHolder.h"
 #include "app/UserButtons.h"
+#include "app/WebPlugin.h"
 #include "app/WindowCommands.h"
 #include "builders/AutoFillPick.h"
 #include "builders/DialogCommands.h"
@@ -89,6 +90,7 @@ void frmTarnwick::FillCommands() {
     FillDialogCommands(*this);
     FillEditTagCommand(*this);
     FillOptionsCommands(*this);
+    UseWebPlugin(*this);
     FillAutoFillHooks(*this);
 }
 

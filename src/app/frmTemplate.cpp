@@ -5,6 +5,7 @@
 #include "app/ProgramState.h"
 #include "app/Twips.h"
 #include "editor/Commands.h"
+#include "editor/EditorFont.h"
 #include "editor/EditorState.h"
 #include "editor/Forms.h"
 #include "editor/Frame.h"
@@ -99,10 +100,7 @@ void frmTemplate::ReadSettings() {
     Form_Resize();
     if (const int background = frame_.State<EditorState>().Background2; background > 0)
         txtInput_->SetBackColor(background);
-    QFont font(store.Read(Keys::EditorFont));
-    if (const double size = Values::Val(store.Read(Keys::EditorFontSize)); size > 0)
-        font.setPointSizeF(size);
-    txtInput_->SetFont(font);
+    txtInput_->SetFont(StoredEditorFont(store));
 }
 
 void frmTemplate::Form_Activate() {

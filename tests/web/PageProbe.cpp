@@ -57,10 +57,9 @@ QString Quoted(const QString& text) {
 }
 
 void Settle(const QWidget& control) {
-    // A timer of the page that comes after the navigation it has scheduled.
-    Run(control,
-        QStringLiteral("window.settled = false; setTimeout(() => { window.settled = true; }, 300); 0"));
-    Until(control, QStringLiteral("window.settled !== false"));
+    // By the page's own clock: its timers stand still where its scripts are off.
+    Run(control, QStringLiteral("window.settled = performance.now() + 300; 0"));
+    Until(control, QStringLiteral("!(performance.now() < window.settled)"));
 }
 
 bool Kill(const QWidget& control) {
