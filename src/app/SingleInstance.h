@@ -23,7 +23,7 @@ class SingleInstance final : public QObject {
     /// The place for the user's lock and socket: short, on this machine, and closed to others.
     static QString Folder();
 
-    /// Whether this is the first copy; asked again it gives the same answer.
+    /// Whether this is the first copy.
     bool IsFirst() const { return first_; }
     /// Gives the running copy a command line, which may be empty. False if it could not be reached in a few
     /// seconds.

@@ -92,6 +92,7 @@ void frmTarnwick::FillCommands() {
     FillOptionsCommands(*this);
     UseWebPlugin(*this);
     FillAutoFillHooks(*this);
+    UseWebPlugin(*this);
 }
 
 void frmTarnwick::BuildMenuBar() {

@@ -159,9 +159,14 @@ void frmTemplate::TakeDown() {
     timer1_->stop();
     // Its handlers may still be running, so it is deleted later; from now on no one finds it.
     frame_.LoadedForms().Remove(this);
+    QMdiArea* area = mdiArea();
+    const bool maximised = isMaximized();
     hide();
-    if (QMdiArea* area = mdiArea())
-        area->removeSubWindow(this);
+    area->removeSubWindow(this);
+    // The window that comes to sight takes over the state of the one that filled the area.
+    QMdiSubWindow* next = area->currentSubWindow();
+    if (next && maximised && !next->isMinimized())
+        next->showMaximized();
     deleteLater();
 }
 

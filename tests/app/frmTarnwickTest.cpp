@@ -1,0 +1,274 @@
+// The frame: focus, menus that pop up, the strips, and what arrives from outside.
+#include "app/frmTarnwick.h"
+
+#include "app/DocumentTabs.h"
+#include "app/frmSplash.h"
+#include "app/RealFrame.h"
+#include "app/Toolbar.h"
+#include "app/ToolbarHolder.h"
+
+#include <QDialog>
+#include <QDragEnterEvent>
+#include <QDropEvent>
+#include <QLabel>
+#include <QMenu>
+#include <QMimeData>
+#include <QTabBar>
+#include <QTimer>
+#include <QUrl>
+
+namespace {
+
+class Tarnwick : public FrameTest {
+  protected:
+    Tarnwick() {
+        Write(Keys::TemplateWindowState, "0");
+        run = std::make_unique<ProgramRun>();
+        EXPECT_TRUE(run->Start());
+    }
+    frmTarnwick& Window() { return *run->frame; }
+    QWidget& Inside() { return *run->frame->Area().viewport(); }
+    static bool TakesDrop(QWidget& target, const QMimeData& data) {
+        QDragEnterEvent enter(QPoint(5, 5), Qt::CopyAction | Qt::MoveAction, &data, Qt::LeftButton,
+                              Qt::NoModifier);
+        enter.ignore();
+        QCoreApplication::sendEvent(&target, &enter);
+        return enter.isAccepted();
+    }
+    static void Drop(QWidget& target, const QMimeData& data) {
+        ASSERT_TRUE(TakesDrop(target, data));
+        QDropEvent drop(QPointF(5, 5), Qt::CopyAction | Qt::MoveAction, &data, Qt::LeftButton,
+                        Qt::NoModifier);
+        QCoreApplication::sendEvent(&target, &drop);
+        EXPECT_EQ(drop.dropAction(), Qt::CopyAction);
+    }
+    /// A drop of files, on its way; it is released before the first is opened.
+    static void DropFiles(QWidget& target, const QStringList& paths) {
+        QMimeData data;
+        QList<QUrl> urls;
+        for (const QString& path : paths)
+            urls << QUrl::fromLocalFile(path);
+        data.setUrls(urls);
+        Drop(target, data);
+    }
+    QStringList OpenCaptions() {
+        QStringList captions;
+        for (QMdiSubWindow* window : Window().Area().subWindowList(QMdiArea::CreationOrder))
+            captions << dynamic_cast<frmTemplate&>(*window).Caption();
+        return captions;
+    }
+
+    std::unique_ptr<ProgramRun> run;
+};
+
+// Focus
+
+TEST_F(Tarnwick, ActivationGivesTheTextTheFocus) {
+    frmTemplate& document = run->New();
+    auto& strip = Window().TabStrip2();
+    for (const auto& becomeActive : std::initializer_list<std::function<void()>>{
+             [&] {
+                 QEvent activate(QEvent::WindowActivate);
+                 QCoreApplication::sendEvent(&Window(), &activate);
+             },
+             [&] { Q_EMIT qApp->applicationStateChanged(Qt::ApplicationActive); },
+             [&] { QTest::mousePress(&Window(), Qt::LeftButton); },
+             [&] { QTest::mousePress(&Inside(), Qt::LeftButton, {}, Inside().rect().bottomRight()); },
+         }) {
+        strip.setFocus();
+        EXPECT_NE(Window().focusWidget(), &document.txtInput());
+        becomeActive();
+        EXPECT_EQ(Window().focusWidget(), &document.txtInput());
+    }
+}
+
+TEST_F(Tarnwick, DeactivationOfTheApplicationMovesNoFocus) {
+    run->New();
+    Window().TabStrip2().setFocus();
+    Q_EMIT qApp->applicationStateChanged(Qt::ApplicationInactive);
+    EXPECT_EQ(Window().focusWidget(), &Window().TabStrip2());
+}
+
+TEST_F(Tarnwick, ActivationWithoutADocumentIsHarmless) {
+    QEvent activate(QEvent::WindowActivate);
+    QCoreApplication::sendEvent(&Window(), &activate);
+    QTest::mousePress(&Window(), Qt::LeftButton);
+    EXPECT_EQ(Window().ActiveForm(), nullptr);
+}
+
+TEST_F(Tarnwick, RightButtonOnTheEmptyAreaDropsTheFileMenu) {
+    auto& mnuFile = run->Find<QMenu>("mnuFile");
+    QTest::mousePress(&Inside(), Qt::RightButton);
+    EXPECT_FALSE(mnuFile.isVisible());
+    QTest::mouseRelease(&Inside(), Qt::LeftButton);
+    EXPECT_FALSE(mnuFile.isVisible());
+    QTest::mouseRelease(&Inside(), Qt::RightButton);
+    EXPECT_TRUE(mnuFile.isVisible());
+    mnuFile.hide();
+}
+
+// Strips
+
+TEST_F(Tarnwick, ToolbarStripIsLowerByItsMarginUnlessTheToolbarIsLow) {
+    const struct { int toolbar, strip; } rows[] = {{0, 0}, {499, 499}, {500, 370}, {501, 371}, {1000, 870}};
+    for (const auto& row : rows)
+        EXPECT_EQ(ToolbarHolder::HeightFor(row.toolbar), row.strip) << row.toolbar;
+}
+
+TEST_F(Tarnwick, ToolbarTakesTheFramesWidthAndAllRowsShow) {
+    for (const int width : {700, 1600}) {
+        Window().resize(width, 500);
+        auto& toolbar = *Window().findChild<Toolbar1*>();
+        auto& strip = run->Find<QWidget>("Picture3");
+        EXPECT_EQ(toolbar.width(), width);
+        EXPECT_EQ(strip.height() * 15, ToolbarHolder::HeightFor(toolbar.height() * 15) / 15 * 15);
+        EXPECT_GE(strip.height(), toolbar.heightForWidth(width));
+    }
+}
+
+TEST_F(Tarnwick, ModeStripHasItsTabs) {
+    auto& strip = run->Find<QTabBar>("TabStrip3");
+    QStringList tabs;
+    for (int index = 0; index < strip.count(); ++index)
+        tabs << strip.tabText(index);
+    EXPECT_EQ(tabs, QStringList({"Edit", "Design", "View"}));
+    EXPECT_EQ(strip.parentWidget(), &Window().Picture4());
+}
+
+TEST_F(Tarnwick, ClickOnADocumentTabGivesItsWindowTheFocus) {
+    const QString first = MakeFile(QStringLiteral("a.htm"), "a");
+    const QString second = MakeFile(QStringLiteral("b.htm"), "b");
+    Window().OpenDocumentFile(first);
+    Window().OpenDocumentFile(second);
+    DocumentTabs& tabs = Window().TabStrip2();
+    const auto click = [&tabs](int index) {
+        QTest::mouseClick(&tabs, Qt::LeftButton, {}, tabs.tabRect(index).center());
+    };
+    click(0);
+    EXPECT_EQ(run->Active().Caption(), first);
+    EXPECT_EQ(Window().focusWidget(), &run->Active().txtInput());
+    click(1);
+    EXPECT_EQ(run->Active().Caption(), second);
+    run->New();
+    click(1);
+    EXPECT_EQ(run->Active().Caption(), second);
+}
+
+TEST_F(Tarnwick, ClickOnADocumentTabTakesTheFirstFormOfThatCaption) {
+    const QString path = MakeFile(QStringLiteral("a.htm"), "a");
+    auto& dialog = Window().LoadedForms().Load<QDialog>(QStringLiteral("frmAny"));
+    Window().OpenDocumentFile(path);
+    run->New();
+    dialog.setWindowTitle(path);
+    dialog.show();
+    DocumentTabs& tabs = Window().TabStrip2();
+    QTest::mouseClick(&tabs, Qt::LeftButton, {}, tabs.tabRect(0).center());
+    QCoreApplication::processEvents();
+    EXPECT_EQ(QApplication::activeWindow(), &dialog);
+    EXPECT_EQ(run->Active().Caption(), QString());
+    Window().LoadedForms().Unload(QStringLiteral("frmAny"));
+}
+
+TEST_F(Tarnwick, StatusPanelThreeIsTheProgramsOwn) {
+    Window().SetStatusPanel(QStringLiteral("Line 7"));
+    EXPECT_EQ(run->Find<QLabel>("Panel3").text(), QStringLiteral("Line 7"));
+}
+
+// Start screen
+
+TEST_F(Tarnwick, AnyResizeUnloadsTheStartScreen) {
+    Forms& forms = Window().LoadedForms();
+    forms.Show<frmSplash>(QStringLiteral("frmSplash"), Window());
+    Window().resize(Window().size() + QSize(1, 0));
+    EXPECT_EQ(forms.Find(QStringLiteral("frmSplash")), nullptr);
+}
+
+// What arrives
+
+TEST_F(Tarnwick, DroppedFilesOpenInDropOrder) {
+    QStringList paths;
+    for (int n = 0; n < 10; ++n)
+        paths << MakeFile(QStringLiteral("%1.htm").arg(9 - n), QByteArray::number(n));
+    DropFiles(Window(), paths);
+    EXPECT_TRUE(OpenCaptions().isEmpty());
+    QCoreApplication::processEvents();
+    EXPECT_EQ(OpenCaptions(), paths);
+}
+
+TEST_F(Tarnwick, DroppedFileThatIsOpenGetsTheMessageAndTheOthersGoOn) {
+    const QString a = MakeFile(QStringLiteral("a.htm"), "a");
+    const QString b = MakeFile(QStringLiteral("b.htm"), "b");
+    const QString c = MakeFile(QStringLiteral("c.htm"), "c");
+    Window().OpenDocumentFile(b);
+    DropFiles(Inside(), {a, b, c});
+    QCoreApplication::processEvents();
+    EXPECT_EQ(OpenCaptions(), QStringList({b, a, c}));
+    EXPECT_EQ(run->prompts.Messages(),
+              QStringList(QStringLiteral("File \"") + b +
+                          QStringLiteral("\" already opened.\r\nDuplicate copies not allowed.")));
+}
+
+TEST_F(Tarnwick, FilesDroppedOnATextAreOpenedAndTextIsLeftToIt) {
+    frmTemplate& document = run->New();
+    const QString path = MakeFile(QStringLiteral("a.htm"), "a");
+    DropFiles(*document.txtInput().viewport(), {path});
+    QCoreApplication::processEvents();
+    EXPECT_EQ(run->Active().Caption(), path);
+    EXPECT_EQ(document.txtInput().Text(), QString());
+    QMimeData text;
+    text.setText(QStringLiteral("words"));
+    EXPECT_FALSE(TakesDrop(Window(), text));
+}
+
+TEST_F(Tarnwick, PendingEventsRunBetweenDroppedFiles) {
+    const QString a = MakeFile(QStringLiteral("a.htm"), "a");
+    const QString b = MakeFile(QStringLiteral("b.htm"), "b");
+    QStringList seen;
+    QTimer::singleShot(0, &Window(), [&] { seen = OpenCaptions(); });
+    Window().OpenArrivals({a, b});
+    EXPECT_EQ(seen, QStringList(a));
+}
+
+TEST_F(Tarnwick, FrameClosedBetweenDroppedFilesOpensNoMore) {
+    const QString a = MakeFile(QStringLiteral("a.htm"), "a");
+    const QString b = MakeFile(QStringLiteral("b.htm"), "b");
+    QTimer::singleShot(0, &Window(), [&] { Window().close(); });
+    Window().OpenArrivals({a, b});
+    EXPECT_TRUE(OpenCaptions().isEmpty());
+}
+
+TEST_F(Tarnwick, ArrivalsWaitForTheEndOfAModalDialog) {
+    const QString a = MakeFile(QStringLiteral("a.htm"), "a");
+    QDialog dialog(&Window());
+    QTimer::singleShot(0, &dialog, [&] {
+        Window().OpenArrivals({a});
+        EXPECT_TRUE(OpenCaptions().isEmpty());
+        dialog.accept();
+    });
+    dialog.exec();
+    QCoreApplication::processEvents();
+    EXPECT_EQ(OpenCaptions(), QStringList(a));
+}
+
+TEST_F(Tarnwick, ComesToFrontOutOfTheMinimisedState) {
+    Window().showMinimized();
+    Window().ComeToFront();
+    EXPECT_FALSE(Window().isMinimized());
+    Window().showMaximized();
+    Window().showMinimized();
+    Window().ComeToFront();
+    EXPECT_TRUE(Window().isMaximized());
+}
+
+TEST_F(Tarnwick, DropsAreTakenFromTheLoadToTheUnload) {
+    QMimeData data;
+    data.setUrls({QUrl::fromLocalFile(QStringLiteral("/a.htm"))});
+    ProgramRun fresh;
+    EXPECT_FALSE(TakesDrop(*fresh.frame, data));
+    ASSERT_TRUE(fresh.Start());
+    EXPECT_TRUE(TakesDrop(*fresh.frame, data));
+    EXPECT_TRUE(fresh.Stop());
+    EXPECT_FALSE(TakesDrop(*fresh.frame, data));
+}
+
+} // namespace
