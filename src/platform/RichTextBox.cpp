@@ -1,6 +1,7 @@
 // The text control of a document: its text, its selection and what it looks like.
 #include "platform/RichTextBox.h"
 
+#include "platform/RichTextAccessible.h"
 
 #include <algorithm>
 #include <QPalette>
@@ -31,6 +32,8 @@ RichTextBox::RichTextBox(QWidget* parent)
       rawLineEnds_(RawLineEnds::Keep)
 #endif
 {
+    // Found before that of the base class, since it goes by the name of the derived class.
+    RichTextAccessible::Install();
     SetUp();
     ApplyStyles();
     ApplyPalette();
@@ -258,14 +261,8 @@ QString RichTextBox::LineEnd() const {
         {static_cast<int>(Sci(SCI_GETLINEENDPOSITION, 0)), static_cast<int>(Sci(SCI_POSITIONFROMLINE, 1))});
 }
 
-QPoint RichTextBox::CaretPixel() const {
-    const long caret = Sci(SCI_GETCURRENTPOS);
-    return {static_cast<int>(Sci(SCI_POINTXFROMPOSITION, 0, caret)),
-            static_cast<int>(Sci(SCI_POINTYFROMPOSITION, 0, caret))};
-}
-
 int RichTextBox::LineHeight() const {
-    return static_cast<int>(Sci(SCI_TEXTHEIGHT));
+    return static_cast<int>(Sci(SCI_TEXTHEIGHT, 0));
 }
 
 RichTextBox::PaintHold::PaintHold(RichTextBox& box) : box_(box) {
@@ -281,7 +278,7 @@ RichTextBox::PaintHold::~PaintHold() {
 void RichTextBox::Replace(ByteRange range, const QByteArray& text, const StyleRuns& styles) {
     if (range.Empty() && text.isEmpty())
         return;
-    StyleIncoming();
+    TakeIncoming();
     {
         const UndoStep step(*this);
         if (!text.isEmpty())
@@ -289,7 +286,7 @@ void RichTextBox::Replace(ByteRange range, const QByteArray& text, const StyleRu
         Sci(SCI_SETTARGETRANGE, range.start, range.end);
         SendScintilla(SCI_REPLACETARGET, static_cast<unsigned long>(text.size()), text.constData());
     }
-    StyleIncoming();
+    TakeIncoming();
     Sci(SCI_GOTOPOS, range.start + text.size());
     Sci(SCI_CHOOSECARETX);
 }

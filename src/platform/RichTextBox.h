@@ -79,8 +79,8 @@ class RichTextBox : public QsciScintillaBase {
     /// until the caret moves away. Undo counts no colouring.
     ColorNumber SelColor() const;
     void SetSelColor(ColorNumber color);
-    /// The selection as RTF. Assigning replaces the selection by the text and colours of an RTF text (RtfReader);
-    /// the caret stands behind it.
+    /// The selection as RTF. Assigning replaces the selection by the text and colours of an RTF text
+    /// (RtfReader); the caret stands behind it.
     QString SelRTF() const;
     virtual void SetSelRTF(const QString& rtf);
 
@@ -130,6 +130,19 @@ class RichTextBox : public QsciScintillaBase {
     QPoint CaretPixel() const;
     /// The height of a line, in pixels.
     int LineHeight() const;
+    /// The caret: the end of the selection that keys move.
+    int CaretPosition() const;
+    /// Where the line of a position starts, and where the next one does (the text's end for the last).
+    int LineStart(int position) const;
+    int NextLineStart(int position) const;
+    /// A character's place and the character nearest to a place, in pixels of the viewport.
+    QRect CharacterRect(int position) const;
+    int PositionAt(QPoint pixel) const;
+    /// Brings a stretch of the text into view; the caret stays.
+    void ScrollTo(int start, int end);
+    /// Replaces the selection as pasting does: characters that a document can't hold become references, line
+    /// ends become the document's.
+    void InsertForeign(const QString& text);
 
     /// Painting waits while a hold lives: what others know as hiding the control during a write.
     class PaintHold {
@@ -193,7 +206,14 @@ class RichTextBox : public QsciScintillaBase {
     /// Text that the base class has announced and not yet been seen to hold, with the colours it is to have.
     struct Incoming {
         int start;
+        int length;
         StyleRuns styles;
+    };
+
+    struct TextChange {
+        bool inserted;
+        int position;
+        QString text;
     };
 
     /// Around every call and event that may change something: when the outermost ends, the box settles.
@@ -210,6 +230,8 @@ class RichTextBox : public QsciScintillaBase {
         int outer_;
     };
 
+    class PrintPage;
+
     long Sci(unsigned int message, long wParam = 0, long lParam = 0) const;
     void SetUp();
     void ApplyStyles();
@@ -217,10 +239,13 @@ class RichTextBox : public QsciScintillaBase {
 
     int ByteLength() const;
     bool IsAscii() const;
+    /// Brings the index of characters by line up to date; whoever asks it must call this first.
+    void FreshenIndex() const;
     int CharFromByte(int byte) const;
     int ByteFromChar(int position) const;
     QByteArray Bytes(int start, int end) const;
     QString TextOf(ByteRange range) const;
+    QPoint PixelOfByte(long byte) const;
     ByteRange Selection() const;
     void Select(int anchorByte, int caretByte);
 
@@ -232,16 +257,20 @@ class RichTextBox : public QsciScintillaBase {
     void SetStyles(int start, const StyleRuns& styles);
 
     void Settle();
-    void StyleIncoming();
+    void TakeIncoming();
+    void CountInsertion(int start, const QByteArray& text);
+    void CountDeletion(int start, int length);
+    void NoteSeam(long left, long right);
     void HoldTypingStyle();
     void BeforeModification(int position, int type, int length);
     void BeforeInsertion(int position, int type, int length);
     void BeforeDeletion(int position, int type, int length);
+    void TellAssistants(bool caretMoved);
     /// Carries out a handler of another object: it meets a settled box, and its own calls settle by
     /// themselves.
     template <typename Handler> void Outside(Handler handler) {
-        Settle();
         const int depth = std::exchange(depth_, 0);
+        Settle();
         handler();
         depth_ = depth;
     }
@@ -283,9 +312,15 @@ class RichTextBox : public QsciScintillaBase {
     std::optional<int> typingStyle_;
     int typingCaret_ = 0;
 
+    int length_ = 0; ///< of the text, in characters
+    /// The base class loses count where an edit takes a CR and its LF apart or joins them.
+    mutable bool indexIsStale_ = false;
+
     int depth_ = 0;
     bool changed_ = false;
     bool caretMovedByEdit_ = false;
+    /// What was inserted and deleted since assistive technology was last told; empty while there is none.
+    std::vector<TextChange> untold_;
     ByteRange lastSelection_{0, 0};
     int lastSelStart_ = 0;
     int lastSelLength_ = 0;

@@ -88,8 +88,9 @@ void RichTextBox::keyPressEvent(QKeyEvent* event) {
 void RichTextBox::PressKey(QKeyEvent* event) {
     const int pressed = VirtualKey(*event);
     int code = pressed;
-    Outside([&] { Q_EMIT KeyDown(code, ShiftState(event->modifiers())); });
-    if (pressed != 0 && code == 0)
+    if (pressed != 0)
+        Outside([&] { Q_EMIT KeyDown(code, ShiftState(event->modifiers())); });
+    if (code != pressed && code == 0)
         return;
     const int key = code == pressed ? event->key() : KeyOfVirtual(code);
     if (RunEditingKey(key, event->modifiers()))
@@ -193,7 +194,7 @@ void RichTextBox::Type(const QByteArray& text) {
     nextStyles_ = StyleRuns(static_cast<int>(text.size()), StyleAtCaret());
     // Unlike an assignment, what is typed in a row is one undo step.
     SendScintilla(SCI_ADDTEXT, static_cast<unsigned long>(text.size()), text.constData());
-    StyleIncoming();
+    TakeIncoming();
     Sci(SCI_CHOOSECARETX);
 }
 
@@ -212,6 +213,11 @@ void RichTextBox::PasteFrom(const QMimeData* source) {
         return;
     ReplaceSelection(Incorporate(source->text()));
     Sci(SCI_SCROLLCARET);
+}
+
+void RichTextBox::InsertForeign(const QString& text) {
+    const Settling settling(*this);
+    ReplaceSelection(Incorporate(text));
 }
 
 QByteArray RichTextBox::Incorporate(const QString& text) const {
@@ -257,7 +263,7 @@ QVariant RichTextBox::inputMethodQuery(Qt::InputMethodQuery query) const {
     case Qt::ImHints:
         return static_cast<int>(Qt::ImhMultiLine | Qt::ImhNoPredictiveText);
     case Qt::ImCursorRectangle:
-        return QRect(CaretPixel(), QSize(1, static_cast<int>(Sci(SCI_TEXTHEIGHT, 0))));
+        return QRect(CaretPixel(), QSize(1, LineHeight()));
     case Qt::ImFont:
         return font_;
     case Qt::ImCursorPosition:
@@ -287,7 +293,7 @@ void RichTextBox::paintEvent(QPaintEvent* event) {
     underlined.setUnderline(true);
     painter.setFont(underlined);
     const QRect line(CaretPixel(), QSize(painter.fontMetrics().horizontalAdvance(preedit_),
-                                         static_cast<int>(Sci(SCI_TEXTHEIGHT, 0))));
+                                         LineHeight()));
     painter.fillRect(line, palette().color(QPalette::Highlight));
     painter.setPen(palette().color(QPalette::HighlightedText));
     painter.drawText(line, Qt::AlignLeft | Qt::AlignVCenter, preedit_);

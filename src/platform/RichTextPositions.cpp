@@ -8,17 +8,24 @@ int RichTextBox::ByteLength() const {
 }
 
 int RichTextBox::TextLength() const {
-    return static_cast<int>(
-        Sci(SCI_INDEXPOSITIONFROMLINE, Sci(SCI_GETLINECOUNT), SC_LINECHARACTERINDEX_UTF32));
+    return length_;
 }
 
 bool RichTextBox::IsAscii() const {
-    return TextLength() == ByteLength();
+    return length_ == ByteLength();
+}
+
+void RichTextBox::FreshenIndex() const {
+    if (!std::exchange(indexIsStale_, false))
+        return;
+    Sci(SCI_RELEASELINECHARACTERINDEX, SC_LINECHARACTERINDEX_UTF32);
+    Sci(SCI_ALLOCATELINECHARACTERINDEX, SC_LINECHARACTERINDEX_UTF32);
 }
 
 int RichTextBox::CharFromByte(int byte) const {
     if (IsAscii())
         return byte;
+    FreshenIndex();
     const long line = Sci(SCI_LINEFROMPOSITION, byte);
     const long lineStart = Sci(SCI_POSITIONFROMLINE, line);
     return static_cast<int>(Sci(SCI_INDEXPOSITIONFROMLINE, line, SC_LINECHARACTERINDEX_UTF32) +
@@ -28,8 +35,9 @@ int RichTextBox::CharFromByte(int byte) const {
 int RichTextBox::ByteFromChar(int position) const {
     if (IsAscii())
         return position;
-    if (position >= TextLength())
+    if (position >= length_)
         return ByteLength();
+    FreshenIndex();
     const long line = Sci(SCI_LINEFROMINDEXPOSITION, position, SC_LINECHARACTERINDEX_UTF32);
     const long rest = position - Sci(SCI_INDEXPOSITIONFROMLINE, line, SC_LINECHARACTERINDEX_UTF32);
     const long lineStart = Sci(SCI_POSITIONFROMLINE, line);
@@ -56,6 +64,50 @@ RichTextBox::ByteRange RichTextBox::Selection() const {
 void RichTextBox::Select(int anchorByte, int caretByte) {
     Sci(SCI_SETSEL, anchorByte, caretByte);
     Sci(SCI_CHOOSECARETX);
+}
+
+int RichTextBox::CaretPosition() const {
+    return CharFromByte(static_cast<int>(Sci(SCI_GETCURRENTPOS)));
+}
+
+int RichTextBox::LineStart(int position) const {
+    const long line = GetLineFromChar(position);
+    return CharFromByte(static_cast<int>(Sci(SCI_POSITIONFROMLINE, line)));
+}
+
+int RichTextBox::NextLineStart(int position) const {
+    const long line = GetLineFromChar(position);
+    if (line + 1 >= Sci(SCI_GETLINECOUNT))
+        return TextLength();
+    return CharFromByte(static_cast<int>(Sci(SCI_POSITIONFROMLINE, line + 1)));
+}
+
+QPoint RichTextBox::PixelOfByte(long byte) const {
+    return {static_cast<int>(Sci(SCI_POINTXFROMPOSITION, 0, byte)),
+            static_cast<int>(Sci(SCI_POINTYFROMPOSITION, 0, byte))};
+}
+
+QPoint RichTextBox::CaretPixel() const {
+    return PixelOfByte(Sci(SCI_GETCURRENTPOS));
+}
+
+QRect RichTextBox::CharacterRect(int position) const {
+    const int byte = ByteFromChar(std::clamp(position, 0, TextLength()));
+    const QPoint here = PixelOfByte(byte);
+    const QPoint next = PixelOfByte(Sci(SCI_POSITIONAFTER, byte));
+    const int height = LineHeight();
+    // The last character of a line is followed by one on the next line.
+    const int width = next.y() == here.y() ? next.x() - here.x() : 1;
+    return {here, QSize(std::max(width, 1), height)};
+}
+
+int RichTextBox::PositionAt(QPoint pixel) const {
+    return CharFromByte(static_cast<int>(Sci(SCI_CHARPOSITIONFROMPOINT, pixel.x(), pixel.y())));
+}
+
+void RichTextBox::ScrollTo(int start, int end) {
+    const int all = TextLength();
+    Sci(SCI_SCROLLRANGE, ByteFromChar(std::clamp(end, 0, all)), ByteFromChar(std::clamp(start, 0, all)));
 }
 
 int RichTextBox::StyleFor(ColorNumber color) {

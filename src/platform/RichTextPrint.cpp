@@ -1,6 +1,7 @@
 // The text control: drawing the text on pages.
 #include "platform/RichTextBox.h"
 
+#include <algorithm>
 #include <QPainter>
 #include <QTextLayout>
 
@@ -39,50 +40,74 @@ QVector<QTextLayout::FormatRange> RichTextBox::PrintColors(int startByte, const 
     return formats;
 }
 
+/// The rows of a page as it fills from the top.
+class RichTextBox::PrintPage {
+  public:
+    PrintPage(QPainter& painter, const QRectF& page, bool draw)
+        : painter_(painter), page_(page), draw_(draw) {}
+
+    bool IsFull() const { return full_; }
+
+    /// Sets the rows of a stretch of text one below the other and returns how many of its characters are on
+    /// the page then. A stretch that goes on behind its end keeps its last row back: what follows may belong
+    /// to it.
+    int Fill(QTextLayout& layout, bool goesOn) {
+        int set = 0;
+        layout.beginLayout();
+        for (QTextLine row = layout.createLine(); row.isValid(); row = layout.createLine()) {
+            row.setLineWidth(page_.width());
+            const int end = row.textStart() + row.textLength();
+            if (goesOn && row.textStart() > 0 && end == layout.text().size())
+                break;
+            // A page takes at least one row, however low it is.
+            full_ = y_ > 0 && page_.top() + y_ + row.height() > page_.bottom();
+            if (full_)
+                break;
+            row.setPosition(QPointF(page_.left(), page_.top() + y_));
+            y_ += row.height();
+            set = end;
+        }
+        layout.endLayout();
+        if (draw_)
+            Draw(layout, set);
+        return set;
+    }
+
+  private:
+    void Draw(const QTextLayout& layout, int end) {
+        for (int i = 0; i < layout.lineCount(); ++i) {
+            const QTextLine row = layout.lineAt(i);
+            if (row.textStart() + row.textLength() <= end)
+                row.draw(&painter_, QPointF());
+        }
+    }
+
+    QPainter& painter_;
+    const QRectF page_;
+    const bool draw_;
+    qreal y_ = 0;
+    bool full_ = false;
+};
+
 int RichTextBox::FormatRange(bool draw, QPainter& painter, const QRectF& page, int from) {
-    const int length = TextLength();
     QTextOption option(Qt::AlignLeft | Qt::AlignTop);
     option.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
     option.setTabStopDistance(8 * QFontMetricsF(font_, painter.device()).horizontalAdvance(QLatin1Char(' ')));
-    qreal y = page.top();
-    int position = std::max(from, 0);
+    PrintPage sheet(painter, page, draw);
+    const int length = TextLength();
+    int position = std::clamp(from, 0, length);
     while (position < length) {
-        const int startByte = ByteFromChar(position);
-        const long line = Sci(SCI_LINEFROMPOSITION, startByte);
-        const int nextLine = CharFromByte(static_cast<int>(Sci(SCI_POSITIONFROMLINE, line + 1)));
-        const bool cut = nextLine - position > longestStretch;
-        QString text = TextRange(position, std::min(nextLine - position, longestStretch));
-        if (!cut)
-            text = WithoutLineEnd(text);
+        const int nextLine = NextLineStart(position);
+        const bool goesOn = nextLine - position > longestStretch;
+        const QString stretch = TextRange(position, std::min(nextLine - position, longestStretch));
+        const QString text = goesOn ? stretch : WithoutLineEnd(stretch);
         QTextLayout layout(text, font_, painter.device());
         layout.setTextOption(option);
-        layout.setFormats(PrintColors(startByte, text));
-        layout.beginLayout();
-        int drawn = 0;
-        bool full = false;
-        while (true) {
-            QTextLine row = layout.createLine();
-            if (!row.isValid())
-                break;
-            row.setLineWidth(page.width());
-            // The last row of a stretch goes on in the next one.
-            if (cut && row.textStart() > 0 && row.textStart() + row.textLength() == text.size())
-                break;
-            const bool first = y <= page.top();
-            if (y + row.height() > page.bottom() && !first) {
-                full = true;
-                break;
-            }
-            row.setPosition(QPointF(page.left(), y));
-            if (draw)
-                row.draw(&painter, QPointF());
-            y += row.height();
-            drawn = row.textStart() + row.textLength();
-        }
-        layout.endLayout();
-        if (full)
-            return position + drawn;
-        position = cut ? position + drawn : nextLine;
+        layout.setFormats(PrintColors(ByteFromChar(position), text));
+        const int set = sheet.Fill(layout, goesOn);
+        if (sheet.IsFull())
+            return position + set;
+        position = goesOn ? position + set : nextLine;
     }
     return length;
 }

@@ -1,7 +1,17 @@
 // The text control: what happens between the announcement of a change and the signals that tell of it.
 #include "platform/RichTextBox.h"
 
-#include <QPointer>
+#include <algorithm>
+#include <QAccessible>
+
+namespace {
+
+int Characters(const QByteArray& utf8) {
+    const auto starts = [](char byte) { return (byte & 0xc0) != 0x80; };
+    return static_cast<int>(std::count_if(utf8.begin(), utf8.end(), starts));
+}
+
+} // namespace
 
 RichTextBox::Settling::Settling(RichTextBox& box, bool outermost) : box_(box), outer_(box.depth_) {
     box_.depth_ = outermost ? 1 : outer_ + 1;
@@ -16,18 +26,17 @@ RichTextBox::Settling::~Settling() {
 }
 
 void RichTextBox::Settle() {
-    StyleIncoming();
+    TakeIncoming();
     HoldTypingStyle();
     const bool changed = std::exchange(changed_, false);
     const ByteRange selection = Selection();
-    if (changed) {
-        const QPointer<RichTextBox> alive(this);
-        Q_EMIT Change();
-        if (!alive)
-            return;
-    } else if (selection == lastSelection_) {
+    if (!changed && selection == lastSelection_)
         return;
-    }
+    if (QAccessible::isActive())
+        TellAssistants(selection != lastSelection_);
+    if (changed)
+        Q_EMIT Change();
+    // A handler may have moved the selection and told of it.
     lastSelection_ = Selection();
     const int start = SelStart();
     const int length = SelLength();
@@ -36,6 +45,26 @@ void RichTextBox::Settle() {
     lastSelStart_ = start;
     lastSelLength_ = length;
     Q_EMIT SelChange();
+}
+
+void RichTextBox::TellAssistants(bool caretMoved) {
+    for (const TextChange& change : std::exchange(untold_, {})) {
+        if (change.inserted) {
+            QAccessibleTextInsertEvent event(this, change.position, change.text);
+            QAccessible::updateAccessibility(&event);
+        } else {
+            QAccessibleTextRemoveEvent event(this, change.position, change.text);
+            QAccessible::updateAccessibility(&event);
+        }
+    }
+    if (!caretMoved)
+        return;
+    const int start = SelStart();
+    QAccessibleTextSelectionEvent selection(this, start, start + SelLength());
+    selection.setCursorPosition(CaretPosition());
+    QAccessible::updateAccessibility(&selection);
+    QAccessibleTextCursorEvent caret(this, CaretPosition());
+    QAccessible::updateAccessibility(&caret);
 }
 
 void RichTextBox::HoldTypingStyle() {
@@ -49,19 +78,47 @@ void RichTextBox::HoldTypingStyle() {
         typingStyle_.reset();
 }
 
-void RichTextBox::StyleIncoming() {
+void RichTextBox::TakeIncoming() {
     if (!incoming_)
         return;
-    const Incoming text = *std::exchange(incoming_, std::nullopt);
+    const Incoming incoming = *std::exchange(incoming_, std::nullopt);
+    const QByteArray text = Bytes(incoming.start, incoming.start + incoming.length);
+    CountInsertion(incoming.start, text);
+    if (QAccessible::isActive())
+        untold_.push_back({true, CharFromByte(incoming.start), QString::fromUtf8(text)});
     // What comes in has style 0 already.
-    if (text.styles.Count() > 1 || (text.styles.Count() == 1 && text.styles.StyleOf(0) != 0))
-        SetStyles(text.start, text.styles);
+    const StyleRuns& styles = incoming.styles;
+    if (styles.Count() > 1 || (styles.Count() == 1 && styles.StyleOf(0) != 0))
+        SetStyles(incoming.start, styles);
+}
+
+void RichTextBox::CountInsertion(int start, const QByteArray& text) {
+    length_ += Characters(text);
+    const long before = Sci(SCI_GETCHARAT, start - 1);
+    const long behind = Sci(SCI_GETCHARAT, start + static_cast<int>(text.size()));
+    NoteSeam(before, behind);
+    NoteSeam(before, text.front());
+    NoteSeam(text.back(), behind);
+}
+
+void RichTextBox::CountDeletion(int start, int length) {
+    const int end = start + length;
+    length_ -= IsAscii() ? length : Characters(Bytes(start, end));
+    const long before = Sci(SCI_GETCHARAT, start - 1);
+    const long behind = Sci(SCI_GETCHARAT, end);
+    NoteSeam(before, behind);
+    NoteSeam(before, Sci(SCI_GETCHARAT, start));
+    NoteSeam(Sci(SCI_GETCHARAT, end - 1), behind);
+}
+
+void RichTextBox::NoteSeam(long left, long right) {
+    indexIsStale_ = indexIsStale_ || (left == '\r' && right == '\n');
 }
 
 void RichTextBox::BeforeModification(int position, int type, int length) {
     if ((type & (SC_MOD_BEFOREINSERT | SC_MOD_BEFOREDELETE)) == 0)
         return;
-    StyleIncoming();
+    TakeIncoming();
     changed_ = true;
     if ((type & SC_MOD_BEFOREINSERT) != 0)
         BeforeInsertion(position, type, length);
@@ -85,10 +142,13 @@ void RichTextBox::BeforeInsertion(int position, int type, int length) {
         undoColors_.Append(UndoColors::Kind::Insertion, StyleRuns());
         caretMovedByEdit_ = true;
     }
-    incoming_ = Incoming{position, std::move(styles)};
+    incoming_ = Incoming{position, length, std::move(styles)};
 }
 
 void RichTextBox::BeforeDeletion(int position, int type, int length) {
+    if (QAccessible::isActive())
+        untold_.push_back({false, CharFromByte(position), TextOf({position, position + length})});
+    CountDeletion(position, length);
     StyleRuns styles = StylesOf(position, length);
     if ((type & SC_PERFORMED_UNDO) != 0) {
         if (StyleRuns* entry = undoColors_.StepBack(UndoColors::Kind::Insertion))

@@ -1,0 +1,220 @@
+// The text control for assistive technology.
+#include "platform/RichTextAccessible.h"
+
+#include "platform/RichTextBox.h"
+
+#include <algorithm>
+#include <QTextBoundaryFinder>
+
+namespace {
+
+/// How far to either side words and sentences are looked for: a line may be a megabyte.
+constexpr int context = 512;
+
+QAccessibleInterface* Create(const QString& name, QObject* object) {
+    if (name != QLatin1String(RichTextBox::staticMetaObject.className()))
+        return nullptr;
+    auto* box = qobject_cast<RichTextBox*>(object);
+    return box ? new RichTextAccessible(box) : nullptr;
+}
+
+QTextBoundaryFinder::BoundaryType FinderType(QAccessible::TextBoundaryType type) {
+    switch (type) {
+    case QAccessible::CharBoundary:
+        return QTextBoundaryFinder::Grapheme;
+    case QAccessible::SentenceBoundary:
+        return QTextBoundaryFinder::Sentence;
+    default:
+        return QTextBoundaryFinder::Word;
+    }
+}
+
+QString Rgb(ColorNumber color) {
+    return QStringLiteral("rgb(%1,%2,%3)")
+        .arg(color & 0xff)
+        .arg((color >> 8) & 0xff)
+        .arg((color >> 16) & 0xff);
+}
+
+} // namespace
+
+RichTextAccessible::RichTextAccessible(RichTextBox* box)
+    : QAccessibleWidget(box, QAccessible::EditableText), box_(box) {}
+
+void RichTextAccessible::Install() {
+    QAccessible::installFactory(Create);
+}
+
+void* RichTextAccessible::interface_cast(QAccessible::InterfaceType type) {
+    if (type == QAccessible::TextInterface)
+        return static_cast<QAccessibleTextInterface*>(this);
+    if (type == QAccessible::EditableTextInterface)
+        return static_cast<QAccessibleEditableTextInterface*>(this);
+    return QAccessibleWidget::interface_cast(type);
+}
+
+QAccessible::State RichTextAccessible::state() const {
+    QAccessible::State state = QAccessibleWidget::state();
+    state.editable = true;
+    state.multiLine = true;
+    state.selectableText = true;
+    state.focusable = true;
+    return state;
+}
+
+void RichTextAccessible::selection(int index, int* start, int* end) const {
+    const bool known = index == 0 && selectionCount() == 1;
+    *start = known ? box_->SelStart() : 0;
+    *end = known ? *start + box_->SelLength() : 0;
+}
+
+int RichTextAccessible::selectionCount() const {
+    return box_->SelLength() > 0 ? 1 : 0;
+}
+
+void RichTextAccessible::addSelection(int start, int end) {
+    setSelection(0, start, end);
+}
+
+void RichTextAccessible::removeSelection(int index) {
+    if (index == 0)
+        box_->SetSelStart(box_->CaretPosition());
+}
+
+void RichTextAccessible::setSelection(int index, int start, int end) {
+    if (index != 0)
+        return;
+    const int from = Resolve(start);
+    box_->SetSelStart(from);
+    box_->SetSelLength(std::max(Resolve(end) - from, 0));
+}
+
+int RichTextAccessible::cursorPosition() const {
+    return box_->CaretPosition();
+}
+
+void RichTextAccessible::setCursorPosition(int position) {
+    box_->SetSelStart(Resolve(position));
+}
+
+QString RichTextAccessible::text(int start, int end) const {
+    const int from = Resolve(start);
+    return box_->TextRange(from, Resolve(end) - from);
+}
+
+QString RichTextAccessible::text(QAccessible::Text which) const {
+    return QAccessibleWidget::text(which);
+}
+
+int RichTextAccessible::Resolve(int offset) const {
+    if (offset == -2)
+        return box_->CaretPosition();
+    const int count = box_->TextLength();
+    return offset == -1 ? count : std::clamp(offset, 0, count);
+}
+
+RichTextAccessible::Stretch RichTextAccessible::StretchAt(int offset,
+                                                          QAccessible::TextBoundaryType type) const {
+    if (type == QAccessible::NoBoundary)
+        return {0, box_->TextLength()};
+    const int lineStart = box_->LineStart(offset);
+    const int nextLine = box_->NextLineStart(offset);
+    if (type == QAccessible::LineBoundary || type == QAccessible::ParagraphBoundary)
+        return {lineStart, nextLine};
+    const int from = std::max(lineStart, offset - context);
+    const int to = std::min(nextLine, offset + context);
+    const QString around = box_->TextRange(from, to - from);
+    QTextBoundaryFinder finder(FinderType(type), around);
+    finder.setPosition(offset - from);
+    if (!finder.isAtBoundary())
+        finder.toPreviousBoundary();
+    const qsizetype start = std::max<qsizetype>(finder.position(), 0);
+    const qsizetype end = finder.toNextBoundary();
+    return {from + static_cast<int>(start), end < 0 ? to : from + static_cast<int>(end)};
+}
+
+bool RichTextAccessible::IsBlank(Stretch stretch) const {
+    return box_->TextRange(stretch.start, std::min(stretch.end - stretch.start, context)).trimmed().isEmpty();
+}
+
+QString RichTextAccessible::Tell(Stretch stretch, int* start, int* end) const {
+    *start = stretch.start;
+    *end = stretch.end;
+    return box_->TextRange(stretch.start, stretch.end - stretch.start);
+}
+
+QString RichTextAccessible::textAtOffset(int offset, QAccessible::TextBoundaryType type, int* start,
+                                         int* end) const {
+    return Tell(StretchAt(Resolve(offset), type), start, end);
+}
+
+QString RichTextAccessible::textBeforeOffset(int offset, QAccessible::TextBoundaryType type, int* start,
+                                             int* end) const {
+    Stretch stretch = StretchAt(Resolve(offset), type);
+    do {
+        if (stretch.start == 0 || type == QAccessible::NoBoundary)
+            return Tell({0, 0}, start, end);
+        stretch = StretchAt(stretch.start - 1, type);
+    } while (type == QAccessible::WordBoundary && IsBlank(stretch));
+    return Tell(stretch, start, end);
+}
+
+QString RichTextAccessible::textAfterOffset(int offset, QAccessible::TextBoundaryType type, int* start,
+                                            int* end) const {
+    const int count = box_->TextLength();
+    Stretch stretch = StretchAt(Resolve(offset), type);
+    do {
+        if (stretch.end >= count || type == QAccessible::NoBoundary)
+            return Tell({count, count}, start, end);
+        stretch = StretchAt(stretch.end, type);
+    } while (type == QAccessible::WordBoundary && IsBlank(stretch));
+    return Tell(stretch, start, end);
+}
+
+int RichTextAccessible::characterCount() const {
+    return box_->TextLength();
+}
+
+QRect RichTextAccessible::characterRect(int offset) const {
+    const QRect inside = box_->CharacterRect(Resolve(offset));
+    return {box_->viewport()->mapToGlobal(inside.topLeft()), inside.size()};
+}
+
+int RichTextAccessible::offsetAtPoint(const QPoint& point) const {
+    const QPoint inside = box_->viewport()->mapFromGlobal(point);
+    return box_->viewport()->rect().contains(inside) ? box_->PositionAt(inside) : -1;
+}
+
+void RichTextAccessible::scrollToSubstring(int start, int end) {
+    box_->ScrollTo(Resolve(start), Resolve(end));
+}
+
+QString RichTextAccessible::attributes(int offset, int* start, int* end) const {
+    const int at = Resolve(offset);
+    const ColorNumber color = box_->ColorAt(at);
+    *start = *end = at;
+    if (color < 0)
+        return QString();
+    while (*start > std::max(at - context, 0) && box_->ColorAt(*start - 1) == color)
+        --*start;
+    while (*end < at + context && box_->ColorAt(*end) == color)
+        ++*end;
+    return QStringLiteral("color:%1;background-color:%2;font-family:\"%3\";font-size:%4pt;")
+        .arg(Rgb(color), Rgb(box_->BackColor()), box_->Font().family())
+        .arg(box_->Font().pointSizeF());
+}
+
+void RichTextAccessible::deleteText(int start, int end) {
+    replaceText(start, end, QString());
+}
+
+void RichTextAccessible::insertText(int offset, const QString& text) {
+    replaceText(offset, offset, text);
+}
+
+void RichTextAccessible::replaceText(int start, int end, const QString& text) {
+    if (!box_->Enabled())
+        return;
+    setSelection(0, start, end);
+    box_->InsertForeign(text);
+}

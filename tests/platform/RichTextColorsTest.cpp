@@ -1,0 +1,184 @@
+// One colour a character: what sets it, what text takes it, how it is shown.
+#include "platform/RichTextFixture.h"
+
+namespace {
+
+using RichTextColorsTest = RichTextFixture;
+using namespace Qt::StringLiterals;
+
+const QString table =
+    u"{{\\colortbl ;\\red255\\green0\\blue0;\\red0\\green255\\blue0;\\red0\\green0\\blue255;}"_s;
+
+TEST_F(RichTextColorsTest, SelRtfWritesColoredTextAtTheSelection) {
+    box.SetText(u"[sel]"_s);
+    Select(1, 3);
+    box.SetSelRTF(table + u"\\cf1 <B>\\cf0 x\\cf3 é\\cf2 </B>}"_s);
+    EXPECT_EQ(box.Text(), u"[<B>xé</B>]"_s);
+    EXPECT_EQ(Colors(), u"krrrkbggggk"_s);
+    EXPECT_EQ(box.SelStart(), 10);
+    EXPECT_EQ(box.SelLength(), 0);
+}
+
+TEST_F(RichTextColorsTest, RawLineEndsInRtfFollowTheMode) {
+    box.SetRawLineEndMode(RawLineEnds::Keep);
+    box.SetSelRTF(table + u"a\nb\\par c}"_s);
+    EXPECT_EQ(box.Text(), u"a\nb\r\nc"_s);
+    box.SetText(QString());
+    box.SetRawLineEndMode(RawLineEnds::Skip);
+    box.SetSelRTF(table + u"a\nb\\par c}"_s);
+    EXPECT_EQ(box.Text(), u"ab\r\nc"_s);
+}
+
+TEST_F(RichTextColorsTest, RtfThatHoldsNothingDeletesTheSelection) {
+    box.SetText(u"abc"_s);
+    Select(1, 1);
+    Signalled();
+    box.SetSelRTF(table + u"\\cf1 }"_s);
+    EXPECT_EQ(box.Text(), u"ac"_s);
+    EXPECT_EQ(Signalled(), (QStringList{u"Change"_s, u"SelChange"_s}));
+    box.SetSelRTF(table + u"\\cf1 }"_s);
+    EXPECT_EQ(Signalled(), QStringList());
+}
+
+TEST_F(RichTextColorsTest, SelRtfReadsBackWhatItGives) {
+    Put(u"a\\{é}\r\n€\nx"_s, u"krgbrrgkbb"_s);
+    Select(0, 10);
+    const QString rtf = box.SelRTF();
+    box.SetText(QString());
+    box.SetSelRTF(rtf);
+    EXPECT_EQ(box.Text(), u"a\\{é}\r\n€\nx"_s);
+    EXPECT_EQ(Colors(), u"krgbrrgkbb"_s);
+}
+
+TEST_F(RichTextColorsTest, SelColorIsThatOfTheSelectionsFirstCharacter) {
+    Put(u"abc"_s, u"rgb"_s);
+    Select(1, 2);
+    EXPECT_EQ(box.SelColor(), green);
+    box.SetSelColor(red);
+    EXPECT_EQ(Colors(), u"rrr"_s);
+    EXPECT_EQ(box.SelText(), u"bc"_s);
+}
+
+TEST_F(RichTextColorsTest, TextTakesTheColorInFrontOfTheCaret) {
+    Put(u"ab"_s, u"rg"_s);
+    box.SetSelStart(1);
+    EXPECT_EQ(box.SelColor(), red);
+    box.SetSelText(u"é"_s);
+    EXPECT_EQ(Colors(), u"rrg"_s);
+    box.SetSelStart(0);
+    EXPECT_EQ(box.SelColor(), red) << "at the start that of the character behind the caret";
+    box.SetText(QString());
+    EXPECT_EQ(box.SelColor(), 0) << "in an empty text the control's own";
+}
+
+TEST_F(RichTextColorsTest, ReplacedTextKeepsTheColorOfTheSelectionsStart) {
+    Put(u"abcd"_s, u"rgbk"_s);
+    Select(1, 2);
+    box.SetSelText(u"xyz"_s);
+    EXPECT_EQ(Colors(), u"rgggk"_s);
+}
+
+TEST_F(RichTextColorsTest, ColorAtTheCaretHoldsUntilTheCaretMovesAway) {
+    Put(u"ab"_s, u"rr"_s);
+    box.SetSelColor(blue);
+    EXPECT_EQ(box.SelColor(), blue);
+    Type("x");
+    box.SetSelText(u"y"_s);
+    Press(Qt::Key_Backspace);
+    Press(Qt::Key_Backspace);
+    Press(Qt::Key_Backspace);
+    Type("z");
+    EXPECT_EQ(box.Text(), u"az"_s);
+    EXPECT_EQ(Colors(), u"rb"_s) << "held over typing, assigning and deleting";
+    box.SetSelColor(green);
+    Press(Qt::Key_Left);
+    Press(Qt::Key_Right);
+    EXPECT_EQ(box.SelColor(), blue) << "gone once the caret moved";
+}
+
+TEST_F(RichTextColorsTest, AssigningTheTextWritesInTheColorAtTheCaret) {
+    Put(u"abc"_s, u"rgb"_s);
+    box.SetSelStart(2);
+    box.SetText(u"new"_s);
+    EXPECT_EQ(Colors(), u"ggg"_s);
+    box.SetSelColor(blue);
+    box.SetText(u"é"_s);
+    EXPECT_EQ(Colors(), u"b"_s);
+}
+
+TEST_F(RichTextColorsTest, ColorsOutsideTheTextAreNone) {
+    box.SetText(u"a"_s);
+    EXPECT_EQ(box.ColorAt(-1), -1);
+    EXPECT_EQ(box.ColorAt(1), -1);
+    EXPECT_EQ(box.ColorAt(0), 0);
+}
+
+TEST_F(RichTextColorsTest, HundredsOfColorsEndInTheNearestOne) {
+    QString text;
+    for (int i = 0; i < 400; ++i) {
+        box.SetSelColor(i * 7);
+        box.SetSelText(u"x"_s);
+    }
+    EXPECT_EQ(box.ColorAt(0), 0);
+    EXPECT_EQ(box.ColorAt(200), 1400);
+    // 247 colours fit beside black; the rest is shown in one that exists.
+    const int last = box.ColorAt(399);
+    EXPECT_EQ(last % 7, 0);
+    EXPECT_LE(last, 247 * 7);
+    EXPECT_GT(last, 0);
+}
+
+TEST_F(RichTextColorsTest, CharactersArePaintedInTheirColors) {
+    QFont font = box.Font();
+    font.setPointSize(40);
+    box.SetFont(font);
+    Put(u"MMMM"_s, u"rrrr"_s);
+    box.clearFocus();
+    const QImage image = box.viewport()->grab().toImage();
+    const QRect letter = box.CharacterRect(1);
+    int reds = 0;
+    for (int x = letter.left(); x < letter.right(); ++x) {
+        for (int y = letter.top(); y < letter.bottom(); ++y)
+            reds += image.pixelColor(x, y) == QColor(255, 0, 0) ? 1 : 0;
+    }
+    EXPECT_GT(reds, 20);
+}
+
+TEST_F(RichTextColorsTest, BackColorFillsTheControl) {
+    EXPECT_EQ(box.BackColor(), 0xffffff);
+    box.SetBackColor(0x804020);
+    const QImage image = box.viewport()->grab().toImage();
+    EXPECT_EQ(image.pixelColor(300, 300), QColor(0x20, 0x40, 0x80));
+}
+
+TEST_F(RichTextColorsTest, CaretStandsOutFromTheBackground) {
+    const auto caret = [&] { return box.SendScintilla(QsciScintillaBase::SCI_GETCARETFORE); };
+    box.SetBackColor(0);
+    EXPECT_EQ(caret(), 0xffffff);
+    box.SetBackColor(0xffffff);
+    EXPECT_EQ(caret(), 0);
+}
+
+TEST_F(RichTextColorsTest, ANewFontKeepsTheColors) {
+    Put(u"abc"_s, u"rgb"_s);
+    box.SetFont(QFont(u"Courier"_s, 20));
+    EXPECT_EQ(Colors(), u"rgb"_s);
+    const long style = box.SendScintilla(QsciScintillaBase::SCI_GETSTYLEAT, 0);
+    EXPECT_EQ(box.SendScintilla(QsciScintillaBase::SCI_STYLEGETFORE, style), red);
+    EXPECT_EQ(box.SendScintilla(QsciScintillaBase::SCI_STYLEGETSIZE, style), 20);
+}
+
+TEST_F(RichTextColorsTest, RightMarginSwitchesWrapping) {
+    box.SetText(QString(400, u'x') + u" "_s + QString(400, u'y'));
+    box.SetSelStart(801);
+    box.grab();
+    EXPECT_GT(box.CaretPixel().y(), 0) << "wrapped at the window's edge";
+    box.SetRightMargin(65000);
+    box.grab();
+    EXPECT_EQ(box.CaretPixel().y(), 0);
+    box.SetRightMargin(0);
+    box.grab();
+    EXPECT_GT(box.CaretPixel().y(), 0);
+}
+
+} // namespace

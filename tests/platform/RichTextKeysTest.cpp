@@ -1,0 +1,487 @@
+// Keys and input methods: what they type, what they move, what handlers make of them.
+#include "platform/RichTextFixture.h"
+
+#include "platform/RichTextKeys.h"
+
+#include <QClipboard>
+
+namespace {
+
+using namespace Qt::StringLiterals;
+
+class RichTextKeysTest : public RichTextFixture {
+  protected:
+    RichTextKeysTest() {
+        QObject::connect(&box, &RichTextBox::KeyDown, &box, [this](int& code, int shift) {
+            keys << u"down %1 %2"_s.arg(code).arg(shift);
+            if (onDown)
+                onDown(code);
+        });
+        QObject::connect(&box, &RichTextBox::KeyPress, &box, [this](int& code) {
+            keys << u"press %1"_s.arg(code);
+            if (onPress)
+                onPress(code);
+        });
+    }
+
+    QStringList Keys() { return std::exchange(keys, {}); }
+
+    QStringList keys;
+    std::function<void(int&)> onDown;
+    std::function<void(int&)> onPress;
+};
+
+struct KeyRow {
+    const char* name;
+    int key;
+    Qt::KeyboardModifiers modifiers;
+    QString text;
+    QStringList told;
+    QString result; ///< of the text "ab|cd" with the caret at the bar
+};
+
+void PrintTo(const KeyRow& row, std::ostream* out) {
+    *out << row.name;
+}
+
+class RichTextKeyRows : public RichTextKeysTest, public testing::WithParamInterface<KeyRow> {};
+
+TEST_P(RichTextKeyRows, Tells) {
+    const KeyRow& row = GetParam();
+    box.SetText(u"ab cd"_s);
+    box.SetSelStart(2);
+    PressText(row.text, row.key, row.modifiers);
+    EXPECT_EQ(Keys(), row.told);
+    QString result = box.Text();
+    result.insert(box.CaretPosition(), u'|');
+    EXPECT_EQ(result, row.result);
+}
+
+const KeyRow keyRows[] = {
+    {"letter", Qt::Key_X, Qt::NoModifier, u"x"_s, {u"down 88 0"_s, u"press 120"_s}, u"abx| cd"_s},
+    {"capital", Qt::Key_X, Qt::ShiftModifier, u"X"_s, {u"down 88 1"_s, u"press 88"_s}, u"abX| cd"_s},
+    {"digit", Qt::Key_1, Qt::NoModifier, u"1"_s, {u"down 49 0"_s, u"press 49"_s}, u"ab1| cd"_s},
+    {"shifted digit",
+     Qt::Key_Exclam,
+     Qt::ShiftModifier,
+     u"!"_s,
+     {u"down 49 1"_s, u"press 33"_s},
+     u"ab!| cd"_s},
+    {"keypad digit", Qt::Key_7, Qt::KeypadModifier, u"7"_s, {u"down 103 0"_s, u"press 55"_s}, u"ab7| cd"_s},
+    {"greater", Qt::Key_Greater, Qt::ShiftModifier, u">"_s, {u"down 190 1"_s, u"press 62"_s}, u"ab>| cd"_s},
+    {"blank", Qt::Key_Space, Qt::NoModifier, u" "_s, {u"down 32 0"_s, u"press 32"_s}, u"ab | cd"_s},
+    {"accent", Qt::Key_Eacute, Qt::NoModifier, u"é"_s, {u"press 233"_s}, u"abé| cd"_s},
+    {"euro", Qt::Key_E, Qt::GroupSwitchModifier, u"€"_s, {u"down 69 0"_s, u"press 128"_s}, u"ab€| cd"_s},
+    {"AltGr told as both",
+     Qt::Key_Q,
+     Qt::ControlModifier | Qt::AltModifier,
+     u"@"_s,
+     {u"down 81 6"_s, u"press 64"_s},
+     u"ab@| cd"_s},
+    {"outside the code page", Qt::Key_unknown, Qt::NoModifier, u"☃"_s, {}, u"ab&#9731;| cd"_s},
+    {"pair", Qt::Key_unknown, Qt::NoModifier, u"😀"_s, {}, u"ab&#128512;| cd"_s},
+    {"letter and accent apart",
+     Qt::Key_unknown,
+     Qt::NoModifier,
+     u"e\u0301"_s,
+     {u"press 233"_s},
+     u"abé| cd"_s},
+    {"enter", Qt::Key_Return, Qt::NoModifier, u"\r"_s, {u"down 13 0"_s, u"press 13"_s}, u"ab\r\n| cd"_s},
+    {"keypad enter",
+     Qt::Key_Enter,
+     Qt::KeypadModifier,
+     u"\r"_s,
+     {u"down 13 0"_s, u"press 13"_s},
+     u"ab\r\n| cd"_s},
+    {"shift enter",
+     Qt::Key_Return,
+     Qt::ShiftModifier,
+     u"\r"_s,
+     {u"down 13 1"_s, u"press 13"_s},
+     u"ab\r\n| cd"_s},
+    {"tab", Qt::Key_Tab, Qt::NoModifier, u"\t"_s, {u"down 9 0"_s, u"press 9"_s}, u"ab\t| cd"_s},
+    {"backspace", Qt::Key_Backspace, Qt::NoModifier, u"\b"_s, {u"down 8 0"_s, u"press 8"_s}, u"a| cd"_s},
+    {"escape", Qt::Key_Escape, Qt::NoModifier, u"\x1b"_s, {u"down 27 0"_s, u"press 27"_s}, u"ab| cd"_s},
+    {"delete", Qt::Key_Delete, Qt::NoModifier, u"\x7f"_s, {u"down 46 0"_s}, u"ab|cd"_s},
+    {"left", Qt::Key_Left, Qt::NoModifier, QString(), {u"down 37 0"_s}, u"a|b cd"_s},
+    {"up", Qt::Key_Up, Qt::NoModifier, QString(), {u"down 38 0"_s}, u"ab| cd"_s},
+    {"right", Qt::Key_Right, Qt::NoModifier, QString(), {u"down 39 0"_s}, u"ab |cd"_s},
+    {"down", Qt::Key_Down, Qt::NoModifier, QString(), {u"down 40 0"_s}, u"ab| cd"_s},
+    {"home", Qt::Key_Home, Qt::NoModifier, QString(), {u"down 36 0"_s}, u"|ab cd"_s},
+    {"end", Qt::Key_End, Qt::NoModifier, QString(), {u"down 35 0"_s}, u"ab cd|"_s},
+    {"ctrl left", Qt::Key_Left, Qt::ControlModifier, QString(), {u"down 37 2"_s}, u"|ab cd"_s},
+    {"ctrl right", Qt::Key_Right, Qt::ControlModifier, QString(), {u"down 39 2"_s}, u"ab |cd"_s},
+    {"ctrl home", Qt::Key_Home, Qt::ControlModifier, QString(), {u"down 36 2"_s}, u"|ab cd"_s},
+    {"ctrl end", Qt::Key_End, Qt::ControlModifier, QString(), {u"down 35 2"_s}, u"ab cd|"_s},
+    {"page up", Qt::Key_PageUp, Qt::NoModifier, QString(), {u"down 33 0"_s}, u"|ab cd"_s},
+    {"page down", Qt::Key_PageDown, Qt::NoModifier, QString(), {u"down 34 0"_s}, u"ab cd|"_s},
+    {"ctrl backspace", Qt::Key_Backspace, Qt::ControlModifier, u"\x7f"_s, {u"down 8 2"_s}, u"| cd"_s},
+    {"ctrl delete", Qt::Key_Delete, Qt::ControlModifier, QString(), {u"down 46 2"_s}, u"ab|cd"_s},
+    {"function key", Qt::Key_F5, Qt::NoModifier, QString(), {u"down 116 0"_s}, u"ab| cd"_s},
+    {"ctrl alone", Qt::Key_Control, Qt::ControlModifier, QString(), {u"down 17 2"_s}, u"ab| cd"_s},
+    {"ctrl digit", Qt::Key_1, Qt::ControlModifier, u"1"_s, {u"down 49 2"_s}, u"ab| cd"_s},
+    {"ctrl zero", Qt::Key_0, Qt::ControlModifier, u"0"_s, {u"down 48 2"_s}, u"ab| cd"_s},
+    {"ctrl letter", Qt::Key_B, Qt::ControlModifier, u"\x02"_s, {u"down 66 2"_s, u"press 2"_s}, u"ab| cd"_s},
+    {"ctrl i is no tab",
+     Qt::Key_I,
+     Qt::ControlModifier,
+     u"\t"_s,
+     {u"down 73 2"_s, u"press 9"_s},
+     u"ab| cd"_s},
+    {"ctrl d duplicates nothing",
+     Qt::Key_D,
+     Qt::ControlModifier,
+     u"\x04"_s,
+     {u"down 68 2"_s, u"press 4"_s},
+     u"ab| cd"_s},
+    {"ctrl l cuts no line",
+     Qt::Key_L,
+     Qt::ControlModifier,
+     u"\x0c"_s,
+     {u"down 76 2"_s, u"press 12"_s},
+     u"ab| cd"_s},
+    {"alt letter is a menu's", Qt::Key_F, Qt::AltModifier, u"f"_s, {u"down 70 4"_s}, u"ab| cd"_s},
+    {"insert types nothing", Qt::Key_Insert, Qt::NoModifier, QString(), {u"down 45 0"_s}, u"ab| cd"_s},
+};
+
+INSTANTIATE_TEST_SUITE_P(Rows, RichTextKeyRows, testing::ValuesIn(keyRows));
+
+TEST_F(RichTextKeysTest, TheRowOfDigitsIsKnownByItsPlace) {
+    // As on a French keyboard, where the key of the 1 types an ampersand.
+    QKeyEvent press(QEvent::KeyPress, Qt::Key_Ampersand, Qt::ControlModifier, 10, 0, 0, u"&"_s);
+    QApplication::sendEvent(&box, &press);
+    EXPECT_EQ(Keys(), QStringList{u"down 49 2"_s});
+}
+
+TEST_F(RichTextKeysTest, ShiftMovesExtendTheSelection) {
+    box.SetText(u"ab cd\r\nef"_s);
+    Press(Qt::Key_Right, Qt::ShiftModifier);
+    EXPECT_EQ(box.SelText(), u"a"_s);
+    Press(Qt::Key_Right, Qt::ControlModifier | Qt::ShiftModifier);
+    EXPECT_EQ(box.SelText(), u"ab "_s);
+    Press(Qt::Key_End, Qt::ShiftModifier);
+    EXPECT_EQ(box.SelText(), u"ab cd"_s);
+    Press(Qt::Key_Right, Qt::ShiftModifier);
+    EXPECT_EQ(box.SelText(), u"ab cd\r\n"_s) << "a line end is one step";
+    Press(Qt::Key_End, Qt::ControlModifier | Qt::ShiftModifier);
+    EXPECT_EQ(box.SelText(), box.Text());
+    Press(Qt::Key_Home);
+    Press(Qt::Key_A, Qt::ControlModifier);
+    EXPECT_EQ(box.SelText(), box.Text());
+}
+
+TEST_F(RichTextKeysTest, DeletingTakesALineEndWhole) {
+    for (const QString& end : {u"\r\n"_s, u"\n"_s, u"\r"_s}) {
+        box.SetText(u"a"_s + end + u"b"_s);
+        box.SetSelStart(1);
+        Press(Qt::Key_Delete);
+        EXPECT_EQ(box.Text(), u"ab"_s);
+        box.SetText(u"a"_s + end + u"b"_s);
+        box.SetSelStart(1 + static_cast<int>(end.size()));
+        Press(Qt::Key_Backspace);
+        EXPECT_EQ(box.Text(), u"ab"_s);
+    }
+}
+
+TEST_F(RichTextKeysTest, DeletingKeysTakeTheSelectionOnly) {
+    for (const auto& [key, modifiers] : std::initializer_list<std::pair<Qt::Key, Qt::KeyboardModifiers>>{
+             {Qt::Key_Delete, Qt::NoModifier},
+             {Qt::Key_Delete, Qt::ControlModifier},
+             {Qt::Key_Backspace, Qt::NoModifier},
+             {Qt::Key_Backspace, Qt::ControlModifier}}) {
+        box.SetText(u"one two three"_s);
+        Select(4, 3);
+        Press(key, modifiers);
+        EXPECT_EQ(box.Text(), u"one  three"_s);
+    }
+}
+
+TEST_F(RichTextKeysTest, EnterWritesTheDocumentsOwnLineEnd) {
+    for (const QString& end : {u"\r\n"_s, u"\n"_s, u"\r"_s}) {
+        box.SetText(u"a"_s + end + u"b"_s);
+        box.SetSelStart(box.TextLength());
+        Press(Qt::Key_Return);
+        EXPECT_EQ(box.Text(), u"a"_s + end + u"b"_s + end);
+    }
+}
+
+TEST_F(RichTextKeysTest, AKeyTellsOfChangeAndSelectionOnceAndAfterwards) {
+    QString seen;
+    QObject::connect(&box, &RichTextBox::Change, &box, [&] { seen = box.Text(); });
+    Signalled();
+    Type("x");
+    EXPECT_EQ(Signalled(), (QStringList{u"Change"_s, u"SelChange"_s}));
+    EXPECT_EQ(seen, u"x"_s);
+    Press(Qt::Key_Left);
+    EXPECT_EQ(Signalled(), QStringList{u"SelChange"_s});
+    Press(Qt::Key_Left);
+    EXPECT_EQ(Signalled(), QStringList());
+    Press(Qt::Key_Delete);
+    EXPECT_EQ(Signalled(), QStringList{u"Change"_s}) << "the caret stays where it is";
+    Press(Qt::Key_Delete);
+    EXPECT_EQ(Signalled(), QStringList());
+}
+
+TEST_F(RichTextKeysTest, TypingReplacesTheSelectionAsOneStep) {
+    Put(u"abcd"_s, u"rggr"_s);
+    Select(1, 2);
+    Type("x");
+    EXPECT_EQ(box.Text(), u"axd"_s);
+    EXPECT_EQ(Colors(), u"rgr"_s);
+    EXPECT_EQ(Signalled().count(u"Change"_s), 1);
+    Undo();
+    EXPECT_EQ(box.Text(), u"abcd"_s);
+    EXPECT_EQ(Colors(), u"rggr"_s);
+}
+
+// --- handlers
+
+TEST_F(RichTextKeysTest, AHandlerSwallowsAKey) {
+    box.SetText(u"abc"_s);
+    Signalled();
+    onPress = [](int& code) { code = 0; };
+    Type("x");
+    Press(Qt::Key_Return);
+    Press(Qt::Key_Backspace);
+    Press(Qt::Key_Tab);
+    EXPECT_EQ(box.Text(), u"abc"_s);
+    EXPECT_EQ(Signalled(), QStringList());
+    onPress = nullptr;
+    Keys();
+    onDown = [](int& code) { code = 0; };
+    Type("x");
+    Press(Qt::Key_Right);
+    Press(Qt::Key_Delete);
+    EXPECT_EQ(box.Text(), u"abc"_s);
+    EXPECT_EQ(box.SelStart(), 0);
+    EXPECT_EQ(Keys(), (QStringList{u"down 88 0"_s, u"down 39 0"_s, u"down 46 0"_s}))
+        << "and no press follows";
+}
+
+TEST_F(RichTextKeysTest, AHandlerTypesAnotherCharacter) {
+    onPress = [](int& code) { code = code == 120 ? 128 : code; };
+    Type("xy");
+    EXPECT_EQ(box.Text(), u"€y"_s);
+    onPress = [](int& code) { code = 13; };
+    Type("z");
+    EXPECT_EQ(box.Text(), u"€y\r\n"_s);
+    onPress = [](int& code) { code = 8; };
+    Type("z");
+    EXPECT_EQ(box.Text(), u"€y"_s);
+    onPress = [](int& code) { code = 65; };
+    Press(Qt::Key_Backspace);
+    Press(Qt::Key_B, Qt::ControlModifier);
+    EXPECT_EQ(box.Text(), u"€yAA"_s);
+    onPress = [](int& code) { code = 400; };
+    Type("z");
+    EXPECT_EQ(box.Text(), u"€yAA"_s) << "a code outside the code page types nothing";
+}
+
+TEST_F(RichTextKeysTest, AHandlerTurnsAKeyIntoAnother) {
+    box.SetText(u"abc"_s);
+    onDown = [](int& code) { code = code == 39 ? 35 : code; };
+    Press(Qt::Key_Right);
+    EXPECT_EQ(box.SelStart(), 3);
+}
+
+TEST_F(RichTextKeysTest, AHandlerMayWriteBeforeTheCharacterGoesIn) {
+    QStringList order;
+    QObject::connect(&box, &RichTextBox::Change, &box, [&] { order << box.Text(); });
+    onPress = [this](int&) { box.SetSelText(u"[é]"_s); };
+    Type("x");
+    EXPECT_EQ(order, (QStringList{u"[é]"_s, u"[é]x"_s})) << "each tells of itself when it is done";
+    order.clear();
+    onPress = [this](int& code) {
+        box.SetSelText(u"&eacute;"_s);
+        code = 0;
+    };
+    Type("y");
+    EXPECT_EQ(order, QStringList{u"[é]x&eacute;"_s});
+}
+
+TEST_F(RichTextKeysTest, AHandlersSelectionIsReplacedByTheCharacter) {
+    box.SetText(u"abc"_s);
+    onPress = [this](int&) { Select(0, 3); };
+    Type("x");
+    EXPECT_EQ(box.Text(), u"x"_s);
+}
+
+TEST_F(RichTextKeysTest, AHandlersColorIsThatOfTheCharacter) {
+    Put(u"<b>"_s, u"ggg"_s);
+    onPress = [this](int&) { box.SetSelColor(red); };
+    Type("x");
+    EXPECT_EQ(Colors(), u"gggr"_s);
+}
+
+// --- the clipboard's keys
+
+TEST_F(RichTextKeysTest, CopyLeavesWithTheDesktopsLineEnds) {
+#ifdef Q_OS_WIN
+    const QString desktop = u"a\r\nb\r\nc\r\né"_s;
+#else
+    const QString desktop = u"a\nb\nc\né"_s;
+#endif
+    box.SetText(u"a\r\nb\rc\né"_s);
+    Press(Qt::Key_A, Qt::ControlModifier);
+    Press(Qt::Key_C, Qt::ControlModifier);
+    EXPECT_EQ(QApplication::clipboard()->text(), desktop);
+    QApplication::clipboard()->setText(u"other"_s);
+    Press(Qt::Key_Insert, Qt::ControlModifier);
+    EXPECT_EQ(QApplication::clipboard()->text(), desktop);
+    QApplication::clipboard()->setText(u"other"_s);
+    box.SetSelStart(0);
+    Press(Qt::Key_C, Qt::ControlModifier);
+    Press(Qt::Key_X, Qt::ControlModifier);
+    EXPECT_EQ(QApplication::clipboard()->text(), u"other"_s) << "nothing selected, nothing copied";
+}
+
+TEST_F(RichTextKeysTest, CutTakesTheSelectionAway) {
+    Put(u"abc"_s, u"rgb"_s);
+    Select(1, 1);
+    Press(Qt::Key_X, Qt::ControlModifier);
+    EXPECT_EQ(box.Text(), u"ac"_s);
+    EXPECT_EQ(QApplication::clipboard()->text(), u"b"_s);
+    Undo();
+    EXPECT_EQ(Colors(), u"rgb"_s);
+    Select(0, 1);
+    Press(Qt::Key_Delete, Qt::ShiftModifier);
+    EXPECT_EQ(QApplication::clipboard()->text(), u"a"_s);
+}
+
+TEST_F(RichTextKeysTest, PasteTakesTheDocumentsLineEndsAndCharacters) {
+    QApplication::clipboard()->setText(u"1\r\n2\n3\r4 ☃ é e\u0301 😀"_s);
+    for (const QString& end : {u"\r\n"_s, u"\n"_s, u"\r"_s}) {
+        box.SetText(u"a"_s + end);
+        box.SetSelStart(box.TextLength());
+        Press(Qt::Key_V, Qt::ControlModifier);
+        EXPECT_EQ(box.Text(),
+                  u"a%1"_s.arg(end) + u"1%12%13%14 &#9731; é é &#128512;"_s.replace(u"%1"_s, end));
+    }
+}
+
+TEST_F(RichTextKeysTest, PasteIsOneStepInTheColorAtTheCaret) {
+    Put(u"abc"_s, u"rgb"_s);
+    Select(1, 1);
+    QApplication::clipboard()->setText(u"xy\nz"_s);
+    Press(Qt::Key_Insert, Qt::ShiftModifier);
+    EXPECT_EQ(box.Text(), u"axy\r\nzc"_s);
+    EXPECT_EQ(Colors(), u"rgggggb"_s);
+    EXPECT_EQ(Signalled().count(u"Change"_s), 1);
+    Undo();
+    EXPECT_EQ(box.Text(), u"abc"_s);
+    EXPECT_EQ(Colors(), u"rgb"_s);
+    EXPECT_FALSE(CanUndo());
+}
+
+TEST_F(RichTextKeysTest, MessagesDoWhatTheKeysDo) {
+    EXPECT_FALSE(CanUndo());
+    box.SetSelText(u"abc"_s);
+    EXPECT_TRUE(CanUndo());
+    Select(0, 2);
+    EXPECT_EQ(box.Send(RichTextBox::Message::Copy), 0);
+    box.SetSelStart(3);
+    EXPECT_EQ(box.Send(RichTextBox::Message::Paste), 0);
+    EXPECT_EQ(box.Text(), u"abcab"_s);
+    Select(0, 1);
+    EXPECT_EQ(box.Send(RichTextBox::Message::Cut), 0);
+    EXPECT_EQ(box.Text(), u"bcab"_s);
+    EXPECT_EQ(box.Send(RichTextBox::Message::Undo), 0);
+    EXPECT_EQ(box.Text(), u"abcab"_s);
+}
+
+TEST_F(RichTextKeysTest, AltBackspaceUndoes) {
+    box.SetSelText(u"abc"_s);
+    Press(Qt::Key_Backspace, Qt::AltModifier);
+    EXPECT_EQ(box.Text(), QString());
+}
+
+// --- input methods
+
+TEST_F(RichTextKeysTest, AnInputMethodCommitsCharacterByCharacter) {
+    box.SetText(u"ab"_s);
+    Select(1, 1);
+    QInputMethodEvent event;
+    event.setCommitString(u"é☃x"_s);
+    QApplication::sendEvent(&box, &event);
+    EXPECT_EQ(Keys(), (QStringList{u"press 233"_s, u"press 120"_s}));
+    EXPECT_EQ(box.Text(), u"aé&#9731;x"_s);
+    EXPECT_EQ(box.SelStart(), 10);
+}
+
+TEST_F(RichTextKeysTest, WhatIsBeingComposedIsNoText) {
+    box.SetText(u"ab"_s);
+    Signalled();
+    QInputMethodEvent compose(u"かな"_s, {});
+    QApplication::sendEvent(&box, &compose);
+    EXPECT_EQ(box.Text(), u"ab"_s);
+    EXPECT_EQ(Signalled(), QStringList());
+    const QImage composing = box.viewport()->grab().toImage();
+    QInputMethodEvent commit;
+    commit.setCommitString(u"k"_s);
+    QApplication::sendEvent(&box, &commit);
+    EXPECT_EQ(box.Text(), u"kab"_s);
+    EXPECT_EQ(Signalled(), (QStringList{u"Change"_s, u"SelChange"_s}));
+    EXPECT_NE(composing, box.viewport()->grab().toImage());
+}
+
+TEST_F(RichTextKeysTest, AnInputMethodMayReplaceWhatStandsThere) {
+    box.SetText(u"teh x"_s);
+    box.SetSelStart(3);
+    QInputMethodEvent event;
+    event.setCommitString(u"the"_s, -3, 3);
+    QApplication::sendEvent(&box, &event);
+    EXPECT_EQ(box.Text(), u"the x"_s);
+}
+
+TEST_F(RichTextKeysTest, AnInputMethodSeesTheTextAroundTheCaret) {
+    box.SetText(u"é"_s + QString(5000, u'x') + u"ab|cd"_s);
+    box.SetSelStart(5003);
+    const QString around = box.inputMethodQuery(Qt::ImSurroundingText).toString();
+    const int at = box.inputMethodQuery(Qt::ImCursorPosition).toInt();
+    EXPECT_LT(around.size(), 1000);
+    EXPECT_TRUE(around.left(at).endsWith(u"xab"_s));
+    EXPECT_EQ(around.mid(at), u"|cd"_s);
+    EXPECT_TRUE(box.inputMethodQuery(Qt::ImEnabled).toBool());
+    EXPECT_EQ(box.inputMethodQuery(Qt::ImCursorRectangle).toRect().topLeft(), box.CaretPixel());
+}
+
+// --- off
+
+TEST_F(RichTextKeysTest, OffItTakesNoKeysButKeepsTheFocus) {
+    box.SetText(u"abc"_s);
+    const bool focus = box.hasFocus();
+    Signalled();
+    box.SetEnabled(false);
+    Type("x");
+    Press(Qt::Key_Right);
+    Press(Qt::Key_Delete);
+    QInputMethodEvent event;
+    event.setCommitString(u"y"_s);
+    QApplication::sendEvent(&box, &event);
+    EXPECT_EQ(box.Text(), u"abc"_s);
+    EXPECT_EQ(Keys(), QStringList());
+    EXPECT_EQ(Signalled(), QStringList());
+    EXPECT_EQ(box.hasFocus(), focus);
+    EXPECT_TRUE(box.isEnabled());
+    box.SetSelText(u"!"_s);
+    EXPECT_EQ(box.Text(), u"!abc"_s) << "the program itself still writes";
+    box.SetEnabled(true);
+    Type("x");
+    EXPECT_EQ(box.Text(), u"!xabc"_s);
+}
+
+TEST_F(RichTextKeysTest, TextKeysAreNotTakenByShortcuts) {
+    const auto overridden = [&](int key, Qt::KeyboardModifiers modifiers, const QString& text) {
+        QKeyEvent event(QEvent::ShortcutOverride, key, modifiers, text);
+        event.ignore();
+        QApplication::sendEvent(&box, &event);
+        return event.isAccepted();
+    };
+    EXPECT_TRUE(overridden(Qt::Key_A, Qt::NoModifier, u"a"_s));
+    EXPECT_TRUE(overridden(Qt::Key_Delete, Qt::NoModifier, QString()));
+    EXPECT_TRUE(overridden(Qt::Key_Home, Qt::ShiftModifier, QString()));
+    EXPECT_FALSE(overridden(Qt::Key_Z, Qt::ControlModifier, u"\x1a"_s)) << "the Edit menu's";
+    EXPECT_FALSE(overridden(Qt::Key_F1, Qt::NoModifier, QString()));
+}
+
+} // namespace

@@ -1,0 +1,156 @@
+// Every rule of reading RTF, one row each.
+#include "platform/RtfReader.h"
+
+#include "support/Text.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+const QString table = QStringLiteral("{{\\colortbl ;\\red1\\green2\\blue3;\\red255\\green0\\blue0;}");
+constexpr ColorNumber first = 0x030201;
+constexpr ColorNumber red = 255;
+
+struct Row {
+    const char* name;
+    QString rtf;
+    RawLineEnds lineEnds;
+    QString text;
+    std::vector<RtfRun> runs;
+};
+
+void PrintTo(const Row& row, std::ostream* out) {
+    *out << row.name;
+}
+
+class RtfReaderTest : public testing::TestWithParam<Row> {};
+
+TEST_P(RtfReaderTest, Reads) {
+    const Row& row = GetParam();
+    const RtfText read = ReadRtf(row.rtf, row.lineEnds);
+    EXPECT_EQ(read.text, row.text);
+    ASSERT_EQ(read.runs.size(), row.runs.size());
+    for (std::size_t i = 0; i < row.runs.size(); ++i) {
+        EXPECT_EQ(read.runs[i].length, row.runs[i].length) << "run " << i;
+        EXPECT_EQ(read.runs[i].color, row.runs[i].color) << "run " << i;
+    }
+}
+
+constexpr RawLineEnds keep = RawLineEnds::Keep;
+constexpr RawLineEnds skip = RawLineEnds::Skip;
+
+QString S(const char* utf8) {
+    return QString::fromUtf8(utf8);
+}
+
+const Row rows[] = {
+    {"nothing", S(""), keep, S(""), {}},
+    {"colour word alone", table + S("\\cf1 }"), keep, S(""), {}},
+    {"colours of stretches",
+     table + S("\\cf1 \\cf2 <B>\\cf1 x\\cf2 </B>\\cf1 }"),
+     keep,
+     S("<B>x</B>"),
+     {{3, red}, {1, first}, {4, red}}},
+    {"text without a word has the control's colour", table + S("ab}"), keep, S("ab"), {{2, -1}}},
+    {"cf0 is the empty entry", table + S("\\cf2 a\\cf0 b}"), keep, S("ab"), {{1, red}, {1, -1}}},
+    {"cf without a number is cf0", table + S("\\cf2 a\\cf b}"), keep, S("ab"), {{1, red}, {1, -1}}},
+    {"a number outside the table is cf0",
+     table + S("\\cf2 a\\cf9 b\\cf-1 c}"),
+     keep,
+     S("abc"),
+     {{1, red}, {2, -1}}},
+    {"equal neighbours are one run", table + S("\\cf2 a\\cf2 b}"), keep, S("ab"), {{2, red}}},
+    {"a closing brace gives the colour back",
+     table + S("\\cf1 a{\\cf2 b}c}"),
+     keep,
+     S("abc"),
+     {{1, first}, {1, red}, {1, first}}},
+    {"opening word of a whole document",
+     S("{\\rtf1\\ansi{\\colortbl;\\red255\\green0\\blue0;}\\cf1 x}"),
+     keep,
+     S("x"),
+     {{1, red}}},
+    {"table with blanks and raw line ends",
+     S("{{\\colortbl ;\r\n\\red255 \\green0 \\blue0 ;}\\cf1 x}"),
+     keep,
+     S("x"),
+     {{1, red}}},
+    {"table entry with one part", S("{{\\colortbl;\\green128;}\\cf1 x}"), keep, S("x"), {{1, 0x8000}}},
+    {"table values are cut to a byte",
+     S("{{\\colortbl;\\red999\\green-5\\blue0;}\\cf1 x}"),
+     keep,
+     S("x"),
+     {{1, 255}}},
+    {"table without an empty entry",
+     S("{{\\colortbl\\red255;\\green1;}\\cf1 x\\cf0 y}"),
+     keep,
+     S("xy"),
+     {{1, 256}, {1, 255}}},
+    {"par and line", table + S("a\\par b\\line c}"), keep, S("a\r\nb\r\nc"), {{7, -1}}},
+    {"par at the end of a word", table + S("a\\par}"), keep, S("a\r\n"), {{3, -1}}},
+    {"only one blank belongs to a word", table + S("\\par  b}"), keep, S("\r\n b"), {{4, -1}}},
+    {"tab, word and raw", table + S("a\\tab b\tc}"), keep, S("a\tb\tc"), {{5, -1}}},
+    {"escapes", table + S("\\\\ \\{ \\}}"), keep, S("\\ { }"), {{5, -1}}},
+    {"hex", table + S("\\'e9\\'80\\'41}"), keep, S("é€A"), {{3, -1}}},
+    {"hex that is none", table + S("\\'zz}"), keep, S("zz"), {{2, -1}}},
+    {"hex at the end", table + S("a\\'e"), keep, S("ae"), {{2, -1}}},
+    {"unicode inside the code page", table + S("\\u8364?x}"), keep, S("€x"), {{2, -1}}},
+    {"unicode outside the code page", table + S("\\u9731?x}"), keep, S("&#9731;x"), {{8, -1}}},
+    {"unicode as a negative number", table + S("\\u-3913?x}"), keep, S("&#61623;x"), {{9, -1}}},
+    {"unicode with a fallback in hex", table + S("\\u8364\\'80x}"), keep, S("€x"), {{2, -1}}},
+    {"unicode with another fallback length",
+     table + S("\\uc2\\u8364??x\\uc0\\u8364y}"),
+     keep,
+     S("€x€y"),
+     {{4, -1}}},
+    {"fallback ends with its group", table + S("{\\u8364}x}"), keep, S("€x"), {{2, -1}}},
+    {"surrogate pair is one character",
+     table + S("\\u-10179?\\u-8704?x}"),
+     keep,
+     S("&#128512;x"),
+     {{10, -1}}},
+    {"unknown words go with one blank", table + S("a\\foo b\\bar12 c\\b-3  d}"), keep, S("abc d"), {{5, -1}}},
+    {"unknown symbols go", table + S("a\\~b\\_c\\-d}"), keep, S("abcd"), {{4, -1}}},
+    {"words count case", table + S("a\\PAR b}"), keep, S("ab"), {{2, -1}}},
+    {"a word in front of text without a blank", table + S("\\cf2<B>}"), keep, S("<B>"), {{3, red}}},
+    {"groups that hold no text",
+     S("{\\rtf1{\\fonttbl{\\f0 Arial;}}{\\*\\generator Me;}{\\info{\\title t}}x}"),
+     keep,
+     S("x"),
+     {{1, -1}}},
+    {"raw line ends kept", table + S("a\r\nb\nc\rd}"), keep, S("a\r\nb\nc\rd"), {{8, -1}}},
+    {"raw line ends skipped", table + S("a\r\nb\nc\rd}"), skip, S("abcd"), {{4, -1}}},
+    {"par stands in both modes", table + S("a\\par \nb}"), skip, S("a\r\nb"), {{4, -1}}},
+    {"escaped raw line end kept", table + S("a\\\nb}"), keep, S("a\nb"), {{3, -1}}},
+    {"escaped raw line end is a par", table + S("a\\\r\nb\\\nc}"), skip, S("a\r\nb\r\nc"), {{7, -1}}},
+    {"the outermost group's brace ends the document", table + S("a}b}"), keep, S("a"), {{1, -1}}},
+    {"a brace that closes nothing ends the document", S("a}b"), keep, S("a"), {{1, -1}}},
+    {"a missing brace loses nothing", table + S("\\cf2 a{b"), keep, S("ab"), {{2, red}}},
+    {"a backslash at the end", table + S("a\\"), keep, S("a"), {{1, -1}}},
+    {"a colour word at the end", table + S("a\\cf2"), keep, S("a"), {{1, -1}}},
+    {"text without any group", S("plain"), keep, S("plain"), {{5, -1}}},
+    {"characters above 127 as they stand", table + S("é€Ÿ}"), keep, S("é€Ÿ"), {{3, -1}}},
+    {"characters from outside the code page", table + S("a☃b}"), keep, S("a&#9731;b"), {{9, -1}}},
+    {"a number without an end", table + S("\\cf99999999999999999999 a}"), keep, S("a"), {{1, -1}}},
+};
+
+INSTANTIATE_TEST_SUITE_P(Rules, RtfReaderTest, testing::ValuesIn(rows));
+
+TEST(RtfReader, RunsCoverALongTextWithoutAGap) {
+    QString rtf = table;
+    for (int i = 0; i < 5000; ++i)
+        rtf += i % 2 == 0 ? QStringLiteral("\\cf1 ab") : QStringLiteral("\\cf2 c\\par ");
+    const RtfText read = ReadRtf(rtf, keep);
+    int covered = 0;
+    for (std::size_t i = 0; i < read.runs.size(); ++i) {
+        EXPECT_GT(read.runs[i].length, 0);
+        covered += read.runs[i].length;
+        if (i > 0) {
+            EXPECT_NE(read.runs[i].color, read.runs[i - 1].color);
+        }
+    }
+    EXPECT_EQ(covered, read.text.size());
+    EXPECT_EQ(read.runs.size(), 5000U);
+}
+
+} // namespace
