@@ -106,6 +106,7 @@ void RichTextBox::SetText(const QString& text) {
     const QByteArray bytes = text.toUtf8();
     Replace({0, ByteLength()}, bytes, StyleRuns(static_cast<int>(bytes.size()), style));
     Sci(SCI_GOTOPOS, 0);
+    Sci(SCI_CHOOSECARETX);
     caretMovedByEdit_ = false;
 }
 
@@ -139,6 +140,7 @@ void RichTextBox::SetSelStart(int position) {
         return;
     const Settling settling(*this);
     Sci(SCI_GOTOPOS, ByteFromChar(std::min(position, TextLength())));
+    Sci(SCI_CHOOSECARETX);
 }
 
 int RichTextBox::SelLength() const {

@@ -12,6 +12,7 @@
 #include <utility>
 #include <vector>
 
+class QAccessibleEvent;
 class QPainter;
 class QRectF;
 
@@ -194,6 +195,9 @@ class RichTextBox : public QsciScintillaBase {
     bool canInsertFromMimeData(const QMimeData* source) const override;
     QByteArray fromMimeData(const QMimeData* source, bool& rectangular) const override;
     QMimeData* toMimeData(const QByteArray& text, bool rectangular) const override;
+    /// Whether assistive technology listens; without it nothing is gathered for it.
+    virtual bool HasAssistants() const;
+    virtual void TellAssistants(QAccessibleEvent& event) const;
 
   private:
     /// Positions in bytes of the UTF-8 text, as the base class counts them.
@@ -265,7 +269,7 @@ class RichTextBox : public QsciScintillaBase {
     void BeforeModification(int position, int type, int length);
     void BeforeInsertion(int position, int type, int length);
     void BeforeDeletion(int position, int type, int length);
-    void TellAssistants(bool caretMoved);
+    void TellOfChanges(bool caretMoved);
     /// Carries out a handler of another object: it meets a settled box, and its own calls settle by
     /// themselves.
     template <typename Handler> void Outside(Handler handler) {
@@ -291,6 +295,8 @@ class RichTextBox : public QsciScintillaBase {
     void PasteFrom(const QMimeData* source);
     void PastePrimarySelection(QPoint at);
     void ReleaseLeftButton();
+    /// A mouse event as the base class may see it.
+    QMouseEvent ForBase(const QMouseEvent& event);
     int FindBytes(const QString& text, ByteRange range, int options) const;
     bool IsWholeWord(const QString& text, int start, int end) const;
     QVector<QTextLayout::FormatRange> PrintColors(int startByte, const QString& text) const;
@@ -303,6 +309,7 @@ class RichTextBox : public QsciScintillaBase {
     bool enabled_ = true;
     int holds_ = 0;
     QString preedit_;
+    QPointF lastMouse_;
 
     StyleTable styles_;
     UndoColors undoColors_;

@@ -33,9 +33,10 @@ bool IsUserEvent(QEvent::Type type) {
 }
 
 /// True for a character that a key types. A soft hyphen does not print where it stands, and is typed all the
-/// same.
+/// same; a character may come as a pair.
 bool IsTyped(const QKeyEvent& event) {
-    return !event.text().isEmpty() && (event.text()[0].isPrint() || event.text()[0] == QChar(0xad));
+    return !event.text().isEmpty() &&
+           (event.text()[0].isPrint() || event.text()[0].isHighSurrogate() || event.text()[0] == QChar(0xad));
 }
 
 /// True for the keys that belong to a text whatever a menu makes of them: characters and plain editing keys.
@@ -292,8 +293,7 @@ void RichTextBox::paintEvent(QPaintEvent* event) {
     QFont underlined = font_;
     underlined.setUnderline(true);
     painter.setFont(underlined);
-    const QRect line(CaretPixel(), QSize(painter.fontMetrics().horizontalAdvance(preedit_),
-                                         LineHeight()));
+    const QRect line(CaretPixel(), QSize(painter.fontMetrics().horizontalAdvance(preedit_), LineHeight()));
     painter.fillRect(line, palette().color(QPalette::Highlight));
     painter.setPen(palette().color(QPalette::HighlightedText));
     painter.drawText(line, Qt::AlignLeft | Qt::AlignVCenter, preedit_);

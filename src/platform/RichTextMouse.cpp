@@ -16,17 +16,18 @@ int ButtonCode(Qt::MouseButton button) {
     return button == Qt::LeftButton ? 1 : button == Qt::RightButton ? 2 : button == Qt::MiddleButton ? 4 : 0;
 }
 
-/// The event as the base class may see it: Ctrl and Alt would make it select rectangles.
-QMouseEvent WithoutModes(const QMouseEvent& event) {
-    return QMouseEvent(event.type(), event.position(), event.globalPosition(), event.button(),
-                       event.buttons(), event.modifiers() & Qt::ShiftModifier, event.pointingDevice());
-}
-
 bool HoldsFiles(const QMimeData* data) {
     return data->hasUrls();
 }
 
 } // namespace
+
+QMouseEvent RichTextBox::ForBase(const QMouseEvent& event) {
+    lastMouse_ = event.position();
+    // Ctrl and Alt would make the base class select rectangles.
+    return QMouseEvent(event.type(), event.position(), event.globalPosition(), event.button(),
+                       event.buttons(), event.modifiers() & Qt::ShiftModifier, event.pointingDevice());
+}
 
 void RichTextBox::mousePressEvent(QMouseEvent* event) {
     event->accept();
@@ -37,7 +38,7 @@ void RichTextBox::mousePressEvent(QMouseEvent* event) {
     if (event->button() == Qt::MiddleButton) {
         PastePrimarySelection(event->position().toPoint());
     } else {
-        QMouseEvent plain = WithoutModes(*event);
+        QMouseEvent plain = ForBase(*event);
         QsciScintillaBase::mousePressEvent(&plain);
     }
     Outside([&] {
@@ -64,7 +65,7 @@ void RichTextBox::mouseMoveEvent(QMouseEvent* event) {
     event->accept();
     if (!enabled_)
         return;
-    QMouseEvent plain = WithoutModes(*event);
+    QMouseEvent plain = ForBase(*event);
     QsciScintillaBase::mouseMoveEvent(&plain);
 }
 
@@ -72,7 +73,7 @@ void RichTextBox::mouseReleaseEvent(QMouseEvent* event) {
     event->accept();
     if (!enabled_)
         return;
-    QMouseEvent plain = WithoutModes(*event);
+    QMouseEvent plain = ForBase(*event);
     QsciScintillaBase::mouseReleaseEvent(&plain);
     Outside([&] {
         Q_EMIT MouseUp(ButtonCode(event->button()), ShiftState(event->modifiers()),
@@ -88,13 +89,14 @@ void RichTextBox::mouseDoubleClickEvent(QMouseEvent* event) {
         mousePressEvent(event);
         return;
     }
-    QMouseEvent plain = WithoutModes(*event);
+    QMouseEvent plain = ForBase(*event);
     QsciScintillaBase::mouseDoubleClickEvent(&plain);
     Outside([this] { Q_EMIT DblClick(); });
 }
 
 void RichTextBox::ReleaseLeftButton() {
-    QMouseEvent release(QEvent::MouseButtonRelease, QPointF(0, 0), viewport()->mapToGlobal(QPointF(0, 0)),
+    // Where the mouse is: anywhere else the release would select up to there.
+    QMouseEvent release(QEvent::MouseButtonRelease, lastMouse_, viewport()->mapToGlobal(lastMouse_),
                         Qt::LeftButton, Qt::NoButton, Qt::NoModifier);
     QsciScintillaBase::mouseReleaseEvent(&release);
 }

@@ -32,8 +32,8 @@ void RichTextBox::Settle() {
     const ByteRange selection = Selection();
     if (!changed && selection == lastSelection_)
         return;
-    if (QAccessible::isActive())
-        TellAssistants(selection != lastSelection_);
+    if (HasAssistants())
+        TellOfChanges(selection != lastSelection_);
     if (changed)
         Q_EMIT Change();
     // A handler may have moved the selection and told of it.
@@ -47,14 +47,22 @@ void RichTextBox::Settle() {
     Q_EMIT SelChange();
 }
 
-void RichTextBox::TellAssistants(bool caretMoved) {
+bool RichTextBox::HasAssistants() const {
+    return QAccessible::isActive();
+}
+
+void RichTextBox::TellAssistants(QAccessibleEvent& event) const {
+    QAccessible::updateAccessibility(&event);
+}
+
+void RichTextBox::TellOfChanges(bool caretMoved) {
     for (const TextChange& change : std::exchange(untold_, {})) {
         if (change.inserted) {
             QAccessibleTextInsertEvent event(this, change.position, change.text);
-            QAccessible::updateAccessibility(&event);
+            TellAssistants(event);
         } else {
             QAccessibleTextRemoveEvent event(this, change.position, change.text);
-            QAccessible::updateAccessibility(&event);
+            TellAssistants(event);
         }
     }
     if (!caretMoved)
@@ -62,9 +70,9 @@ void RichTextBox::TellAssistants(bool caretMoved) {
     const int start = SelStart();
     QAccessibleTextSelectionEvent selection(this, start, start + SelLength());
     selection.setCursorPosition(CaretPosition());
-    QAccessible::updateAccessibility(&selection);
+    TellAssistants(selection);
     QAccessibleTextCursorEvent caret(this, CaretPosition());
-    QAccessible::updateAccessibility(&caret);
+    TellAssistants(caret);
 }
 
 void RichTextBox::HoldTypingStyle() {
@@ -84,7 +92,7 @@ void RichTextBox::TakeIncoming() {
     const Incoming incoming = *std::exchange(incoming_, std::nullopt);
     const QByteArray text = Bytes(incoming.start, incoming.start + incoming.length);
     CountInsertion(incoming.start, text);
-    if (QAccessible::isActive())
+    if (HasAssistants())
         untold_.push_back({true, CharFromByte(incoming.start), QString::fromUtf8(text)});
     // What comes in has style 0 already.
     const StyleRuns& styles = incoming.styles;
@@ -146,7 +154,7 @@ void RichTextBox::BeforeInsertion(int position, int type, int length) {
 }
 
 void RichTextBox::BeforeDeletion(int position, int type, int length) {
-    if (QAccessible::isActive())
+    if (HasAssistants())
         untold_.push_back({false, CharFromByte(position), TextOf({position, position + length})});
     CountDeletion(position, length);
     StyleRuns styles = StylesOf(position, length);

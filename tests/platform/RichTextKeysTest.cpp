@@ -104,21 +104,21 @@ const KeyRow keyRows[] = {
     {"escape", Qt::Key_Escape, Qt::NoModifier, u"\x1b"_s, {u"down 27 0"_s, u"press 27"_s}, u"ab| cd"_s},
     {"delete", Qt::Key_Delete, Qt::NoModifier, u"\x7f"_s, {u"down 46 0"_s}, u"ab|cd"_s},
     {"left", Qt::Key_Left, Qt::NoModifier, QString(), {u"down 37 0"_s}, u"a|b cd"_s},
-    {"up", Qt::Key_Up, Qt::NoModifier, QString(), {u"down 38 0"_s}, u"ab| cd"_s},
+    {"up", Qt::Key_Up, Qt::NoModifier, QString(), {u"down 38 0"_s}, u"|ab cd"_s},
     {"right", Qt::Key_Right, Qt::NoModifier, QString(), {u"down 39 0"_s}, u"ab |cd"_s},
-    {"down", Qt::Key_Down, Qt::NoModifier, QString(), {u"down 40 0"_s}, u"ab| cd"_s},
+    {"down", Qt::Key_Down, Qt::NoModifier, QString(), {u"down 40 0"_s}, u"ab cd|"_s},
     {"home", Qt::Key_Home, Qt::NoModifier, QString(), {u"down 36 0"_s}, u"|ab cd"_s},
     {"end", Qt::Key_End, Qt::NoModifier, QString(), {u"down 35 0"_s}, u"ab cd|"_s},
     {"ctrl left", Qt::Key_Left, Qt::ControlModifier, QString(), {u"down 37 2"_s}, u"|ab cd"_s},
     {"ctrl right", Qt::Key_Right, Qt::ControlModifier, QString(), {u"down 39 2"_s}, u"ab |cd"_s},
     {"ctrl home", Qt::Key_Home, Qt::ControlModifier, QString(), {u"down 36 2"_s}, u"|ab cd"_s},
     {"ctrl end", Qt::Key_End, Qt::ControlModifier, QString(), {u"down 35 2"_s}, u"ab cd|"_s},
-    {"page up", Qt::Key_PageUp, Qt::NoModifier, QString(), {u"down 33 0"_s}, u"|ab cd"_s},
+    {"page up", Qt::Key_PageUp, Qt::NoModifier, QString(), {u"down 33 0"_s}, u"ab| cd"_s},
     {"page down", Qt::Key_PageDown, Qt::NoModifier, QString(), {u"down 34 0"_s}, u"ab cd|"_s},
     {"ctrl backspace", Qt::Key_Backspace, Qt::ControlModifier, u"\x7f"_s, {u"down 8 2"_s}, u"| cd"_s},
     {"ctrl delete", Qt::Key_Delete, Qt::ControlModifier, QString(), {u"down 46 2"_s}, u"ab|cd"_s},
     {"function key", Qt::Key_F5, Qt::NoModifier, QString(), {u"down 116 0"_s}, u"ab| cd"_s},
-    {"ctrl alone", Qt::Key_Control, Qt::ControlModifier, QString(), {u"down 17 2"_s}, u"ab| cd"_s},
+    {"ctrl alone", Qt::Key_Control, Qt::NoModifier, QString(), {u"down 17 2"_s}, u"ab| cd"_s},
     {"ctrl digit", Qt::Key_1, Qt::ControlModifier, u"1"_s, {u"down 49 2"_s}, u"ab| cd"_s},
     {"ctrl zero", Qt::Key_0, Qt::ControlModifier, u"0"_s, {u"down 48 2"_s}, u"ab| cd"_s},
     {"ctrl letter", Qt::Key_B, Qt::ControlModifier, u"\x02"_s, {u"down 66 2"_s, u"press 2"_s}, u"ab| cd"_s},
@@ -168,6 +168,17 @@ TEST_F(RichTextKeysTest, ShiftMovesExtendTheSelection) {
     Press(Qt::Key_Home);
     Press(Qt::Key_A, Qt::ControlModifier);
     EXPECT_EQ(box.SelText(), box.Text());
+}
+
+TEST_F(RichTextKeysTest, MovingUpAndDownKeepsTheColumn) {
+    box.SetText(u"aaaaaaaaaa\r\nx\r\naaaaaaaaaa\r\n"_s);
+    box.SetSelStart(5);
+    Press(Qt::Key_Down);
+    EXPECT_EQ(box.SelStart(), 13);
+    Press(Qt::Key_Down);
+    EXPECT_EQ(box.SelStart(), box.LineStart(15) + 5);
+    Press(Qt::Key_PageUp);
+    EXPECT_EQ(box.SelStart(), 5);
 }
 
 TEST_F(RichTextKeysTest, DeletingTakesALineEndWhole) {
@@ -436,13 +447,16 @@ TEST_F(RichTextKeysTest, AnInputMethodMayReplaceWhatStandsThere) {
 TEST_F(RichTextKeysTest, AnInputMethodSeesTheTextAroundTheCaret) {
     box.SetText(u"é"_s + QString(5000, u'x') + u"ab|cd"_s);
     box.SetSelStart(5003);
-    const QString around = box.inputMethodQuery(Qt::ImSurroundingText).toString();
-    const int at = box.inputMethodQuery(Qt::ImCursorPosition).toInt();
+    QInputMethodQueryEvent query(Qt::ImSurroundingText | Qt::ImCursorPosition | Qt::ImEnabled |
+                                 Qt::ImCursorRectangle);
+    QApplication::sendEvent(&box, &query);
+    const QString around = query.value(Qt::ImSurroundingText).toString();
+    const int at = query.value(Qt::ImCursorPosition).toInt();
     EXPECT_LT(around.size(), 1000);
     EXPECT_TRUE(around.left(at).endsWith(u"xab"_s));
     EXPECT_EQ(around.mid(at), u"|cd"_s);
-    EXPECT_TRUE(box.inputMethodQuery(Qt::ImEnabled).toBool());
-    EXPECT_EQ(box.inputMethodQuery(Qt::ImCursorRectangle).toRect().topLeft(), box.CaretPixel());
+    EXPECT_TRUE(query.value(Qt::ImEnabled).toBool());
+    EXPECT_EQ(query.value(Qt::ImCursorRectangle).toRect().topLeft(), box.CaretPixel());
 }
 
 // --- off
