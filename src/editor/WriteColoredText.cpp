@@ -9,6 +9,7 @@
 
 #include <QVarLengthArray>
 #include <string_view>
+#include <utility>
 
 namespace {
 
@@ -22,6 +23,25 @@ constexpr ColorRule rules[] = {
     {"embed", "\\cf5 "},  {"img", "\\cf4 "}, {"href", "\\cf3 "}, {"meta", "\\cf6 "},
     {"a name", "\\cf3 "}, {"/a", "\\cf3 "},  {"!--", "\\cf6 "},
 };
+
+/// Puts a backslash before every such character. One pass however many there are: replacing them in place
+/// would move the rest of the text again and again.
+void Escape(QString& text, QChar character) {
+    qsizetype at = text.indexOf(character);
+    if (at < 0)
+        return;
+    QString escaped;
+    escaped.reserve(text.size() + text.count(character));
+    qsizetype done = 0;
+    while (at >= 0) {
+        escaped += QStringView(text).sliced(done, at - done);
+        escaped += u'\\';
+        done = at;
+        at = text.indexOf(character, at + 1);
+    }
+    escaped += QStringView(text).sliced(done);
+    text = std::move(escaped);
+}
 
 void Flush(Frame& frame, EditorState& state, RichTextBox& txtInput) {
     QString rtf = RtfHeader(frame);
@@ -68,15 +88,15 @@ QString TagColorCode(QStringView tag) {
 }
 
 void EscapeBackslashes(QString& text) {
-    text.replace(QStringLiteral("\\"), QStringLiteral("\\\\"));
+    Escape(text, u'\\');
 }
 
 void EscapeOpenBraces(QString& text) {
-    text.replace(QStringLiteral("{"), QStringLiteral("\\{"));
+    Escape(text, u'{');
 }
 
 void EscapeCloseBraces(QString& text) {
-    text.replace(QStringLiteral("}"), QStringLiteral("\\}"));
+    Escape(text, u'}');
 }
 
 void GatherPiece(QString& buffer, QStringView text, QStringView colorWord) {
@@ -108,8 +128,11 @@ void WriteColoredText(Frame& frame, Document& document, QString& text, const QSt
         state.RtfBuffer = QString();
         return;
     }
-    text.replace(QStringLiteral("\r\n"), QStringLiteral("\\par "));
-    GatherPiece(state.RtfBuffer, text, colorWord);
+    QString rtf;
+    GatherPiece(rtf, text, {});
+    text = std::move(rtf);
+    state.RtfBuffer += colorWord;
+    state.RtfBuffer += text;
     if (state.RtfFlushNow)
         Flush(frame, state, document.txtInput());
 }
