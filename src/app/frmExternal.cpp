@@ -39,6 +39,19 @@ ColorNumber StoredColor(const Settings& store, const SettingsKey& key) {
     return color >= 0 && color < ends ? static_cast<int>(color) : key.standard.toInt();
 }
 
+/// The font families of the screen. Where several makers have one of the same name, it stands once.
+QStringList FaceNames() {
+    QStringList names;
+    const QStringList families = QFontDatabase::families();
+    for (const QString& family : families) {
+        // The maker follows in brackets.
+        const QString name = family.section(QStringLiteral(" ["), 0, 0);
+        if (!QFontDatabase::isPrivateFamily(family) && !names.contains(name))
+            names << name;
+    }
+    return names;
+}
+
 void SetVisible(Frame& frame, const QString& strip, bool visible) {
     if (auto* widget = frame.Window()->findChild<QWidget*>(strip))
         widget->setVisible(visible);
@@ -69,6 +82,7 @@ void frmExternal::WirePages() {
     ui_->TabStrip1->addTab(QStringLiteral("General"));
     ui_->TabStrip1->setTabToolTip(0, QStringLiteral("Location of external Web Browser"));
     ui_->TabStrip1->setTabToolTip(1, QStringLiteral("Location of external FTP program"));
+    ui_->TabStrip1->setExpanding(false);
     connect(ui_->TabStrip1, &QTabBar::currentChanged, ui_->Frames, &QStackedWidget::setCurrentIndex);
     const auto turn = [this](int by) {
         const int count = ui_->TabStrip1->count();
@@ -125,11 +139,7 @@ void frmExternal::LoadFlags() {
 }
 
 void frmExternal::LoadFonts() {
-    const QStringList families = QFontDatabase::families();
-    for (const QString& family : families) {
-        if (!QFontDatabase::isPrivateFamily(family))
-            ui_->List1->addItem(family);
-    }
+    ui_->List1->addItems(FaceNames());
     const auto found = ui_->List1->findItems(frame_.Store().Read(Keys::EditorFont),
                                              Qt::MatchExactly | Qt::MatchCaseSensitive);
     if (!found.isEmpty())

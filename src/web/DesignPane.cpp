@@ -4,7 +4,6 @@
 #include "platform/WholeFile.h"
 #include "web/DesignPage.h"
 
-#include <QContextMenuEvent>
 #include <QEventLoop>
 #include <QMenu>
 #include <QPointer>
@@ -49,6 +48,8 @@ void DesignPane::Load(const QString& path) {
         emit Settled();
     });
     ShowPage(std::move(page));
+    View()->setContextMenuPolicy(Qt::CustomContextMenu);
+    connect(View(), &QWidget::customContextMenuRequested, this, &DesignPane::ShowMenu, Qt::UniqueConnection);
     if (source_)
         shown->Show(*source_, path);
 }
@@ -103,9 +104,8 @@ bool DesignPane::Save(const QString& path) {
     return true;
 }
 
-// The engine's own menu would offer to reload the page, and to leave it.
-void DesignPane::contextMenuEvent(QContextMenuEvent* event) {
-    event->accept();
+// The engine's own menu would offer to follow links and to save pictures, which this page refuses.
+void DesignPane::ShowMenu(QPoint at) {
     if (state_ != State::Ready)
         return;
     QMenu menu(this);
@@ -117,5 +117,5 @@ void DesignPane::contextMenuEvent(QContextMenuEvent* event) {
         else
             menu.addAction(Page()->action(action));
     }
-    menu.exec(event->globalPos());
+    menu.exec(View()->mapToGlobal(at));
 }

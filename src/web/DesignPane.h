@@ -30,12 +30,12 @@ class DesignPane final : public WebPane, public DesignControl {
 
   protected:
     void Emptied() override;
-    void contextMenuEvent(QContextMenuEvent* event) override;
 
   private:
     enum class State { Empty, Loading, Ready };
 
     DesignPage* Edited() const;
+    void ShowMenu(QPoint at);
     bool WaitUntilReady();
     std::optional<EditedPage> Collect();
 

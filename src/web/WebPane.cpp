@@ -48,7 +48,7 @@ std::shared_ptr<QWebEngineProfile> SharedWebProfile() {
     return profile;
 }
 
-WebPane::WebPane(QWidget* parent) : QWidget(parent), profile_(SharedWebProfile()) {
+WebPane::WebPane(QWidget* parent) : QWidget(parent) {
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     // It lies over the source text, and must not let it show through.
@@ -60,6 +60,12 @@ WebPane::WebPane(QWidget* parent) : QWidget(parent), profile_(SharedWebProfile()
 WebPane::~WebPane() {
     // The page goes before the profile that it was made with.
     delete view_;
+}
+
+QWebEngineProfile& WebPane::Profile() {
+    if (!profile_)
+        profile_ = SharedWebProfile();
+    return *profile_;
 }
 
 QWebEnginePage* WebPane::Page() const {

@@ -25,7 +25,8 @@ class WebPane : public QWidget {
     /// Null while the pane is empty.
     QWebEnginePage* Page() const;
     QWebEngineView* View() const { return view_; }
-    QWebEngineProfile& Profile() { return *profile_; }
+    /// The engine starts with the first profile, and so no earlier than with the first page.
+    QWebEngineProfile& Profile();
     virtual void Emptied() {}
 
   private:

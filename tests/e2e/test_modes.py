@@ -4,7 +4,7 @@ import subprocess
 import sys
 from driver import main, read, wait_for, PROGRAM
 
-WEB = os.path.join(os.path.dirname(PROGRAM), "libtarnwick_web.so")
+WEB = os.path.join(os.path.dirname(PROGRAM), "tarnwick_web.so")
 
 
 def test_an_image_tag_by_the_lists_alone(desk):

@@ -7,9 +7,13 @@
 #include "web/PageProbe.h"
 
 #include <gtest/gtest.h>
+#include <QApplication>
 #include <QDateTime>
 #include <QFile>
 #include <QFileInfo>
+#include <QMenu>
+#include <QTimer>
+#include <QWebEngineView>
 
 namespace {
 
@@ -215,6 +219,24 @@ TEST_F(Design, ScriptsOfThePageDoNotRunAndItGoesNowhere) {
     EXPECT_TRUE(pane.Save(path));
     EXPECT_TRUE(Saved().contains(script));
     EXPECT_TRUE(Saved().contains("typed one"));
+}
+
+TEST_F(Design, TheMenuOffersEditingAndNothingElse) {
+    Load("<html><body><p>one</p><a href=\"other.htm\">link</a></body></html>");
+    QStringList offered;
+    QTimer watch;
+    QObject::connect(&watch, &QTimer::timeout, &pane, [&] {
+        auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+        if (!menu)
+            return;
+        for (const QAction* action : menu->actions())
+            offered << action->text();
+        menu->close();
+    });
+    watch.start(50);
+    emit pane.findChild<QWebEngineView*>()->customContextMenuRequested(QPoint(20, 20));
+    EXPECT_EQ(offered, QStringList({"Undo", "Redo", "", "Cut", "Copy", "Paste", "", "Select all"}))
+        << offered.join(u'|').toStdString();
 }
 
 TEST_F(Design, StylesComeFromThePagesFolder) {
