@@ -5,7 +5,9 @@
 #include "support/TypingFrame.h"
 
 #include <gtest/gtest.h>
+#include <QApplication>
 #include <QListWidget>
+#include <QMouseEvent>
 #include <QTest>
 
 namespace {
@@ -117,15 +119,28 @@ TEST(TypingEngine, RightButtonPopsUpTheEditMenu) {
     EXPECT_EQ(frame.popUps.front(), text->mapToGlobal(QPoint(20, 10)));
 }
 
-TEST(TypingEngine, AfterADoubleClickTheMouseSelectsNoFurther) {
-    TypingFrame frame;
+/// Double-clicks the first word, keeps the button down and moves the mouse to the line's end.
+QString DoubleClickAndDrag(TestFrame& frame) {
     frame.SetText(QStringLiteral("word another more"));
     QWidget* text = frame.Box().viewport();
+    const QPoint end = frame.Box().CaretPixel() + QPoint(0, 3);
     frame.Box().SetSelStart(2);
     const QPoint at = frame.Box().CaretPixel() + QPoint(0, 3);
     QTest::mouseClick(text, Qt::LeftButton, {}, at);
-    QTest::mouseDClick(text, Qt::LeftButton, {}, at);
-    EXPECT_EQ(frame.Box().SelText(), QStringLiteral("word"));
+    const auto send = [text](QEvent::Type type, QPoint where, Qt::MouseButton button) {
+        QMouseEvent event(type, where, text->mapToGlobal(where), button, Qt::LeftButton, {});
+        QApplication::sendEvent(text, &event);
+    };
+    send(QEvent::MouseButtonDblClick, at, Qt::LeftButton);
+    send(QEvent::MouseMove, end, Qt::NoButton);
+    return frame.Box().SelText();
+}
+
+TEST(TypingEngine, AfterADoubleClickTheMouseSelectsNoFurther) {
+    TestFrame without;
+    EXPECT_EQ(DoubleClickAndDrag(without), QStringLiteral("word another more"));
+    TypingFrame with;
+    EXPECT_EQ(DoubleClickAndDrag(with), QStringLiteral("word"));
 }
 
 struct ButtonRow {
