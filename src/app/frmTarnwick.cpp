@@ -92,7 +92,6 @@ void frmTarnwick::FillCommands() {
     FillOptionsCommands(*this);
     UseWebPlugin(*this);
     FillAutoFillHooks(*this);
-    UseWebPlugin(*this);
 }
 
 void frmTarnwick::BuildMenuBar() {
@@ -196,6 +195,9 @@ QAction* frmTarnwick::MenuEntry(const QString& name) {
 
 void frmTarnwick::AddDocumentTab(const QString& path, const QString& caption) {
     tabStrip2_->Add(path, caption);
+    // The strip shows which document has the focus; that of a document just opened came before it had a path.
+    if (Document* document = ActiveForm(); document && document->Caption() == path)
+        tabStrip2_->Select(path);
 }
 
 void frmTarnwick::RemoveDocumentTab(const QString& path) {

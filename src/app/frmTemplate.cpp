@@ -116,6 +116,11 @@ void frmTemplate::Form_Resize() {
         modes_->PlaceAtResize();
 }
 
+QSize frmTemplate::sizeHint() const {
+    const QMdiArea* area = mdiArea();
+    return area ? area->viewport()->size() * 3 / 4 : QMdiSubWindow::sizeHint();
+}
+
 void frmTemplate::SetCaption(const QString& path) {
     caption_ = path;
     QString title = path;

@@ -39,6 +39,8 @@ class frmTemplate final : public QMdiSubWindow, public Document {
     QWidget& Window() override { return *this; }
     DocumentModes* Modes() override { return modes_.get(); }
     bool Unload() override;
+    /// The size of a window that is neither maximised nor arranged: three quarters of the area.
+    QSize sizeHint() const override;
 
     /// One shot: brings up the auto-fill list after a pause in typing.
     QTimer& Timer1() { return *timer1_; }

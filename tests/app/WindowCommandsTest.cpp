@@ -35,6 +35,7 @@ TEST_F(WindowCommands, CascadeStepsEachWindow) {
         EXPECT_GT(windows[n]->x(), windows[n - 1]->x());
         EXPECT_GT(windows[n]->y(), windows[n - 1]->y());
         EXPECT_FALSE(windows[n]->isMaximized());
+        EXPECT_GT(windows[n]->height(), run.frame->Area().height() / 2);
     }
 }
 

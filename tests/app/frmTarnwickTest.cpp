@@ -154,6 +154,20 @@ TEST_F(Tarnwick, ClickOnADocumentTabGivesItsWindowTheFocus) {
     EXPECT_EQ(run->Active().Caption(), second);
 }
 
+TEST_F(Tarnwick, TabStripShowsTheDocumentThatHasTheFocus) {
+    const QString first = MakeFile(QStringLiteral("a.htm"), "a");
+    const QString second = MakeFile(QStringLiteral("b.htm"), "b");
+    DocumentTabs& tabs = Window().TabStrip2();
+    Window().OpenDocumentFile(first);
+    frmTemplate& behind = run->Active();
+    Window().OpenDocumentFile(second);
+    EXPECT_EQ(tabs.Tag(tabs.currentIndex()), second);
+    Window().ActivateDocument(behind);
+    EXPECT_EQ(tabs.Tag(tabs.currentIndex()), first);
+    EXPECT_TRUE(behind.Unload());
+    EXPECT_EQ(tabs.Tag(tabs.currentIndex()), second);
+}
+
 TEST_F(Tarnwick, ClickOnADocumentTabTakesTheFirstFormOfThatCaption) {
     const QString path = MakeFile(QStringLiteral("a.htm"), "a");
     auto& dialog = Window().LoadedForms().Load<QDialog>(QStringLiteral("frmAny"));
