@@ -12,6 +12,7 @@
 #include "app/MenuTree.h"
 #include "app/OpenDocument.h"
 #include "app/Preview.h"
+#include "app/ProgramState.h"
 #include "app/Shutdown.h"
 #include "app/Skeletons.h"
 #include "app/StatusPanels.h"
@@ -44,6 +45,9 @@ namespace {
 
 // What a frame that never ran takes on a screen with room for it, in pixels.
 constexpr QSize firstSize(960, 680);
+// New windows stand one step further than the last, and start over where they would leave the area.
+constexpr int cascadeStep = 26;
+constexpr int cascadeSteps = 6;
 
 QWidget* Strip(const QString& name, QWidget* content) {
     auto* strip = new QWidget;
@@ -168,6 +172,8 @@ void frmTarnwick::NewDocument() {
     auto* document = new frmTemplate(*this);
     forms_->Add(document);
     area_->addSubWindow(document);
+    const int step = State<ProgramState>().DocumentCount % cascadeSteps * cascadeStep;
+    document->move(step, step);
     fileDrop_->Watch(*document->txtInput().viewport());
     document->Form_Load();
     area_->setActiveSubWindow(document);

@@ -167,12 +167,14 @@ void frmTemplate::TakeDown() {
     QMdiArea* area = mdiArea();
     const bool maximised = isMaximized();
     hide();
+    deleteLater();
+    if (!area)
+        return;
     area->removeSubWindow(this);
     // The window that comes to sight takes over the state of the one that filled the area.
     QMdiSubWindow* next = area->currentSubWindow();
     if (next && maximised && !next->isMinimized())
         next->showMaximized();
-    deleteLater();
 }
 
 void frmTemplate::closeEvent(QCloseEvent* event) {

@@ -340,6 +340,46 @@ TEST_F(frmTemplateOf, ActiveDocumentStaysWhileADialogHasTheFocus) {
     EXPECT_EQ(run->frame->ActiveForm(), static_cast<Document*>(&document));
 }
 
+TEST_F(frmTemplateOf, ClosingUnderADialogLeavesTheNextDocumentActive) {
+    frmTemplate& first = Fresh();
+    frmTemplate& second = run->New();
+    frmTemplate& third = run->New();
+    auto& dialog = run->frame->LoadedForms().Show<QDialog>(QStringLiteral("frmBody"), run->frame.get());
+    dialog.activateWindow();
+    QCoreApplication::processEvents();
+    EXPECT_TRUE(second.Unload());
+    EXPECT_EQ(run->frame->ActiveForm(), static_cast<Document*>(&third));
+    EXPECT_TRUE(third.Unload());
+    EXPECT_EQ(run->frame->ActiveForm(), static_cast<Document*>(&first));
+    EXPECT_TRUE(first.Unload());
+    EXPECT_EQ(run->frame->ActiveForm(), nullptr);
+}
+
+TEST_F(frmTemplateOf, DocumentsOfAFrameNotYetShownBecomeActiveInTurn) {
+    ProgramRun hidden;
+    frmTemplate& first = hidden.New();
+    EXPECT_EQ(hidden.frame->ActiveForm(), static_cast<Document*>(&first));
+    frmTemplate& second = hidden.New();
+    EXPECT_EQ(hidden.frame->ActiveForm(), static_cast<Document*>(&second));
+    hidden.frame->show();
+    QCoreApplication::processEvents();
+    EXPECT_EQ(hidden.frame->ActiveForm(), static_cast<Document*>(&second));
+    EXPECT_TRUE(second.Unload());
+    EXPECT_EQ(hidden.frame->ActiveForm(), static_cast<Document*>(&first));
+}
+
+TEST_F(frmTemplateOf, SecondRequestToCloseWhileItAsksIsRefused) {
+    frmTemplate& document = Fresh();
+    document.SetModified(true);
+    bool refused = false;
+    run->prompts.messageAnswers = {MsgAnswer::Yes};
+    run->prompts.saveAnswers = {ScriptedPrompts::Cancelled()};
+    run->prompts.whileOpen = [&](const FileRequest&) { refused = !document.close() && document.isVisible(); };
+    EXPECT_TRUE(document.Unload());
+    EXPECT_TRUE(refused);
+    EXPECT_EQ(run->prompts.asked.size(), 2);
+}
+
 TEST_F(frmTemplateOf, ActiveDocumentStaysWhileItIsMinimised) {
     frmTemplate& document = Fresh();
     document.showMinimized();
