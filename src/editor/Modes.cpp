@@ -77,7 +77,10 @@ void DocumentModes::LoadControls() {
 
 void DocumentModes::Show(Shown shown) {
     RichTextBox& source = document_.txtInput();
-    const bool hadFocus = source.parentWidget()->isAncestorOf(QApplication::focusWidget());
+    // A control of the strips keeps the focus. The engine's first view makes the system's window anew, and
+    // then nothing has it until the window is active again.
+    const QWidget* focused = QApplication::focusWidget();
+    const bool mayFocus = !focused || source.parentWidget()->isAncestorOf(focused);
     QWidget* front = &source;
     if (design_ && shown == Shown::Design)
         front = &design_->widget();
@@ -89,7 +92,7 @@ void DocumentModes::Show(Shown shown) {
     if (browser_)
         browser_->widget().setVisible(shown == Shown::Browser);
     // Hiding a control sends its focus off to any other; the one in front takes it.
-    if (hadFocus && front->isVisible())
+    if (mayFocus && front->isVisible())
         front->setFocus();
 }
 

@@ -8,8 +8,9 @@
 #include "web/PageProbe.h"
 
 #include <gtest/gtest.h>
-#include <QCoreApplication>
+#include <QApplication>
 #include <QDir>
+#include <QTest>
 
 namespace {
 
@@ -34,6 +35,34 @@ TEST(WebPlugin, AbsentOrBrokenThereAreNoControls) {
     EXPECT_EQ(LoadWebPlugin({}), nullptr);
     PageFiles::Write(QStringLiteral("tarnwick_web.so"), "no library");
     EXPECT_EQ(LoadWebPlugin({TestFolder()}), nullptr);
+}
+
+TEST(WebPlugin, TheFocusComesBackToTheSource) {
+    TestFrame frame;
+    frame.State<WebControls>().Load = [] { return LoadWebPlugin(built); };
+    frame.active->caption = PageFiles::Write(QStringLiteral("a.htm"), "<title>here</title><p>words</p>");
+    frame.active->modes = std::make_unique<DocumentModes>(frame, *frame.active);
+    frame.active->modes->LoadControls();
+    frame.active->modes->PlaceAtResize();
+    frame.window->activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(frame.window.get()));
+    for (const auto& [tab, name] : {std::pair{"View", "WebBrowser1"}, {"Design", "DHTMLEdit"}}) {
+        frame.Box().setFocus();
+        ASSERT_TRUE(frame.Box().hasFocus());
+        ModeStrip_Click(frame, QString::fromLatin1(tab));
+        const auto* control = frame.active->findChild<QWidget*>(QString::fromLatin1(name));
+        ASSERT_TRUE(Probe::Until(*control, QStringLiteral("document.title === 'here'")));
+        // The engine's first view makes the system's window anew; here no window manager makes it active
+        // again.
+        frame.window->activateWindow();
+        EXPECT_TRUE(QTest::qWaitFor([&] { return control->isAncestorOf(QApplication::focusWidget()); }));
+        frame.prompts.messageAnswers = {MsgAnswer::No};
+        ModeStrip_Click(frame, QStringLiteral("Edit"));
+        EXPECT_TRUE(QTest::qWaitFor([&] { return frame.Box().hasFocus(); }))
+            << tab << " "
+            << (QApplication::focusWidget() ? QApplication::focusWidget()->metaObject()->className()
+                                            : "none");
+    }
 }
 
 TEST(WebPlugin, TypingInDesignComesBackIntoTheFile) {
