@@ -62,13 +62,14 @@ int main(int argc, char* argv[]) {
     frmTarnwick frame(store, ask);
     const QString commandLine = CommandLine(QCoreApplication::arguments().mid(1), QDir::currentPath());
     Startup startup(frame, commandLine, [&] { return !instance.IsFirst(); });
-    if (instance.IsFirst())
+    if (instance.IsFirst()) {
+        QApplication::setWindowIcon(ProgramIcon());
         frame.LoadedForms().Show<frmSplash>(QStringLiteral("frmSplash"), frame);
+    }
     if (!startup.Run()) {
         instance.HandOver(commandLine);
         return 0;
     }
-    QApplication::setWindowIcon(ProgramIcon());
     ConnectFrame(frame, instance);
     frame.show();
     return QApplication::exec();
