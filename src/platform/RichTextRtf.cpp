@@ -3,17 +3,26 @@
 
 #include "platform/RtfReader.h"
 
+namespace {
+
+/// In bytes of UTF-8. Every character of a document is one of at most three.
+int EncodedLength(QStringView text) {
+    int length = 0;
+    for (const QChar c : text)
+        length += c.unicode() < 0x80 ? 1 : c.unicode() < 0x800 ? 2 : 3;
+    return length;
+}
+
+} // namespace
+
 void RichTextBox::SetSelRTF(const QString& rtf) {
     const Settling settling(*this);
     const RtfText content = ReadRtf(rtf, rawLineEnds_);
     const QByteArray bytes = content.text.toUtf8();
-    const bool ascii = bytes.size() == content.text.size();
     StyleRuns styles;
     qsizetype from = 0;
     for (const RtfRun& run : content.runs) {
-        const auto characters = QStringView(content.text).mid(from, run.length);
-        const qsizetype length = ascii ? characters.size() : characters.toUtf8().size();
-        styles.Append(static_cast<int>(length), StyleFor(run.color));
+        styles.Append(EncodedLength(QStringView(content.text).mid(from, run.length)), StyleFor(run.color));
         from += run.length;
     }
     Replace(Selection(), bytes, styles);

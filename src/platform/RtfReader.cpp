@@ -4,6 +4,8 @@
 #include "platform/Cp1252.h"
 
 #include <algorithm>
+#include <optional>
+#include <utility>
 
 namespace {
 
@@ -88,6 +90,22 @@ class Reader {
         return c == u'\\' || c == u'{' || c == u'}' || (!keepLineEnds_ && (c == u'\r' || c == u'\n'));
     }
 
+    /// The end of the plain text that starts here: a text is mostly that, so this is where the time goes.
+    qsizetype EndOfPlain() const {
+        const QChar* const start = rtf_.constData();
+        const QChar* const end = start + rtf_.size();
+        const QChar* at = start + pos_;
+        // All special characters but line ends stand at or above the backslash.
+        if (keepLineEnds_) {
+            while (at != end && (*at < u'\\' || !IsSpecial(*at)))
+                ++at;
+        } else {
+            while (at != end && !IsSpecial(*at))
+                ++at;
+        }
+        return at - start;
+    }
+
     void ReadPlain() {
         if (!keepLineEnds_ && (rtf_[pos_] == u'\r' || rtf_[pos_] == u'\n')) {
             ++pos_;
@@ -99,9 +117,7 @@ class Reader {
             return;
         }
         const qsizetype start = pos_;
-        const auto end =
-            std::find_if(rtf_.begin() + pos_, rtf_.end(), [this](QChar c) { return IsSpecial(c); });
-        pos_ = end - rtf_.begin();
+        pos_ = EndOfPlain();
         const QStringView piece = QStringView(rtf_).mid(start, pos_ - start);
         if (state_.target == GroupState::Target::ColorTable)
             ReadTableText(piece);
