@@ -30,7 +30,7 @@ QString TimeFormat(const QLocale& locale) {
 StatusBar::StatusBar(QWidget* parent)
     : QStatusBar(parent), date_(MakePanel(QStringLiteral("Panel1"), tr("Date"), this)),
       time_(MakePanel(QStringLiteral("Panel2"), tr("Time"), this)),
-      program_(MakePanel(QStringLiteral("Panel3"), tr("Status"), this)) {
+      program_(MakePanel(QStringLiteral("Panel3"), QString(), this)) {
     setObjectName(QStringLiteral("StatusBar"));
     addWidget(date_);
     addWidget(time_);

@@ -252,6 +252,14 @@ void frmTarnwick::FocusDocument() {
         document->txtInput().SetFocus();
 }
 
+void frmTarnwick::WakeDocument() {
+    const QList<QMdiSubWindow*> documents = area_->subWindowList(QMdiArea::ActivationHistoryOrder);
+    if (!documents.isEmpty() && !area_->activeSubWindow())
+        area_->setActiveSubWindow(documents.last());
+    if (isActiveWindow())
+        FocusDocument();
+}
+
 void frmTarnwick::SetHooks(bool activation, bool drops) {
     activationHook_ = activation;
     fileDrop_->SetActive(drops);
@@ -301,8 +309,12 @@ void frmTarnwick::closeEvent(QCloseEvent* event) {
 }
 
 bool frmTarnwick::event(QEvent* event) {
-    if (event->type() == QEvent::WindowActivate)
+    if (event->type() == QEvent::WindowActivate) {
         FocusDocument();
+        // A document that was opened before the frame was on the screen is none of the area's active ones yet, and
+        // the area wakes up behind this event.
+        QMetaObject::invokeMethod(this, &frmTarnwick::WakeDocument, Qt::QueuedConnection);
+    }
     // Whatever came while a modal dialog was up.
     if (event->type() == QEvent::WindowUnblocked && !takingArrivals_)
         QMetaObject::invokeMethod(

@@ -60,6 +60,7 @@ class frmTarnwick final : public QMainWindow, public Frame {
     void ComeToFront();
     /// Gives the focus to the text of the active document.
     void FocusDocument();
+    void WakeDocument();
     /// Whether the frame hears of the application becoming active, and of files dropped on it.
     void SetHooks(bool activation, bool drops);
 

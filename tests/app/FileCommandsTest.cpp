@@ -5,6 +5,7 @@
 #include "app/RecentFiles.h"
 #include "builders/BuilderState.h"
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>
 

@@ -180,6 +180,7 @@ class Desk:
                 return None
             try:
                 if node.name == name and (role is None or node.getRoleName() == role):
+                    node.clear_cache()  # what a state was when it was first asked for says nothing now
                     state = node.getState()
                     if state.contains(pyatspi.STATE_SHOWING) and (not focused or state.contains(pyatspi.STATE_FOCUSED)):
                         return node
@@ -193,9 +194,31 @@ class Desk:
         return wait_for("the widget " + name, lambda: walk(self.application()))
 
     def text(self):
-        """The text of the document that has the focus; waits until one has."""
-        text = self.widget("Document text", "text", focused=True).queryText()
+        """The text of the only document, or of the one that has the focus where several are open."""
+        widgets = [one for one in self.widgets("Document text", "text")]
+        widget = widgets[0] if len(widgets) == 1 else self.widget("Document text", "text", focused=True)
+        text = widget.queryText()
         return text.getText(0, text.characterCount)
+
+    def widgets(self, name, role):
+        """All showing widgets of a name and role name."""
+        import pyatspi
+        found = []
+
+        def walk(node, depth=0):
+            if node is None or depth > 30:
+                return
+            try:
+                if node.name == name and node.getRoleName() == role:
+                    node.clear_cache()
+                    if node.getState().contains(pyatspi.STATE_SHOWING):
+                        found.append(node)
+                for child in node:
+                    walk(child, depth + 1)
+            except Exception:  # the tree changes while it is walked
+                return
+        walk(self.application())
+        return found
 
     def wait_text(self, part):
         """Waits until the document that has the focus holds a text."""
@@ -209,6 +232,7 @@ class Desk:
             if node is None or depth > 30:
                 return False
             try:
+                node.clear_cache()
                 if text in (node.name or "") and node.getState().contains(pyatspi.STATE_SHOWING):
                     return True
                 return any(walk(child, depth + 1) for child in node)
