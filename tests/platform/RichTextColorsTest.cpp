@@ -20,6 +20,11 @@ TEST_F(RichTextColorsTest, SelRtfWritesColoredTextAtTheSelection) {
 }
 
 TEST_F(RichTextColorsTest, RawLineEndsInRtfFollowTheMode) {
+#ifdef Q_OS_WIN
+    EXPECT_EQ(box.RawLineEndMode(), RawLineEnds::Skip);
+#else
+    EXPECT_EQ(box.RawLineEndMode(), RawLineEnds::Keep);
+#endif
     box.SetRawLineEndMode(RawLineEnds::Keep);
     box.SetSelRTF(table + u"a\nb\\par c}"_s);
     EXPECT_EQ(box.Text(), u"a\nb\r\nc"_s);
@@ -149,6 +154,28 @@ TEST_F(RichTextColorsTest, BackColorFillsTheControl) {
     box.SetBackColor(0x804020);
     const QImage image = box.viewport()->grab().toImage();
     EXPECT_EQ(image.pixelColor(300, 300), QColor(0x20, 0x40, 0x80));
+}
+
+TEST_F(RichTextColorsTest, TheSelectionHasTheDesktopsColors) {
+    const auto backgroundPixels = [&](QColor color) {
+        const QRect letters = box.CharacterRect(0) | box.CharacterRect(3);
+        const QImage image = box.viewport()->grab().toImage();
+        int count = 0;
+        for (int x = letters.left(); x < letters.right(); ++x) {
+            for (int y = letters.top(); y < letters.bottom(); ++y)
+                count += image.pixelColor(x, y) == color ? 1 : 0;
+        }
+        return count;
+    };
+    box.SetText(u"iiii"_s);
+    Select(0, 4);
+    const QColor desktop = box.palette().color(QPalette::Active, QPalette::Highlight);
+    EXPECT_GT(backgroundPixels(desktop), 20);
+    QPalette other = box.palette();
+    other.setColor(QPalette::Highlight, QColor(1, 99, 33));
+    box.setPalette(other);
+    EXPECT_GT(backgroundPixels(QColor(1, 99, 33)), 20);
+    EXPECT_EQ(backgroundPixels(desktop), 0);
 }
 
 TEST_F(RichTextColorsTest, CaretStandsOutFromTheBackground) {
