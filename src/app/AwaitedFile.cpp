@@ -8,8 +8,6 @@
 
 #include <algorithm>
 #include <QApplication>
-#include <QPointer>
-#include <QWidget>
 
 using namespace std::chrono_literals;
 
@@ -36,9 +34,11 @@ AwaitedFile::AwaitedFile(Frame& frame, Document& document, const QString& path)
 }
 
 AwaitedFile::~AwaitedFile() {
+    if (!frameWindow_)
+        return;
     // Posted, so that it comes to nothing where the window goes because the frame itself does.
     QMetaObject::invokeMethod(
-        frameWindow_, [&frame = frame_] { frame.SetStatusPanel(QString()); }, Qt::QueuedConnection);
+        frameWindow_.data(), [&frame = frame_] { frame.SetStatusPanel(QString()); }, Qt::QueuedConnection);
 }
 
 std::chrono::milliseconds AwaitedFile::NextPause(std::chrono::milliseconds last) {
@@ -46,7 +46,8 @@ std::chrono::milliseconds AwaitedFile::NextPause(std::chrono::milliseconds last)
 }
 
 void AwaitedFile::TryAgain() {
-    if (!document_.Caption().isEmpty() || IsLoaded(frame_, path_) || document_.Window().isHidden()) {
+    if (!frameWindow_ || document_.Window().isHidden() || !document_.Caption().isEmpty() ||
+        IsLoaded(frame_, path_)) {
         deleteLater();
         return;
     }

@@ -3,8 +3,10 @@
 
 #include <chrono>
 #include <QObject>
+#include <QPointer>
 #include <QString>
 #include <QTimer>
+#include <QWidget>
 
 class Document;
 class Frame;
@@ -31,7 +33,7 @@ class AwaitedFile : public QObject {
 
     Frame& frame_;
     Document& document_;
-    QWidget* frameWindow_;
+    QPointer<QWidget> frameWindow_; ///< null once the frame is gone: a closed window may go after it
     QString path_;
     QTimer timer_;
 };

@@ -1,15 +1,16 @@
 // A path that can't be read: its window waits, and the program goes on.
 #include "app/AwaitedFile.h"
 
+#include "app/DocumentTabs.h"
 #include "app/FilesFrame.h"
+#include "app/RealFrame.h"
 
-#include <gmock/gmock.h>
 #include <QDialog>
 #include <QDir>
+#include <QLabel>
 #include <QTest>
 
 using namespace std::chrono_literals;
-using testing::Contains;
 
 namespace {
 
@@ -157,6 +158,47 @@ TEST_F(AwaitedFiles, WaitsUntilAQuestionIsAnswered) {
     EXPECT_EQ(frame.active->Caption(), QString());
     question.close();
     Until([&] { return frame.active->Caption() == path; });
+}
+
+// The program's own frame: windows, tabs and status bar as they really are.
+class AwaitedFileInTheFrame : public FrameTest {};
+
+TEST_F(AwaitedFileInTheFrame, ComesInWhileTheUserWorksElsewhere) {
+    ProgramRun run;
+    const QString path = FilesFrame::At(QStringLiteral("late.htm"));
+    ASSERT_TRUE(run.Start(path));
+    frmTemplate& waiting = run.Active();
+    // The caret's line comes there too; the path is named again at the next try.
+    const auto named = [&] {
+        return run.Find<QLabel>("Panel3").text() == QStringLiteral("Waiting for ") + path;
+    };
+    EXPECT_TRUE(QTest::qWaitFor(named, 20'000));
+    EXPECT_EQ(waiting.Caption(), QString());
+    frmTemplate& working = run.New();
+    working.txtInput().SetSelText(QStringLiteral("work"));
+    FilesFrame::Make(QStringLiteral("late.htm"), "x<B>");
+    EXPECT_TRUE(QTest::qWaitFor([&] { return waiting.Caption() == path; }, 20'000));
+    EXPECT_EQ(waiting.txtInput().Text(), QStringLiteral("x<B>"));
+    EXPECT_FALSE(waiting.Modified());
+    EXPECT_EQ(working.txtInput().Text(), QStringLiteral("work"));
+    EXPECT_EQ(&run.Active(), &working);
+    EXPECT_EQ(run.Find<DocumentTabs>("TabStrip2").count(), 1);
+    working.SetModified(false);
+    EXPECT_TRUE(run.Stop());
+}
+
+TEST_F(AwaitedFileInTheFrame, ClosingItsWindowOrStoppingTheProgramEndsIt) {
+    ProgramRun run;
+    ASSERT_TRUE(run.Start(FilesFrame::At(QStringLiteral("late.htm"))));
+    run.frame->Commands().Run(QStringLiteral("mnuClose"));
+    const auto waiting = [&] { return run.frame->findChildren<AwaitedFile*>().size(); };
+    EXPECT_TRUE(QTest::qWaitFor([&] { return waiting() == 0; }, 20'000));
+    run.frame->OpenDocumentFile(FilesFrame::At(QStringLiteral("later.htm")));
+    EXPECT_EQ(waiting(), 1);
+    EXPECT_TRUE(run.Stop());
+    EXPECT_TRUE(run.prompts.asked.isEmpty());
+    run.frame.reset();
+    QCoreApplication::sendPostedEvents();
 }
 
 TEST(AwaitedFilePause, DoublesUpToTwoSeconds) {
