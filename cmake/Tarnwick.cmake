@@ -1,6 +1,8 @@
 # What every target of ours has in common: strict warnings, as errors, and the project's source folder as include root.
 function(tarnwick_strict target)
   target_compile_options(${target} PRIVATE -Wall -Wextra -Wpedantic -Wconversion -Werror)
+  # g++ counts signedness apart from -Wconversion; clang is asked for the same set.
+  target_compile_options(${target} PRIVATE $<$<CXX_COMPILER_ID:Clang>:-Wno-sign-conversion>)
   target_compile_definitions(${target} PRIVATE QT_NO_CAST_TO_ASCII QT_NO_FOREACH QT_NO_CONTEXTLESS_CONNECT)
   target_include_directories(${target} PUBLIC ${PROJECT_SOURCE_DIR}/src)
   target_include_directories(${target} SYSTEM PRIVATE ${CMAKE_CURRENT_BINARY_DIR}/${target}_autogen/include)

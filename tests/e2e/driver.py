@@ -222,7 +222,7 @@ class Desk:
 
     def wait_text(self, part):
         """Waits until the document that has the focus holds a text."""
-        return wait_for("the text " + repr(part), lambda: part in self.text() and self.text())
+        return wait_for("the text " + repr(part), lambda: part in self.text() if part else self.text() == "")
 
     def widget_text_contains(self, text):
         """Whether any showing widget's name or text holds a text."""
