@@ -56,7 +56,7 @@ def with_modes(desk):
 
 
 def pixel(desk, x, y):
-    text = subprocess.run(["import", "-window", "root", "-crop", "1x1+%d+%d" % (x, y), "txt:-"], env=desk.env,
+    text = subprocess.run(["import", "-window", "root", "-crop", "1x1+%d+%d" % (x, y), "-depth", "8", "txt:-"], env=desk.env,
                           capture_output=True, text=True).stdout
     return text.split("#")[-1][:6].upper()
 
