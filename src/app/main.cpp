@@ -44,6 +44,14 @@ void ConnectFrame(frmTarnwick& frame, SingleInstance& instance) {
     });
 }
 
+/// The start screen is only looked at: it must not take the focus, which the document needs when the frame is up.
+void ShowStartScreen(frmTarnwick& frame) {
+    auto& splash = frame.LoadedForms().Load<frmSplash>(QStringLiteral("frmSplash"), frame);
+    splash.setAttribute(Qt::WA_ShowWithoutActivating);
+    splash.setWindowFlag(Qt::WindowDoesNotAcceptFocus);
+    splash.show();
+}
+
 } // namespace
 
 int main(int argc, char* argv[]) {
@@ -64,7 +72,7 @@ int main(int argc, char* argv[]) {
     Startup startup(frame, commandLine, [&] { return !instance.IsFirst(); });
     if (instance.IsFirst()) {
         QApplication::setWindowIcon(ProgramIcon());
-        frame.LoadedForms().Show<frmSplash>(QStringLiteral("frmSplash"), frame);
+        ShowStartScreen(frame);
     }
     if (!startup.Run()) {
         instance.HandOver(commandLine);

@@ -220,6 +220,16 @@ class Desk:
         walk(self.application())
         return found
 
+    def wait_page(self, part):
+        """Waits until a page that came with the start stands there and the keys reach it; the caret is at its top."""
+        self.wait_text(part)
+        for key, place in (("ctrl+End", lambda text: text.characterCount), ("ctrl+Home", lambda text: 0)):
+            def arrived():
+                self.key(key)
+                text = self.widget("Document text", "text").queryText()
+                return text.caretOffset == place(text)
+            wait_for("the caret after " + key, arrived)
+
     def wait_text(self, part):
         """Waits until the document that has the focus holds a text."""
         return wait_for("the text " + repr(part), lambda: part in self.text() if part else self.text() == "")

@@ -11,7 +11,7 @@ def fill(desk, label, text):
 def page(desk, data=b""):
     path = desk.write("page.htm", data)
     desk.run(path)
-    desk.wait_text(data.decode("cp1252").strip()[:10])
+    desk.wait_page(data.decode("cp1252").strip()[:10])
     return path
 
 

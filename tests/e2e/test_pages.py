@@ -9,7 +9,7 @@ PAGE = b"<HTML>\r\n<BODY>\r\n<P>One caf\xe9</P>\r\n</BODY>\r\n</HTML>\r\n"
 def test_opens_types_and_saves(desk):
     path = desk.write("one.htm", PAGE)
     desk.run(path)
-    desk.wait_text("One caf\u00e9")
+    desk.wait_page("One caf\u00e9")
     desk.type("hello")
     desk.key("ctrl+s")
     wait_for("the saved file", lambda: read(path) == b"hello" + PAGE + b"\r\n")
@@ -22,7 +22,7 @@ def test_opens_types_and_saves(desk):
 def test_closing_asks_and_cancel_keeps_everything(desk):
     path = desk.write("one.htm", PAGE)
     desk.run(path)
-    desk.wait_text("One")
+    desk.wait_page("One")
     desk.type("x")
     desk.key("alt+F4")
     desk.wait_window("Save Document?")
@@ -39,7 +39,7 @@ def test_closing_asks_and_cancel_keeps_everything(desk):
 def test_closing_with_yes_saves(desk):
     path = desk.write("one.htm", PAGE)
     desk.run(path)
-    desk.wait_text("One")
+    desk.wait_page("One")
     desk.type("x")
     desk.key("ctrl+w")
     desk.wait_window("Save Document?")
@@ -52,7 +52,7 @@ def test_a_second_copy_hands_its_page_over(desk):
     first = desk.write("one.htm", PAGE)
     second = desk.write("two.htm", b"<P>Second</P>\n")
     desk.run(first)
-    desk.wait_text("One")
+    desk.wait_page("One")
     result = subprocess.run([PROGRAM, "two.htm"], env=desk.env, cwd=desk.home, capture_output=True, timeout=30)
     assert result.returncode == 0 and not result.stdout and not result.stderr, result
     desk.widget("two.htm", "page tab")
@@ -65,7 +65,7 @@ def test_a_second_copy_hands_its_page_over(desk):
 def test_recent_files_come_back_in_the_menu(desk):
     path = desk.write("one.htm", PAGE)
     desk.run(path)
-    desk.wait_text("One")
+    desk.wait_page("One")
     desk.key("alt+F4")
     assert desk.ended() == 0
     desk.run()

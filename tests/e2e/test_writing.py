@@ -29,8 +29,8 @@ def test_writes_a_small_page(desk):
     desk.key("ctrl+b")
     desk.type("bold")
     next_line(desk)
-    desk.key("alt+t", "f", "Return")  # Tags, Font Options, its first entry
-    desk.wait_text("<BIG></BIG>")
+    desk.key("alt+t", "p", "Return")  # Tags, Paragraph, its first entry
+    desk.wait_text("<BLOCKQUOTE></BLOCKQUOTE>")
     desk.type("big")
     next_line(desk)
     desk.key("alt+t", "h", "Return")  # Tags, Characters, its first entry
@@ -47,14 +47,14 @@ def test_writes_a_small_page(desk):
     desk.type("top")
     desk.key("Return")
     desk.wait_text('<A NAME= "top"></A>')
-    assert save_as(desk, "page.htm") == (b'<H1>Title</H1>\r\n<B>bold</B>\r\n<BIG>big</BIG>\r\n&#160;caf&eacute;\r\n'
+    assert save_as(desk, "page.htm") == (b'<H1>Title</H1>\r\n<B>bold</B>\r\n<BLOCKQUOTE>big</BLOCKQUOTE>\r\n&#160;caf&eacute;\r\n'
                                          b'<DIV>own</DIV>\r\n<A NAME= "top"></A>\r\n')
 
 
 def test_undo_and_cut_and_paste_by_the_keys_of_the_desktop(desk):
     path = desk.write("one.htm", b"<B>one</B>\r\n")
     desk.run(path)
-    desk.wait_text("one")
+    desk.wait_page("one")
     desk.key("ctrl+a", "ctrl+c", "ctrl+End", "ctrl+v")
     desk.wait_text("<B>one</B>\r\n<B>one</B>\r\n")
     desk.key("ctrl+z")
@@ -68,7 +68,7 @@ def test_previews_the_page_in_the_browser_of_the_options(desk):
     desk.settings("Browser Options", Web=browser)
     path = desk.write("a b.htm", b"<P>x</P>\r\n")
     desk.run(path)
-    desk.wait_text("x")
+    desk.wait_page("x")
     desk.type("y")
     desk.key("ctrl+t")
     wait_for("the browser", lambda: read(record))
