@@ -71,7 +71,7 @@ QString TypingFrame::Marked() {
 }
 
 frmDropDown* TypingFrame::List() {
-    return Lists().List();
+    return qobject_cast<frmDropDown*>(LoadedForms().Find(frmDropDown::Name()));
 }
 
 bool TypingFrame::ListShown() {
