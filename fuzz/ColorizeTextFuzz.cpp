@@ -1,11 +1,12 @@
-// The colouring pass on any text: what stands in the control is what the scan promises, and every character has a colour.
+// The colouring pass on any text: what stands in the control is what the scan promises, and every character
+// has a colour.
 #include "editor/ColorizeText.h"
+#include "FuzzApplication.h"
 
 #include "platform/Cp1252.h"
 #include "support/TestFrame.h"
 
 #include <cstdlib>
-#include <QApplication>
 
 namespace {
 
@@ -28,11 +29,8 @@ QString Promised(const QString& text) {
 } // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
-    static int argc = 1;
-    static char name[] = "fuzz";
-    static char* argv[] = {name, nullptr};
-    static QApplication application(argc, argv);
-    static TestFrame frame;
+    StartFuzzApplication();
+    static TestFrame& frame = *new TestFrame;
 
     const QString text = Cp1252::FromBytes(QByteArrayView(data, static_cast<qsizetype>(size)));
     ColorizeText(frame, text, false, false);

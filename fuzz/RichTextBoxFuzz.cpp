@@ -1,12 +1,12 @@
 // Edits of every kind in any order: the control agrees with a plain string about its text, undo leads back to
 // the start and redo to the end, with the same colours.
+#include "FuzzApplication.h"
 #include "platform/RichTextBox.h"
 
 #include <algorithm>
 #include <cstddef>
 #include <cstdint>
 #include <cstdlib>
-#include <QApplication>
 
 namespace {
 
@@ -82,10 +82,7 @@ void EditOnce(RichTextBox& box, QString& model, Source& source) {
 } // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-    static int argc = 1;
-    static char name[] = "fuzz";
-    static char* argv[] = {name, nullptr};
-    static QApplication application(argc, argv);
+    StartFuzzApplication();
 
     RichTextBox box;
     box.SetRawLineEndMode(RawLineEnds::Keep);

@@ -4,12 +4,12 @@
 #include "editor/CharacterTable.h"
 #include "editor/frmDropDown.h"
 #include "editor/WriteColoredText.h"
+#include "FuzzApplication.h"
 #include "platform/Cp1252.h"
 #include "platform/RtfReader.h"
 #include "support/TypingFrame.h"
 
 #include <cstdlib>
-#include <QApplication>
 #include <vector>
 
 namespace {
@@ -156,11 +156,7 @@ void TypeWithLists(TypingFrame& frame, const uint8_t* data, size_t size) {
 } // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
-    static int argc = 1;
-    static char name[] = "fuzz";
-    static char* argv[] = {name, nullptr};
-    // Never taken down: at the process's end Qt's own statics go before an application that is one.
-    [[maybe_unused]] static const auto* application = new QApplication(argc, argv);
+    StartFuzzApplication();
     static TypingFrame& frame = *new TypingFrame;
 
     frame.LoadedForms().Unload(frmDropDown::Name());

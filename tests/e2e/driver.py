@@ -64,6 +64,12 @@ class Desk:
         self.start(["openbox"])
         wait_for("the window manager", lambda: "window id" in subprocess.run(
             ["xprop", "-root", "_NET_SUPPORTING_WM_CHECK"], env=self.env, capture_output=True, text=True).stdout)
+        # A keyboard that has accented letters: for a key that there is none of, xdotool changes the keyboard for a moment
+        # only, and a busy program may look too late.
+        subprocess.run(["setxkbmap", "-layout", "us", "-variant", "altgr-intl"], env=self.env, check=True)
+        # The first key of a display changes its keyboard, and the window manager takes hold of its own keys anew: what
+        # is pressed meanwhile may pass it by. So that key is one that nobody waits for.
+        self.key("shift")
         self.start(["/usr/libexec/at-spi-bus-launcher", "--launch-immediately"])
         if not first_run:
             self.settings("Window Options", FirstTimeAgain=1)
