@@ -2,6 +2,8 @@
 // peak. Ends with 1 where the cost of a byte grows with the page, or the memory is more than 16 bytes a byte.
 #include "app/FileCommands.h"
 #include "app/OpenDocument.h"
+#include "editor/ColorizeText.h"
+#include "RunBenchmarks.h"
 #include "support/FreshUser.h"
 #include "support/TestFrame.h"
 
@@ -98,6 +100,26 @@ BENCHMARK(Save)
     ->Complexity(benchmark::oN)
     ->UseRealTime();
 
+/// What the options do to the page in front of them when their colours are taken over.
+void Recolour(benchmark::State& state) {
+    SavingFrame frame;
+    OpenDocumentFile(frame, PageFile(state.range(0)));
+    for ([[maybe_unused]] auto step : state) {
+        const QString text = frame.Box().Text();
+        frame.Box().SetText(QString());
+        ColorizeText(frame, text, false, true);
+        frame.Box().EmptyUndoBuffer();
+    }
+    state.SetComplexityN(state.range(0));
+    state.SetBytesProcessed(state.iterations() * state.range(0));
+}
+BENCHMARK(Recolour)
+    ->Arg(100 * kilobyte)
+    ->Arg(megabyte)
+    ->Arg(10 * megabyte)
+    ->Unit(benchmark::kMillisecond)
+    ->Complexity(benchmark::oN);
+
 /// The most memory that this process ever held, in bytes.
 double PeakMemory() {
     QFile status(QStringLiteral("/proc/self/status"));
@@ -157,18 +179,13 @@ bool CostIsLinear(const char* what, const QByteArray& row) {
 } // namespace
 
 int main(int argc, char** argv) {
-    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
-        qputenv("QT_QPA_PLATFORM", "offscreen");
-    FreshUser();
+    PrepareBenchmarks();
     const QApplication application(argc, argv);
     if (argc == 3 && qstrcmp(argv[1], "--open") == 0)
         return OpenAndTellMemory(QFile::decodeName(argv[2]));
-    benchmark::Initialize(&argc, argv);
-    if (benchmark::ReportUnrecognizedArguments(argc, argv))
-        return 1;
-    benchmark::RunSpecifiedBenchmarks();
+    const bool shapesHold = RunBenchmarks(argc, argv) == 0;
     const bool linear[] = {CostIsLinear("words", words), CostIsLinear("lines", lines),
                            CostIsLinear("braces", braces)};
     const bool lean = MemoryIsLean();
-    return linear[0] && linear[1] && linear[2] && lean ? 0 : 1;
+    return shapesHold && linear[0] && linear[1] && linear[2] && lean ? 0 : 1;
 }

@@ -1,17 +1,12 @@
-// A key in a small page and in the middle of ten megabytes. Ends with 1 where the cost grows with the page.
-#include "support/FreshUser.h"
+// A key costs the same in a small page and in the middle of ten megabytes.
 #include "support/TypingFrame.h"
 
 #include <benchmark/benchmark.h>
-#include <cstdio>
-#include <QApplication>
 
 namespace {
 
 constexpr int64_t smallPage = 10'000;
 constexpr int64_t largePage = 10'000'000;
-/// Ten megabytes may cost this much more than ten kilobytes: noise, not growth.
-constexpr double mostGrowth = 3;
 
 /// Lines of tags and words, with the caret in the middle, behind a line's text.
 void OpenPage(TypingFrame& frame, int64_t size, bool accented) {
@@ -70,42 +65,4 @@ BENCHMARK(Blank)->Apply(Sizes);
 BENCHMARK(ClosedTag)->Apply(Sizes);
 BENCHMARK(Entity)->Apply(Sizes);
 
-/// Shows what was measured, and compares the large page with the small one.
-class GrowthReporter : public benchmark::ConsoleReporter {
-  public:
-    void ReportRuns(const std::vector<Run>& runs) override {
-        ConsoleReporter::ReportRuns(runs);
-        for (const Run& run : runs) {
-            if (run.run_type != Run::RT_Iteration)
-                continue;
-            const double cost = run.cpu_accumulated_time / static_cast<double>(run.iterations);
-            if (run.complexity_n == smallPage)
-                small_ = cost;
-            else if (run.complexity_n == largePage && small_ > 0)
-                Compare(run.run_name.function_name, cost / small_);
-        }
-    }
-    bool Flat() const { return flat_; }
-
-  private:
-    void Compare(const std::string& name, double growth) {
-        std::printf("%s: ten megabytes cost %.2f times ten kilobytes\n", name.c_str(), growth);
-        flat_ = flat_ && growth <= mostGrowth;
-    }
-
-    double small_ = 0;
-    bool flat_ = true;
-};
-
 } // namespace
-
-int main(int argc, char** argv) {
-    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
-        qputenv("QT_QPA_PLATFORM", "offscreen");
-    FreshUser();
-    const QApplication application(argc, argv);
-    benchmark::Initialize(&argc, argv);
-    GrowthReporter reporter;
-    benchmark::RunSpecifiedBenchmarks(&reporter);
-    return reporter.Flat() ? 0 : 1;
-}

@@ -1,5 +1,4 @@
-// Judges benchmarks by their shape, not by the clock: what a benchmark says of its complexity must hold from
-// its second longest input to its longest.
+// Judges benchmarks by their shape, not by the clock: what a benchmark says of its complexity must hold.
 #pragma once
 
 #include <benchmark/benchmark.h>
@@ -10,7 +9,8 @@
 #include <vector>
 
 /// Prints what benchmarks take, as the console reporter does, and remembers which of them outgrow their
-/// shape.
+/// shape: one of constant time is held from its shortest input to its longest, any other from its second
+/// longest to its longest, since its short ones are mostly what each run costs anyway.
 class ShapeReporter final : public benchmark::ConsoleReporter {
   public:
     void ReportRuns(const std::vector<Run>& runs) override {
@@ -21,11 +21,13 @@ class ShapeReporter final : public benchmark::ConsoleReporter {
         }
     }
 
-    /// Whether all shapes held; says on the error stream which did not.
+    /// Says how each grew, and on the error stream which grew too much; whether all shapes held.
     bool AllHold() {
         bool hold = true;
         for (const auto& [name, series] : series_) {
-            const double growth = series.previous > 0 ? series.last / series.previous : 1;
+            const double from = series.constant ? series.first : series.previous;
+            const double growth = from > 0 ? series.last / from : 1;
+            GetOutputStream() << name << " grows " << growth << " times beside its shape\n";
             if (growth <= mostGrowth)
                 continue;
             GetErrorStream() << name << " outgrows its shape " << growth << " times\n";
@@ -38,16 +40,22 @@ class ShapeReporter final : public benchmark::ConsoleReporter {
     /// Inputs grow eightfold or more, so that what costs a whole order more shows itself beyond all noise.
     static constexpr double mostGrowth = 3;
 
-    /// Time for what the shape says is one unit of work, at the last two lengths of input.
+    /// Time for what the shape says is one unit of work, at the first input and at the last two.
     struct Series {
+        bool constant = false;
+        double first = 0;
         double previous = 0;
         double last = 0;
     };
 
     void Note(const Run& run) {
-        const double units = run.complexity == benchmark::oN ? static_cast<double>(run.complexity_n) : 1;
         Series& series = series_[run.run_name.function_name];
-        series.previous = std::exchange(series.last, run.GetAdjustedCPUTime() / units);
+        series.constant = run.complexity == benchmark::o1;
+        const double units = run.complexity == benchmark::oN ? static_cast<double>(run.complexity_n) : 1;
+        const double cost = run.GetAdjustedCPUTime() / units;
+        if (series.last <= 0)
+            series.first = cost;
+        series.previous = std::exchange(series.last, cost);
     }
 
     std::map<std::string, Series> series_;
