@@ -3,49 +3,22 @@
 
 #include "app/ProgramState.h"
 #include "builders/frmBulletList.h"
-#include "platform/Cp1252.h"
+#include "support/CommandTest.h"
 #include "support/FreshUser.h"
-#include "support/TestFrame.h"
 
-#include <ctime>
+#include <algorithm>
 #include <gtest/gtest.h>
+#include <QApplication>
+#include <QClipboard>
 #include <QFile>
 #include <QtTest/QTest>
 
 namespace {
 
-/// The bytes of a literal as characters of code page 1252.
-QString Text(const char* text) {
-    return Cp1252::FromBytes(text);
-}
-
-class ToolbarCommandsTest : public testing::Test {
+class ToolbarCommandsTest : public CommandTest {
   protected:
     ToolbarCommandsTest() { FillToolbarCommands(frame); }
-
-    void Use(bool lower, bool colored) {
-        frame.Store().WriteFlag(Keys::LowerCaseTags, lower);
-        frame.Store().WriteFlag(Keys::ColoredTags, colored);
-    }
-    /// "[" and "]" mark the selection, "|" the caret.
-    void Put(const char* marked) {
-        QString text = Text(marked);
-        const auto caret = static_cast<int>(text.indexOf(u'|'));
-        const auto start = static_cast<int>(text.indexOf(u'['));
-        const auto end = static_cast<int>(text.indexOf(u']')) - 1;
-        frame.SetText(text.remove(u'|').remove(u'[').remove(u']'));
-        frame.Box().SetSelStart(caret >= 0 ? caret : start);
-        if (start >= 0)
-            frame.Box().SetSelLength(end - start);
-    }
-    void Run(const char* command) { frame.Commands().Run(Text(command)); }
-    /// The text with "|" at the caret.
-    QString Marked() { return frame.Box().Text().insert(frame.Box().SelStart(), u'|'); }
-
-    TestFrame frame;
 };
-
-using Stretches = std::vector<std::pair<QString, int>>;
 
 TEST_F(ToolbarCommandsTest, PairsStandAroundTheSelectionOrTheCaret) {
     struct Row {
@@ -69,18 +42,9 @@ TEST_F(ToolbarCommandsTest, PairsStandAroundTheSelectionOrTheCaret) {
         {"tb_h6", "<H6>|</H6>", "<h6>|</h6>"},
     };
     for (const Row& row : rows)
-        for (const bool lower : {false, true})
-            for (const bool colored : {false, true}) {
-                SCOPED_TRACE(testing::Message() << row.name << lower << colored);
-                Use(lower, colored);
-                const QString written = Text(lower ? row.lower : row.upper);
-                Put("a|b");
-                Run(row.name);
-                EXPECT_EQ(Marked(), u'a' + written + u'b');
-                Put("a[X y]b");
-                Run(row.name);
-                EXPECT_EQ(Marked(), u'a' + QString(written).replace(u'|', Text("X y|")) + u'b');
-            }
+        UnderAllSettings(row.name, [&](bool lower, bool /*colored*/) {
+            ExpectWraps(row.name, Latin(lower ? row.lower : row.upper));
+        });
     EXPECT_TRUE(frame.prompts.asked.isEmpty());
 }
 
@@ -90,10 +54,10 @@ TEST_F(ToolbarCommandsTest, ButtonsOfMenuCommandsFollowThem) {
                                    {"tb_print", "mnuPrint"},
                                    {"tb_spell", "mnuSpellCheck"}};
     for (const auto& row : rows) {
-        EXPECT_FALSE(frame.Commands().Has(Text(row[0]))) << row[0];
+        EXPECT_FALSE(frame.Commands().Has(Latin(row[0]))) << row[0];
         int ran = 0;
-        frame.Commands().Set(Text(row[1]), [&ran] { ++ran; });
-        EXPECT_TRUE(frame.Commands().Has(Text(row[0]))) << row[0];
+        frame.Commands().Set(Latin(row[1]), [&ran] { ++ran; });
+        EXPECT_TRUE(frame.Commands().Has(Latin(row[0]))) << row[0];
         Run(row[0]);
         EXPECT_EQ(ran, 1) << row[0];
     }
@@ -102,18 +66,18 @@ TEST_F(ToolbarCommandsTest, ButtonsOfMenuCommandsFollowThem) {
 TEST_F(ToolbarCommandsTest, EditingGoesToTheTextAsFromTheKeyboard) {
     Put("a[bc]d");
     Run("tb_copy");
-    EXPECT_EQ(Marked(), Text("a|bcd"));
+    EXPECT_EQ(Marked(), Latin("a[bc]d"));
     Run("tb_cut");
-    EXPECT_EQ(Marked(), Text("a|d"));
+    EXPECT_EQ(Marked(), Latin("a|d"));
     Run("tb_paste");
-    EXPECT_EQ(Marked(), Text("abc|d"));
+    EXPECT_EQ(Marked(), Latin("abc|d"));
     Run("tb_undo");
-    EXPECT_EQ(frame.Box().Text(), Text("ad"));
+    EXPECT_EQ(frame.Box().Text(), Latin("ad"));
     Put("a[bc]d");
     Run("tb_delete");
-    EXPECT_EQ(Marked(), Text("a|d"));
+    EXPECT_EQ(Marked(), Latin("a|d"));
     Run("tb_delete");
-    EXPECT_EQ(Marked(), Text("a|d"));
+    EXPECT_EQ(Marked(), Latin("a|d"));
 }
 
 TEST_F(ToolbarCommandsTest, PreviewShowsTheActiveDocument) {
@@ -124,23 +88,23 @@ TEST_F(ToolbarCommandsTest, PreviewShowsTheActiveDocument) {
 TEST_F(ToolbarCommandsTest, NewGivesASkeletonThatCountsAsUnchanged) {
     QStringList ran;
     for (const char* name : {"mnuNew", "mnuDefault", "mnuUserTemplate"})
-        frame.Commands().Set(Text(name), [&, name] {
-            ran << Text(name);
+        frame.Commands().Set(Latin(name), [&, name] {
+            ran << Latin(name);
             frame.active->modified = true;
         });
     Run("tb_new");
-    EXPECT_EQ(ran, (QStringList{Text("mnuNew"), Text("mnuDefault")}));
+    EXPECT_EQ(ran, (QStringList{Latin("mnuNew"), Latin("mnuDefault")}));
     EXPECT_FALSE(frame.active->modified);
     ran.clear();
-    frame.State<ProgramState>().UserTemplate = Text("<HTML>");
+    frame.State<ProgramState>().UserTemplate = Latin("<HTML>");
     Run("tb_new");
-    EXPECT_EQ(ran, (QStringList{Text("mnuNew"), Text("mnuUserTemplate")}));
+    EXPECT_EQ(ran, (QStringList{Latin("mnuNew"), Latin("mnuUserTemplate")}));
     EXPECT_FALSE(frame.active->modified);
 }
 
 TEST_F(ToolbarCommandsTest, AnEmptyTemplateWindowNeedsNoDocumentToStartFrom) {
     frame.CloseDocument();
-    frame.Commands().Set(Text("mnuNew"), [this] { frame.NewDocument(); });
+    frame.Commands().Set(Latin("mnuNew"), [this] { frame.NewDocument(); });
     Run("tb_new");
     ASSERT_TRUE(frame.ActiveForm());
     EXPECT_FALSE(frame.active->modified);
@@ -149,68 +113,81 @@ TEST_F(ToolbarCommandsTest, AnEmptyTemplateWindowNeedsNoDocumentToStartFrom) {
 TEST_F(ToolbarCommandsTest, ACommentStandsAroundTheSelectionInItsColor) {
     Put("a[<B>x\r\ny</B>]b");
     Run("tb_balloon");
-    EXPECT_EQ(Marked(), Text("a<!-- <B>x\r\ny</B> -->|b"));
+    EXPECT_EQ(Marked(), Latin("a<!-- <B>x\r\ny</B> -->|b"));
     EXPECT_EQ(frame.Colors(),
-              (Stretches{{Text("a"), 0}, {Text("<!-- <B>x\r\ny</B> -->"), 8421504}, {Text("b"), 0}}));
+              (Stretches{{Latin("a"), 0}, {Latin("<!-- <B>x\r\ny</B> -->"), 8421504}, {Latin("b"), 0}}));
     EXPECT_TRUE(frame.prompts.asked.isEmpty());
 
     frame.Store().WriteNumber(Keys::TextColor[5], 255);
     Put("[x]");
     Run("tb_balloon");
-    EXPECT_EQ(frame.Colors(), (Stretches{{Text("<!-- x -->"), 255}}));
+    EXPECT_EQ(frame.Colors(), (Stretches{{Latin("<!-- x -->"), 255}}));
 }
 
-TEST_F(ToolbarCommandsTest, WithColoringOffACommentIsPlainText) {
-    Use(true, false);
-    Put("a[X]b");
+TEST_F(ToolbarCommandsTest, ACommentKeepsItsCaseAndHasItsColorWhileColoringIsOn) {
+    UnderAllSettings("tb_balloon", [&](bool /*lower*/, bool colored) {
+        Put("a[X]b");
+        Run("tb_balloon");
+        EXPECT_EQ(Marked(), Latin("a<!-- X -->|b"));
+        EXPECT_EQ(frame.Colors(),
+                  (colored ? Stretches{{Latin("a"), 0}, {Latin("<!-- X -->"), commentColor}, {Latin("b"), 0}}
+                           : Stretches{{Latin("a<!-- X -->b"), 0}}));
+        Put("a|b");
+        frame.prompts.inputAnswers = {Latin("Y")};
+        Run("tb_balloon");
+        EXPECT_EQ(Marked(), Latin("a<!-- Y -->|b"));
+        EXPECT_EQ(frame.Box().ColorAt(1), colored ? commentColor : textColor);
+        EXPECT_EQ(frame.Box().ColorAt(10), colored ? commentColor : textColor);
+    });
+}
+
+TEST_F(ToolbarCommandsTest, ACommentIsColoredAtExactlyOne) {
+    frame.Store().Write(Keys::ColoredTags, Latin("2"));
+    Put("[x]");
     Run("tb_balloon");
-    EXPECT_EQ(frame.Colors(), (Stretches{{Text("a<!-- X -->b"), 0}}));
+    EXPECT_EQ(frame.Colors(), (Stretches{{Latin("<!-- x -->"), 0}}));
 }
 
 TEST_F(ToolbarCommandsTest, WithNothingSelectedTheCommentIsAskedFor) {
     Put("a|b");
-    frame.prompts.inputAnswers = {Text("caf\xE9 \\b{c} \x80")};
+    frame.prompts.inputAnswers = {Latin("caf\xE9 \\b{c} \x80")};
     Run("tb_balloon");
-    EXPECT_EQ(Marked(), Text("a<!-- caf\xE9 \\b{c} \x80 -->|b"));
-    EXPECT_EQ(frame.Colors(),
-              (Stretches{{Text("a"), 0}, {Text("<!-- caf\xE9 \\b{c} \x80 -->"), 8421504}, {Text("b"), 0}}));
+    EXPECT_EQ(Marked(), Latin("a<!-- caf\xE9 \\b{c} \x80 -->|b"));
+    EXPECT_EQ(
+        frame.Colors(),
+        (Stretches{{Latin("a"), 0}, {Latin("<!-- caf\xE9 \\b{c} \x80 -->"), 8421504}, {Latin("b"), 0}}));
     ASSERT_EQ(frame.prompts.asked.size(), 1);
-    EXPECT_EQ(frame.prompts.asked[0].text, Text("Add Comment:"));
-    EXPECT_EQ(frame.prompts.asked[0].title, Text("The Tarnwick"));
+    EXPECT_EQ(frame.prompts.asked[0].text, Latin("Add Comment:"));
+    EXPECT_EQ(frame.prompts.asked[0].title, Latin("The Tarnwick"));
 
     Put("a|b");
     frame.prompts.inputAnswers = {QString()};
     Run("tb_balloon");
-    EXPECT_EQ(Marked(), Text("a|b"));
+    EXPECT_EQ(Marked(), Latin("a|b"));
     EXPECT_FALSE(frame.active->modified);
 }
 
 TEST_F(ToolbarCommandsTest, AnAnchorKeepsItsBlank) {
-    for (const bool colored : {false, true}) {
-        Use(false, colored);
-        Put("a[T]b");
-        frame.prompts.inputAnswers = {Text("x")};
-        Run("tb_anchor");
-        EXPECT_EQ(Marked(), Text("a<A NAME= \"x\">T|</A>b"));
-        Use(true, colored);
-        Put("|");
-        frame.prompts.inputAnswers = {Text("Top")};
-        Run("tb_anchor");
-        EXPECT_EQ(Marked(), Text("<a name= \"top\">|</a>"));
-    }
-    EXPECT_EQ(frame.prompts.asked[0].text, Text("Enter An Anchor Name"));
-    EXPECT_EQ(frame.prompts.asked[0].title, Text("Anchor"));
+    UnderAllSettings("tb_anchor", [&](bool lower, bool /*colored*/) {
+        frame.prompts.asked.clear();
+        frame.prompts.inputAnswers = {Latin("Top"), Latin("Top")};
+        ExpectWraps("tb_anchor", Latin(lower ? "<a name= \"top\">|</a>" : "<A NAME= \"Top\">|</A>"),
+                    linkColor);
+        ASSERT_EQ(frame.prompts.asked.size(), 2);
+        EXPECT_EQ(frame.prompts.asked[0].kind, Asked::Input);
+        EXPECT_EQ(frame.prompts.asked[0].text, Latin("Enter An Anchor Name"));
+        EXPECT_EQ(frame.prompts.asked[0].title, Latin("Anchor"));
+    });
 }
 
 TEST_F(ToolbarCommandsTest, AnAnchorWithoutANameIsRefused) {
     Put("a[T]b");
     frame.prompts.inputAnswers = {QString()};
     Run("tb_anchor");
-    EXPECT_EQ(frame.Box().Text(), Text("aTb"));
-    EXPECT_EQ(frame.Box().SelText(), Text("T"));
+    EXPECT_EQ(Marked(), Latin("a[T]b"));
     ASSERT_EQ(frame.prompts.asked.size(), 2);
-    EXPECT_EQ(frame.prompts.asked[1].text, Text("No Data or Cancel Button Pressed!"));
-    EXPECT_EQ(frame.prompts.asked[1].title, Text("The Tarnwick"));
+    EXPECT_EQ(frame.prompts.asked[1].text, Latin("No Data or Cancel Button Pressed!"));
+    EXPECT_EQ(frame.prompts.asked[1].title, Latin("The Tarnwick"));
     EXPECT_EQ(frame.prompts.asked[1].icon, MsgIcon::Critical);
     EXPECT_EQ(frame.prompts.asked[1].buttons, MsgButtons::OK);
 }
@@ -238,22 +215,24 @@ TEST_F(ToolbarCommandsTest, MetaTagsGoBehindTheHead) {
         {"[0123456]7<HEAD></HEAD>", "", "", "01|234\r\n567<HEAD></HEAD>"},
     };
     for (const Row& row : rows)
-        for (const bool lower : {false, true})
-            for (const bool colored : {false, true}) {
-                SCOPED_TRACE(testing::Message() << row.before << lower << colored);
-                // These tags keep their case whatever the setting.
-                Use(lower, colored);
-                Put(row.before);
-                frame.prompts.asked.clear();
-                frame.prompts.inputAnswers = {Text(row.description), Text(row.keywords)};
-                Run("tb_meta");
-                EXPECT_EQ(Marked(), Text(row.after));
-                ASSERT_EQ(frame.prompts.asked.size(), 2);
-                EXPECT_EQ(frame.prompts.asked[0].text, Text("Enter META description:"));
-                EXPECT_EQ(frame.prompts.asked[0].title, Text("META Description"));
-                EXPECT_EQ(frame.prompts.asked[1].text, Text("Enter META keywords:"));
-                EXPECT_EQ(frame.prompts.asked[1].title, Text("META Keywords"));
-            }
+        UnderAllSettings(row.before, [&](bool /*lower*/, bool colored) {
+            // These tags keep their case whatever the setting.
+            Put(row.before);
+            frame.prompts.asked.clear();
+            frame.prompts.inputAnswers = {Latin(row.description), Latin(row.keywords)};
+            Run("tb_meta");
+            EXPECT_EQ(Marked(), Latin(row.after));
+            ASSERT_EQ(frame.prompts.asked.size(), 2);
+            EXPECT_EQ(frame.prompts.asked[0].text, Latin("Enter META description:"));
+            EXPECT_EQ(frame.prompts.asked[0].title, Latin("META Description"));
+            EXPECT_EQ(frame.prompts.asked[1].text, Latin("Enter META keywords:"));
+            EXPECT_EQ(frame.prompts.asked[1].title, Latin("META Keywords"));
+            // Their colour is that of comments; a line end alone has none to show.
+            const auto tag = static_cast<int>(frame.Box().Text().indexOf(QStringLiteral("<meta")));
+            const bool written = *row.description || *row.keywords;
+            ASSERT_EQ(tag >= 0, written);
+            EXPECT_EQ(frame.Box().ColorAt(std::max(tag, 0)), colored && written ? commentColor : textColor);
+        });
 }
 
 TEST_F(ToolbarCommandsTest, SelectedLinesBecomeAList) {
@@ -271,37 +250,33 @@ TEST_F(ToolbarCommandsTest, SelectedLinesBecomeAList) {
         {"tb_dots", "[\xE9{\\cf1 }\x80]", "<UL>\r\n<LI>\xE9{\\cf1 }\x80</UL>|"},
     };
     for (const Row& row : rows)
-        for (const bool lower : {false, true})
-            for (const bool colored : {false, true}) {
-                SCOPED_TRACE(testing::Message() << row.name << row.before << lower << colored);
-                Use(lower, colored);
-                Put(row.before);
-                frame.prompts.asked.clear();
-                Run(row.name);
-                EXPECT_EQ(Marked(), Text(row.after));
-                EXPECT_EQ(frame.Box().SelLength(), 0);
-                EXPECT_EQ(frame.Colors(), (Stretches{{frame.Box().Text(), 0}}));
-                EXPECT_EQ(frame.prompts.Messages(), QStringList{Text("Finished!")});
-            }
+        UnderAllSettings(row.before, [&](bool /*lower*/, bool /*colored*/) {
+            Put(row.before);
+            frame.prompts.asked.clear();
+            Run(row.name);
+            EXPECT_EQ(Marked(), Latin(row.after));
+            EXPECT_EQ(frame.Colors(), (Stretches{{frame.Box().Text(), 0}}));
+            EXPECT_EQ(frame.prompts.Messages(), QStringList{Latin("Finished!")});
+        });
 }
 
 TEST_F(ToolbarCommandsTest, AListOfNothingShowsTheListsDialog) {
     for (const auto& [name, kind] : {std::pair("tb_dots", "U"), std::pair("tb_onetwothree", "O")}) {
         Put("a|b");
         Run(name);
-        auto* dialog = qobject_cast<frmBulletList*>(frame.LoadedForms().Find(Text("frmBulletList")));
+        auto* dialog = qobject_cast<frmBulletList*>(frame.LoadedForms().Find(Latin("frmBulletList")));
         ASSERT_TRUE(dialog);
         EXPECT_TRUE(dialog->isVisible());
         EXPECT_FALSE(dialog->isModal());
-        EXPECT_EQ(dialog->Tag(), Text(kind));
-        EXPECT_EQ(Marked(), Text("a|b"));
+        EXPECT_EQ(dialog->Tag(), Latin(kind));
+        EXPECT_EQ(Marked(), Latin("a|b"));
     }
 }
 
 class UploadTest : public ToolbarCommandsTest {
   protected:
     UploadTest() {
-        frame.Commands().Set(Text("mnuWebBrowser"), [this] { ++options; });
+        frame.Commands().Set(Latin("mnuWebBrowser"), [this] { ++options; });
         frame.State<ProgramState>().LocalFTP = false;
     }
     /// A program that writes its arguments into a file.
@@ -328,7 +303,7 @@ class UploadTest : public ToolbarCommandsTest {
 TEST_F(UploadTest, TheBuiltInWindowIsShown) {
     frame.State<ProgramState>().LocalFTP = true;
     int shown = 0;
-    frame.Commands().Set(Text("frmFTP"), [&shown] { ++shown; });
+    frame.Commands().Set(Latin("frmFTP"), [&shown] { ++shown; });
     Run("tb_ftp");
     EXPECT_EQ(shown, 1);
     EXPECT_EQ(options, 0);
@@ -336,7 +311,7 @@ TEST_F(UploadTest, TheBuiltInWindowIsShown) {
 }
 
 TEST_F(UploadTest, TheUsersOwnProgramIsStarted) {
-    frame.State<ProgramState>().FtpPath = Program(Text("my upload"));
+    frame.State<ProgramState>().FtpPath = Program(Latin("my upload"));
     Run("tb_ftp");
     EXPECT_EQ(WaitForStart(), QByteArray("started \n"));
     EXPECT_TRUE(frame.prompts.asked.isEmpty());
@@ -344,7 +319,7 @@ TEST_F(UploadTest, TheUsersOwnProgramIsStarted) {
 }
 
 TEST_F(UploadTest, TheUsersOwnProgramMayHaveArguments) {
-    frame.State<ProgramState>().FtpPath = Program(Text("upload")) + Text(" --site home");
+    frame.State<ProgramState>().FtpPath = Program(Latin("upload")) + Latin(" --site home");
     Run("tb_ftp");
     EXPECT_EQ(WaitForStart(), QByteArray("started --site home\n"));
     EXPECT_TRUE(frame.prompts.asked.isEmpty());
@@ -356,12 +331,12 @@ TEST_F(UploadTest, AProgramThatCannotBeStartedLeadsToTheOptions) {
             options = 0;
             frame.prompts.asked.clear();
             frame.prompts.messageAnswers = {answer};
-            frame.State<ProgramState>().FtpPath = Text(path);
+            frame.State<ProgramState>().FtpPath = Latin(path);
             Run("tb_ftp");
             EXPECT_EQ(options, 1);
             ASSERT_EQ(frame.prompts.asked.size(), 1);
-            EXPECT_EQ(frame.prompts.asked[0].text, Text("The FTP Program was not found."));
-            EXPECT_EQ(frame.prompts.asked[0].title, Text("File not Found"));
+            EXPECT_EQ(frame.prompts.asked[0].text, Latin("The FTP Program was not found."));
+            EXPECT_EQ(frame.prompts.asked[0].title, Latin("File not Found"));
             EXPECT_EQ(frame.prompts.asked[0].icon, MsgIcon::Critical);
             EXPECT_EQ(frame.prompts.asked[0].buttons, MsgButtons::OKCancel);
         }
@@ -372,7 +347,7 @@ TEST_F(ToolbarCommandsTest, WithoutADocumentNothingIsAskedShownOrSaid) {
     const QStringList names = frame.Commands().Names();
     EXPECT_EQ(names.size(), 26);
     for (const QString& name : names)
-        if (name != Text("tb_ftp"))
+        if (name != Latin("tb_ftp"))
             frame.Commands().Run(name);
     EXPECT_TRUE(frame.prompts.asked.isEmpty());
     EXPECT_EQ(frame.prompts.beeps, 0);
@@ -380,21 +355,51 @@ TEST_F(ToolbarCommandsTest, WithoutADocumentNothingIsAskedShownOrSaid) {
     EXPECT_FALSE(frame.ActiveForm());
 }
 
-// The time of a selection four times as long grows about fourfold.
-TEST_F(ToolbarCommandsTest, LongSelectionsTakeTimeInProportion) {
-    const QString line = Text("<P>some text and a <A HREF=\"x.htm\">link</A></P>\r\n");
-    for (const char* command : {"tb_bold", "tb_balloon", "tb_dots"}) {
-        double spent[2];
-        for (const int turn : {0, 1}) {
-            frame.SetText(line.repeated((turn == 0 ? 1'000'000 : 4'000'000) / static_cast<int>(line.size())));
-            frame.Box().SetSelStart(0);
-            frame.Box().SetSelLength(frame.Box().TextLength());
-            const std::clock_t start = std::clock();
-            Run(command);
-            spent[turn] = double(std::clock() - start) / CLOCKS_PER_SEC;
-        }
-        EXPECT_LT(spent[1], 8 * spent[0] + 0.2) << command;
-    }
+using Expected = QString (*)(const QString& selection);
+
+QString AsList(const QString& open, const QString& text, const QString& close) {
+    const QString lineEnd = QStringLiteral("\r\n");
+    QString lines = lineEnd + text;
+    return open + lines.replace(lineEnd, lineEnd + QStringLiteral("<LI>")) + close;
 }
+
+struct LongRow {
+    const char* name;
+    Expected expected;
+};
+
+class LongToolbarSelection : public ToolbarCommandsTest, public testing::WithParamInterface<LongRow> {};
+
+TEST_P(LongToolbarSelection, TakesTimeInProportion) {
+    QApplication::clipboard()->setText(Latin("pasted"));
+    ExpectLinear(GetParam().name, GetParam().expected);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    OneOfEachKind, LongToolbarSelection,
+    testing::Values(
+        LongRow{"tb_h1",
+                [](const QString& text) { return QStringLiteral("<H1>") + text + QStringLiteral("</H1>"); }},
+        LongRow{"tb_balloon",
+                [](const QString& text) { return QStringLiteral("<!-- ") + text + QStringLiteral(" -->"); }},
+        LongRow{"tb_anchor",
+                [](const QString& text) {
+                    return QStringLiteral("<A NAME= \"x\">") + text + QStringLiteral("</A>");
+                }},
+        // The search is for nothing, and lets the selection go.
+        LongRow{"tb_meta",
+                [](const QString& text) {
+                    return QString(text).insert(
+                        5, QStringLiteral("\r\n<meta name=\"description\" content=\"x\">\r\n"
+                                          "<meta name=\"keywords\" content=\"x\">"));
+                }},
+        LongRow{"tb_dots",
+                [](const QString& text) {
+                    return AsList(QStringLiteral("<UL>"), text, QStringLiteral("</UL>"));
+                }},
+        LongRow{"tb_cut", [](const QString&) { return QString(); }},
+        LongRow{"tb_paste", [](const QString&) { return QStringLiteral("pasted"); }},
+        LongRow{"tb_delete", [](const QString&) { return QString(); }}),
+    [](const auto& info) { return std::string(info.param.name); });
 
 } // namespace

@@ -61,9 +61,29 @@ void TestFrame::AddDocumentTab(const QString& path, const QString& caption) {
 }
 
 void TestFrame::SetText(const QString& text) {
+    // A new text takes the colour at the caret.
+    Box().SetSelColor(0);
     Box().SetText(text);
     Box().SetSelStart(static_cast<int>(text.size()));
     active->modified = false;
+}
+
+void TestFrame::SetMarked(QString marked) {
+    const auto caret = static_cast<int>(marked.indexOf(u'|'));
+    const auto start = static_cast<int>(marked.indexOf(u'['));
+    const auto end = static_cast<int>(marked.indexOf(u']')) - 1;
+    SetText(marked.remove(u'|').remove(u'[').remove(u']'));
+    Box().SetSelStart(start >= 0 ? start : caret);
+    if (start >= 0)
+        Box().SetSelLength(end - start);
+}
+
+QString TestFrame::Marked() {
+    QString text = Box().Text();
+    const int start = Box().SelStart();
+    if (const int length = Box().SelLength(); length > 0)
+        return text.insert(start + length, u']').insert(start, u'[');
+    return text.insert(start, u'|');
 }
 
 std::vector<std::pair<QString, int>> TestFrame::Colors() {

@@ -92,6 +92,12 @@ class TestFrame : public Frame {
     std::vector<std::pair<QString, int>> Colors();
     /// Puts a text into the active document, plain, caret at its end.
     void SetText(const QString& text);
+    /// The same with the caret or a selection where the marks stood: "|" is the caret, "[" and "]" stand
+    /// around a selection.
+    void SetMarked(QString marked);
+    void SetMarked(const char* latin1) { SetMarked(QString::fromLatin1(latin1)); }
+    /// The text with a "|" at the caret, or with "[" and "]" around the selection.
+    QString Marked();
     /// Closes the active document: there is none afterwards.
     void CloseDocument();
 

@@ -50,26 +50,6 @@ void TypingFrame::Pause() {
     ASSERT_TRUE(QMetaObject::invokeMethod(&active->Timer1, "timeout"));
 }
 
-void TypingFrame::SetMarked(const QString& marked) {
-    QString text = marked;
-    const auto caret = static_cast<int>(text.indexOf(u'|'));
-    const auto start = static_cast<int>(text.indexOf(u'['));
-    const auto end = static_cast<int>(text.indexOf(u']')) - 1;
-    text.remove(u'|').remove(u'[').remove(u']');
-    SetText(text);
-    Box().SetSelStart(start >= 0 ? start : caret);
-    if (start >= 0)
-        Box().SetSelLength(end - start);
-}
-
-QString TypingFrame::Marked() {
-    QString text = Box().Text();
-    const int start = Box().SelStart();
-    if (const int length = Box().SelLength(); length > 0)
-        return text.insert(start + length, u']').insert(start, u'[');
-    return text.insert(start, u'|');
-}
-
 frmDropDown* TypingFrame::List() {
     return qobject_cast<frmDropDown*>(LoadedForms().Find(frmDropDown::Name()));
 }

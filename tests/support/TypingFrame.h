@@ -24,12 +24,6 @@ class TypingFrame : public TestFrame {
     void Pause();
     bool PausePending() const { return active->Timer1.isActive(); }
 
-    /// Sets the document's text without its marks; "|" stands for the caret, "[" and "]" around a selection.
-    void SetMarked(const QString& marked);
-    void SetMarked(const char* latin1) { SetMarked(QString::fromLatin1(latin1)); }
-    /// The text with a "|" at the caret, or with "[" and "]" around the selection.
-    QString Marked();
-
     EditorState& Flags() { return State<EditorState>(); }
     AutoFill& Lists() { return engine->Lists(); }
     /// The auto-fill list, loaded or null.
