@@ -32,6 +32,10 @@ void InsertTag(Frame& frame, QString& open, QString& close, bool keepCase) {
     WriteColoredText(frame, close, TagColorCode(close), false);
     // The length as it is now: with colouring on, each CR LF in close counts the five characters of "\par ".
     txtInput.SetSelStart(txtInput.SelStart() - static_cast<int>(close.size()));
+    // The caret left the place for which the flush had set the colour of what comes next, and stands at a
+    // tag.
+    if (frame.Store().ReadNumber(Keys::ColoredTags) != 0)
+        txtInput.SetSelColor(frame.Store().ReadNumber(Keys::TextColor[0]));
 }
 
 void InsertTag(Frame& frame, const QString& open, const QString& close, bool keepCase) {

@@ -5,7 +5,8 @@
 
 class Frame;
 
-/// Wraps the selection of the active document in two strings, coloured, and leaves the caret before close.
+/// Wraps the selection of the active document in two strings, coloured, and leaves the caret before close,
+/// where what comes next has the text colour.
 /// Without keepCase both are lowered first when LowerCaseTags is 1. Both may come back changed: lowered,
 /// "\par " for CR LF.
 void InsertTag(Frame& frame, QString& open, QString& close, bool keepCase);
