@@ -6,6 +6,8 @@
 
 #include <gtest/gtest.h>
 #include <QApplication>
+#include <QClipboard>
+#include <QInputMethodEvent>
 #include <QListWidget>
 #include <QMouseEvent>
 #include <QTest>
@@ -108,6 +110,25 @@ TEST(TypingEngine, FocusShowsTheLineAndSelectsTheTab) {
     EXPECT_EQ(frame.selectedTabs, QStringList{QStringLiteral("C:\\site\\a.htm")});
 }
 
+TEST(TypingEngine, TheLineIsShownBeforeTheTabIsSelected) {
+    struct OrderFrame : TypingFrame {
+        void SetStatusPanel(const QString& text, bool now) override {
+            order << text;
+            TypingFrame::SetStatusPanel(text, now);
+        }
+        void SelectDocumentTab(const QString& path) override {
+            order << QStringLiteral("tab");
+            selectedTabs << path;
+        }
+        QStringList order;
+    };
+    OrderFrame frame;
+    frame.Box().clearFocus();
+    frame.order.clear();
+    frame.Box().SetFocus();
+    EXPECT_EQ(frame.order, (QStringList{QStringLiteral("Line 1"), QStringLiteral("tab")}));
+}
+
 TEST(TypingEngine, RightButtonPopsUpTheEditMenu) {
     TypingFrame frame;
     QWidget* text = frame.Box().viewport();
@@ -185,6 +206,64 @@ TEST(TypingEngine, OnlyCtrlAloneRunsUserButtons) {
     EXPECT_EQ(frame.Box().Text(), QString());
     frame.Type("1");
     EXPECT_EQ(frame.Box().Text(), QStringLiteral("1"));
+}
+
+TEST(TypingEngine, TheKeypadsDigitsAreNoDigitKeys) {
+    TypingFrame frame;
+    frame.Flags().FirstBut.fill(QStringLiteral("<B>"));
+    frame.Key(Qt::Key_1, Qt::ControlModifier | Qt::KeypadModifier);
+    EXPECT_EQ(frame.Box().Text(), QString());
+}
+
+TEST(TypingEngine, AUserButtonOnTheKeyboardWrapsTheSelection) {
+    TypingFrame frame;
+    frame.Flags().FirstBut[2] = QStringLiteral("<A HREF=\"X\">");
+    frame.Flags().SecondBut[2] = QStringLiteral("</A>");
+    frame.SetMarked("a[b<I>]c");
+    frame.Key(Qt::Key_3, Qt::ControlModifier);
+    EXPECT_EQ(frame.Marked(), QStringLiteral("a<A HREF=\"X\">b<I>|</A>c"));
+    EXPECT_EQ(frame.Box().ColorAt(1), 32768);
+    EXPECT_EQ(frame.Box().ColorAt(14), 16711680);
+}
+
+TEST(TypingEngine, WhatAnInputMethodCommitsIsTyped) {
+    TypingFrame frame;
+    const auto commit = [&frame](const QString& text) {
+        QInputMethodEvent event;
+        event.setCommitString(text);
+        QApplication::sendEvent(&frame.Box(), &event);
+    };
+    frame.SetMarked("<B|<I>");
+    commit(QStringLiteral(">") + QChar(0xe9) + QChar(0x2603));
+    EXPECT_EQ(frame.Marked(), QStringLiteral("<B>&eacute;&#9731;|<I>"));
+    EXPECT_EQ(frame.Box().ColorAt(0), 16711680);
+    EXPECT_EQ(frame.Box().ColorAt(3), 0);
+}
+
+TEST(TypingEngine, WhatIsPastedIsNotTyped) {
+    TypingFrame frame;
+    QApplication::clipboard()->setText(QStringLiteral(">") + QChar(0xe9));
+    frame.SetMarked("<B|<I>");
+    frame.Key(Qt::Key_V, Qt::ControlModifier);
+    EXPECT_EQ(frame.Marked(), QStringLiteral("<B>") + QChar(0xe9) + QStringLiteral("|<I>"));
+    EXPECT_EQ(frame.Box().ColorAt(0), 0);
+}
+
+TEST(TypingEngine, EscAndRightForgetTheValueListWithNoListOpen) {
+    for (const Qt::Key key : {Qt::Key_Escape, Qt::Key_Right}) {
+        TypingFrame frame;
+        frame.Type("<img al\r");
+        ASSERT_TRUE(frame.Lists().ValueList());
+        frame.LoadedForms().Unload(frmDropDown::Name());
+        const QString text = frame.Box().Text();
+        frame.Box().SetSelStart(0);
+        ASSERT_TRUE(frame.Lists().ValueList());
+        frame.Key(key);
+        EXPECT_FALSE(frame.Lists().ValueList());
+        EXPECT_EQ(frame.Box().Text(), text);
+        EXPECT_EQ(frame.Box().SelStart(), key == Qt::Key_Right ? 1 : 0);
+        EXPECT_EQ(frame.List(), nullptr);
+    }
 }
 
 TEST(TypingEngine, TheDownKeyRemembersTheCaret) {
