@@ -18,13 +18,11 @@
 
 namespace {
 
-/// The HTML files of the filter are the ones shown at first. The dialog is the one that the tag dialogs
-/// share: a browse of theirs that sets no filter shows this one.
-FileRequest DocumentRequest(Frame& frame) {
+/// The HTML files of the filter are the ones shown at first.
+FileRequest DocumentRequest() {
     FileRequest request;
     request.filter = FileFilter::Document;
     request.filterIndex = 2;
-    SharedFileDialog(frame).SetFilter(request.filter, request.filterIndex);
     return request;
 }
 
@@ -38,7 +36,7 @@ bool MayOverwrite(Frame& frame, const QString& path) {
 /// The file to save as; cancelled where the user wants none. A refused overwrite shows the dialog anew.
 FileAnswer AskWhereToSave(Frame& frame) {
     while (true) {
-        FileRequest request = DocumentRequest(frame);
+        FileRequest request = DocumentRequest();
         request.defaultExtension =
             frame.Store().ReadFlag(Keys::UseHTM) ? QStringLiteral("htm") : QStringLiteral("html");
         request.folder = frame.State<BuilderState>().LastDir;
@@ -70,7 +68,7 @@ void FillFileCommands(Frame& frame) {
 }
 
 void mnuOpen_Click(Frame& frame) {
-    FileRequest request = DocumentRequest(frame);
+    FileRequest request = DocumentRequest();
     request.multiSelect = true;
     request.folder = frame.State<BuilderState>().LastDir;
     const FileAnswer answer = frame.Ask().OpenFile(frame.Window(), request);
@@ -112,7 +110,7 @@ void mnuSaveAs_Click(Frame& frame) {
 void mnuInsertContents_Click(Frame& frame) {
     if (!frame.ActiveForm())
         return;
-    const FileAnswer answer = frame.Ask().OpenFile(frame.Window(), DocumentRequest(frame));
+    const FileAnswer answer = frame.Ask().OpenFile(frame.Window(), DocumentRequest());
     Document* document = frame.ActiveForm();
     if (answer.Cancelled() || !document)
         return;

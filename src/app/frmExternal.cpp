@@ -222,7 +222,7 @@ void frmExternal::chkLocFTP_Click(bool on) {
 namespace {
 
 std::optional<QString> PickProgram(Frame& frame, QWidget* owner) {
-    SharedFileDialog dialog(frame);
+    FileDialog dialog(frame);
     dialog.SetFilter(QStringLiteral("All files (*.*)|*.*|Executables (*.exe)|*.exe|"), 2);
     return dialog.ShowOpen(owner);
 }

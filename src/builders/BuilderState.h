@@ -9,7 +9,4 @@ struct BuilderState {
     /// The tag that the Body or image dialog wrote last, and that it did: the wizard reads the two.
     QString LastBuiltTag;
     bool TagBuilt = false;
-    /// The filter that the shared file dialog was given last; a browse that sets none of its own keeps it.
-    QString FileDialogFilter;
-    int FileDialogFilterIndex = 1;
 };

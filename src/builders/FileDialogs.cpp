@@ -1,4 +1,4 @@
-// Picking a file into a field of a tag dialog: filters, the shared file dialog, the picture browse.
+// Picking a file into a field of a tag dialog: filters, a form's file dialog, the picture browse.
 #include "builders/FileDialogs.h"
 
 #include "builders/BuilderState.h"
@@ -18,23 +18,21 @@ const QString PreviewForm = QStringLiteral("frmImage");
 
 } // namespace
 
-void SharedFileDialog::SetFilter(const QString& filter, int index) {
-    auto& state = frame_.State<BuilderState>();
-    state.FileDialogFilter = filter;
-    state.FileDialogFilterIndex = index;
+void FileDialog::SetFilter(const QString& filter, int index) {
+    filter_ = filter;
+    filterIndex_ = index;
 }
 
-std::optional<QString> SharedFileDialog::ShowOpen(QWidget* owner) {
+std::optional<QString> FileDialog::ShowOpen(QWidget* owner) {
     return ShowOpen(owner, nullptr, {});
 }
 
-std::optional<QString> SharedFileDialog::ShowOpen(QWidget* owner, QWidget* panel,
-                                                  std::function<void(const QString&)> selectionChanged) {
-    const auto& state = frame_.State<BuilderState>();
+std::optional<QString> FileDialog::ShowOpen(QWidget* owner, QWidget* panel,
+                                            std::function<void(const QString&)> selectionChanged) {
     FileRequest request;
-    request.filter = state.FileDialogFilter;
-    request.filterIndex = state.FileDialogFilterIndex;
-    request.folder = state.LastDir;
+    request.filter = filter_;
+    request.filterIndex = filterIndex_;
+    request.folder = frame_.State<BuilderState>().LastDir;
     request.panel = panel;
     request.selectionChanged = std::move(selectionChanged);
     const FileAnswer answer = frame_.Ask().OpenFile(owner, request);
@@ -51,14 +49,14 @@ PictureBrowse::~PictureBrowse() {
     frame_.LoadedForms().Unload(PreviewForm);
 }
 
-std::optional<QString> PictureBrowse::Show(QWidget* owner) {
+std::optional<QString> PictureBrowse::Show(FileDialog& dialog, QWidget* owner) {
     QWidget* panel = frame_.LoadedForms().Load<frmImage>(PreviewForm, frame_).Frame1();
     QString shown;
     const auto selectionChanged = [this, &shown](const QString& path) {
         shown = path;
         ShowImagePreview(frame_, path);
     };
-    auto picked = SharedFileDialog(frame_).ShowOpen(owner, panel, selectionChanged);
+    auto picked = dialog.ShowOpen(owner, panel, selectionChanged);
     // A name that was typed was never selected in the list.
     if (picked && *picked != shown)
         ShowImagePreview(frame_, *picked);

@@ -1,4 +1,4 @@
-// Picking a file into a field of a tag dialog: filters, the shared file dialog, the picture browse.
+// Picking a file into a field of a tag dialog: filters, a form's file dialog, the picture browse.
 #pragma once
 
 #include "platform/Prompts.h"
@@ -29,13 +29,13 @@ inline const QString AnyFile = QStringLiteral("All Files (*.*)|*.*|");
 
 } // namespace FileFilter
 
-/// The file dialog that the frame and the tag dialogs share, cdrFileDialog. It opens in LastDir, and keeps
-/// the filter it was given last (BuilderState) for those who set none. The tag dialogs never change LastDir.
-class SharedFileDialog {
+/// A form's file dialog, cdrFileDialog. It opens in LastDir, which tag dialogs never change, and keeps the
+/// filter it was given last for a browse that sets none; it has none at first.
+class FileDialog {
   public:
-    explicit SharedFileDialog(Frame& frame) : frame_(frame) {}
+    explicit FileDialog(Frame& frame) : frame_(frame) {}
 
-    /// The filter and its 1-based index, for this showing and those after it.
+    /// The filter and its 1-based index, for the next showing and those after it.
     void SetFilter(const QString& filter, int index = 1);
     /// The full path of the file picked; nothing on Cancel.
     std::optional<QString> ShowOpen(QWidget* owner);
@@ -46,9 +46,11 @@ class SharedFileDialog {
 
   private:
     Frame& frame_;
+    QString filter_;
+    int filterIndex_ = 1;
 };
 
-/// One browse for a picture: loads frmImage, shows the shared dialog with its panel, unloads frmImage at the
+/// One browse for a picture: loads frmImage, shows a file dialog with its panel, unloads frmImage at the
 /// end of its own life. Between a pick and that end the picture's size can be read.
 class PictureBrowse {
   public:
@@ -57,9 +59,8 @@ class PictureBrowse {
     PictureBrowse(const PictureBrowse&) = delete;
     PictureBrowse& operator=(const PictureBrowse&) = delete;
 
-    /// The full path of the picture picked; nothing on Cancel. Set the filter on a SharedFileDialog before;
-    /// without that the one set last stays.
-    std::optional<QString> Show(QWidget* owner);
+    /// The full path of the picture picked; nothing on Cancel. The dialog comes with the filter that it has.
+    std::optional<QString> Show(FileDialog& dialog, QWidget* owner);
     /// Width and height in pixels of the picture; 0 by 0 for a file that is none.
     QSize PictureSize() const;
 

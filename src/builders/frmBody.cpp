@@ -98,8 +98,9 @@ void frmBody::cmdShowColor_Click(int index) {
 
 void frmBody::Command1_Click() {
     PictureBrowse browse(frame_);
-    SharedFileDialog(frame_).SetFilter(FileFilter::Picture);
-    const auto path = browse.Show(this);
+    FileDialog dialog(frame_);
+    dialog.SetFilter(FileFilter::Picture);
+    const auto path = browse.Show(dialog, this);
     if (!path)
         return;
     // A file that is no picture leaves the sample as it is.

@@ -23,7 +23,7 @@ void frmEmbed::txtURL_Change() {
 }
 
 void frmEmbed::cmdGetFle_Click() {
-    SharedFileDialog dialog(frame_);
+    FileDialog dialog(frame_);
     // There is one filter, and the second is asked for: the dialog comes up with the one there is.
     dialog.SetFilter(FileFilter::AnyFile, 2);
     if (const auto path = dialog.ShowOpen(this))

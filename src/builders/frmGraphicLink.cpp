@@ -2,14 +2,14 @@
 #include "builders/frmGraphicLink.h"
 
 #include "builders/BuilderState.h"
-#include "builders/FileDialogs.h"
 #include "builders/FormFields.h"
 #include "builders/ImageTag.h"
 #include "editor/Frame.h"
 #include "platform/Path.h"
 #include "ui_frmGraphicLink.h"
 
-frmGraphicLink::frmGraphicLink(Frame& frame) : TagDialog(frame), ui_(std::make_unique<Ui::frmGraphicLink>()) {
+frmGraphicLink::frmGraphicLink(Frame& frame)
+    : TagDialog(frame), ui_(std::make_unique<Ui::frmGraphicLink>()), dialog_(frame) {
     ui_->setupUi(this);
     Wire();
     PrepareComboBoxes(*this);
@@ -25,8 +25,8 @@ frmGraphicLink::~frmGraphicLink() = default;
 
 void frmGraphicLink::cmdPicOpen_Click() {
     PictureBrowse browse(frame_);
-    SharedFileDialog(frame_).SetFilter(FileFilter::Picture);
-    const auto path = browse.Show(this);
+    dialog_.SetFilter(FileFilter::Picture);
+    const auto path = browse.Show(dialog_, this);
     if (!path)
         return;
     PickIntoField(frame_, *ui_->txtURL, *path, ui_->chkAbsolute->isChecked(),
@@ -40,16 +40,15 @@ void frmGraphicLink::cmdPicOpen_Click() {
 
 void frmGraphicLink::cmdOpen2_Click() {
     PictureBrowse browse(frame_);
-    if (const auto path = browse.Show(this))
+    if (const auto path = browse.Show(dialog_, this))
         PickIntoField(frame_, *ui_->txtLowSRC, *path, ui_->chkAbsolute->isChecked(),
                       ui_->chkForwardSlash->isChecked());
 }
 
 void frmGraphicLink::cmdLinkMe_Click() {
     ui_->txtLinkMe->clear();
-    SharedFileDialog dialog(frame_);
-    dialog.SetFilter(FileFilter::LinkTarget, 2);
-    if (const auto path = dialog.ShowOpen(this))
+    dialog_.SetFilter(FileFilter::LinkTarget, 2);
+    if (const auto path = dialog_.ShowOpen(this))
         PickIntoField(frame_, *ui_->txtLinkMe, *path, false, ui_->chkForwardSlash->isChecked());
 }
 

@@ -1,6 +1,7 @@
 // The Image dialog: an image tag, bare or wrapped in a link.
 #pragma once
 
+#include "builders/FileDialogs.h"
 #include "builders/TagDialog.h"
 
 #include <memory>
@@ -19,7 +20,7 @@ class frmGraphicLink final : public TagDialog {
   private:
     /// Picks the picture and fills in its size, and its name where there is no alternate text yet.
     void cmdPicOpen_Click();
-    /// Picks the low source under the filter that the last browse had.
+    /// Picks the low source under the filter that the browse before it had.
     void cmdOpen2_Click();
     /// Picks the link's target, relative to the document whatever chkAbsolute says.
     void cmdLinkMe_Click();
@@ -27,4 +28,5 @@ class frmGraphicLink final : public TagDialog {
     void cmdOK_Click() override;
 
     std::unique_ptr<Ui::frmGraphicLink> ui_;
+    FileDialog dialog_;
 };

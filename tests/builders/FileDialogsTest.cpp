@@ -61,17 +61,18 @@ TEST(FileFilter, TextsToTheLetter) {
     EXPECT_EQ(FileFilter::AnyFile, QStringLiteral("All Files (*.*)|*.*|"));
 }
 
-TEST(SharedFileDialog, OpensInLastDirAndKeepsItsFilter) {
+TEST(FileDialog, OpensInLastDirAndKeepsItsFilter) {
     TestFrame frame;
     auto& state = frame.State<BuilderState>();
     state.LastDir = QStringLiteral("/site");
     frame.prompts.openAnswers = {ScriptedPrompts::Cancelled(),
                                  ScriptedPrompts::Picked(QStringLiteral("/img/a.gif")),
                                  FileAnswer{QStringLiteral("/img/"), {QString()}}};
-    SharedFileDialog(frame).SetFilter(FileFilter::LinkTarget, 2);
-    EXPECT_EQ(SharedFileDialog(frame).ShowOpen(nullptr), std::nullopt);
-    EXPECT_EQ(SharedFileDialog(frame).ShowOpen(nullptr), QStringLiteral("/img/a.gif"));
-    EXPECT_EQ(SharedFileDialog(frame).ShowOpen(nullptr), std::nullopt) << "an empty first name is a cancel";
+    FileDialog dialog(frame);
+    dialog.SetFilter(FileFilter::LinkTarget, 2);
+    EXPECT_EQ(dialog.ShowOpen(nullptr), std::nullopt);
+    EXPECT_EQ(dialog.ShowOpen(nullptr), QStringLiteral("/img/a.gif"));
+    EXPECT_EQ(dialog.ShowOpen(nullptr), std::nullopt) << "an empty first name is a cancel";
     ASSERT_EQ(frame.prompts.asked.size(), 3);
     for (const Asked& asked : frame.prompts.asked) {
         EXPECT_EQ(asked.kind, Asked::Open);
@@ -96,14 +97,16 @@ TEST(PictureBrowse, PreviewsTheSelectionAndUnloadsTheForm) {
     };
     frame.prompts.openAnswers = {ScriptedPrompts::Picked(Here("tall.png")), ScriptedPrompts::Cancelled()};
     {
+        FileDialog dialog(frame);
         PictureBrowse browse(frame);
-        EXPECT_EQ(browse.Show(nullptr), Here("tall.png"));
+        EXPECT_EQ(browse.Show(dialog, nullptr), Here("tall.png"));
         EXPECT_EQ(browse.PictureSize(), QSize(100, 400)) << "a name that was typed was never selected";
     }
     EXPECT_EQ(frame.LoadedForms().Find(QStringLiteral("frmImage")), nullptr);
     {
+        FileDialog dialog(frame);
         PictureBrowse browse(frame);
-        EXPECT_EQ(browse.Show(nullptr), std::nullopt);
+        EXPECT_EQ(browse.Show(dialog, nullptr), std::nullopt);
     }
     EXPECT_EQ(frame.LoadedForms().Find(QStringLiteral("frmImage")), nullptr);
 }
@@ -112,7 +115,8 @@ TEST(PictureBrowse, ShowsThePictureInTheRealFileDialog) {
     RealPromptsFrame frame;
     Picture(Here("wide.png"), 468, 60);
     frame.State<BuilderState>().LastDir = TestFolder();
-    SharedFileDialog(frame).SetFilter(FileFilter::Picture);
+    FileDialog pictures(frame);
+    pictures.SetFilter(FileFilter::Picture);
     bool seen = false;
     QTimer timer;
     QObject::connect(&timer, &QTimer::timeout, &timer, [&] {
@@ -133,7 +137,7 @@ TEST(PictureBrowse, ShowsThePictureInTheRealFileDialog) {
     });
     timer.start(0);
     PictureBrowse browse(frame);
-    EXPECT_EQ(browse.Show(frame.Window()), Here("wide.png"));
+    EXPECT_EQ(browse.Show(pictures, frame.Window()), Here("wide.png"));
     EXPECT_TRUE(seen);
     EXPECT_EQ(browse.PictureSize(), QSize(468, 60));
 }

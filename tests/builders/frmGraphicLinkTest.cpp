@@ -125,6 +125,29 @@ TEST_F(frmGraphicLinkTest, TheLowSourceHasNoFilterOfItsOwn) {
     const FileRequest after = Browse(u"cmdOpen2", u"img/low.png");
     EXPECT_EQ(after.filter, FileFilter::Picture);
     EXPECT_TRUE(after.panel != nullptr);
+    EXPECT_EQ(Field(T(u"txtWidth")), T(u"468")) << "the size is the source's";
+    EXPECT_EQ(Field(T(u"txtALT")), T(u"banner.png"));
+}
+
+TEST_F(frmGraphicLinkTest, TheLowSourceHasNoFilterOfOtherForms) {
+    Open(T(u"mnuEmbed"), T(u"frmEmbed"));
+    frame.prompts.openAnswers = {ScriptedPrompts::Cancelled()};
+    Press(T(u"cmdGetFle"));
+    EXPECT_EQ(frame.prompts.asked.last().request.filter, FileFilter::AnyFile);
+    Open(T(u"mnuImage"), T(u"frmGraphicLink"));
+    const FileRequest request = Browse(u"cmdOpen2", u"img/low.png");
+    EXPECT_EQ(request.filter, QString());
+    EXPECT_EQ(request.filterIndex, 1);
+}
+
+TEST_F(frmGraphicLinkTest, WithoutADocumentAPickStillTellsTheSize) {
+    frame.CloseDocument();
+    Fill(T(u"txtURL"), T(u"old"));
+    Browse(u"cmdPicOpen", u"img/banner.png");
+    EXPECT_EQ(Field(T(u"txtURL")), T(u"old"));
+    EXPECT_EQ(Field(T(u"txtWidth")), T(u"468"));
+    EXPECT_EQ(Field(T(u"txtHeight")), T(u"60"));
+    EXPECT_EQ(Field(T(u"txtALT")), T(u"banner.png"));
 }
 
 TEST_F(frmGraphicLinkTest, TheLinkIsRelativeWhateverIsAsked) {
@@ -198,6 +221,28 @@ TEST_F(frmGraphicLinkTest, WrapsTheTagInALink) {
     Press(T(u"cmdOK"));
     EXPECT_EQ(Text(), T(u" <a href==\"Big.htm\"><img src=\"A.gif\" usemap=\"#\"></a>"));
     EXPECT_EQ(frame.State<BuilderState>().LastBuiltTag, Text());
+}
+
+TEST_F(frmGraphicLinkTest, ABackslashGoesIntoTheColouredTextAsItStands) {
+    Fill(T(u"txtURL"), T(u"img\\a.gif"));
+    Press(T(u"cmdOK"));
+    EXPECT_EQ(Text(), T(u"<IMG SRC=\"img.gif\" USEMAP=\"#\">"))
+        << "the text control reads a word of its own there";
+    EXPECT_EQ(frame.State<BuilderState>().LastBuiltTag, T(u"<IMG SRC=\"img\\a.gif\" USEMAP=\"#\">"));
+    frame.SetText(QString());
+    frame.Store().WriteFlag(Keys::ColoredTags, false);
+    Open(T(u"mnuImage"), T(u"frmGraphicLink"));
+    Fill(T(u"txtURL"), T(u"img\\a.gif"));
+    Press(T(u"cmdOK"));
+    EXPECT_EQ(Text(), T(u"<IMG SRC=\"img\\a.gif\" USEMAP=\"#\">"));
+}
+
+TEST_F(frmGraphicLinkTest, ColoursTheTag) {
+    Fill(T(u"txtURL"), T(u"a.gif"));
+    Press(T(u"cmdOK"));
+    const auto colors = frame.Colors();
+    ASSERT_EQ(colors.size(), 1U);
+    EXPECT_NE(colors.front().second, frame.Store().ReadNumber(Keys::TextColor[0]));
 }
 
 TEST_F(frmGraphicLinkTest, StandsBeforeTheSelectedText) {

@@ -32,37 +32,38 @@ FileAnswer ScriptedPrompts::Picked(const QString& path) {
     return {path.left(cut), {path.mid(cut)}};
 }
 
-MsgAnswer ScriptedPrompts::MsgBox(QWidget*, const QString& text, MsgButtons buttons, MsgIcon icon,
+MsgAnswer ScriptedPrompts::MsgBox(QWidget* owner, const QString& text, MsgButtons buttons, MsgIcon icon,
                                   const QString& title) {
-    asked.push_back({Asked::Message, text, title, buttons, icon, {}});
+    asked.push_back({Asked::Message, text, title, buttons, icon, {}, owner});
     if (buttons == MsgButtons::OK)
         return MsgAnswer::OK;
     const MsgAnswer refusal = buttons == MsgButtons::YesNo ? MsgAnswer::No : MsgAnswer::Cancel;
     return Next(messageAnswers, "message box", text).value_or(refusal);
 }
 
-QString ScriptedPrompts::InputBox(QWidget*, const QString& prompt, const QString& title, const QString&) {
-    asked.push_back({Asked::Input, prompt, title, MsgButtons::OKCancel, MsgIcon::None, {}});
+QString ScriptedPrompts::InputBox(QWidget* owner, const QString& prompt, const QString& title,
+                                  const QString&) {
+    asked.push_back({Asked::Input, prompt, title, MsgButtons::OKCancel, MsgIcon::None, {}, owner});
     return Next(inputAnswers, "input box", prompt).value_or(QString());
 }
 
-std::optional<ColorNumber> ScriptedPrompts::ChooseColor(QWidget*, QByteArray& customColors) {
-    asked.push_back({Asked::Color, {}, {}, MsgButtons::OKCancel, MsgIcon::None, {}});
+std::optional<ColorNumber> ScriptedPrompts::ChooseColor(QWidget* owner, QByteArray& customColors) {
+    asked.push_back({Asked::Color, {}, {}, MsgButtons::OKCancel, MsgIcon::None, {}, owner});
     customColorsSeen = customColors;
     if (!customColorsLeft.isEmpty())
         customColors = customColorsLeft;
     return Next(colorAnswers, "colour dialog", QString()).value_or(std::nullopt);
 }
 
-FileAnswer ScriptedPrompts::OpenFile(QWidget*, const FileRequest& request) {
-    asked.push_back({Asked::Open, {}, {}, MsgButtons::OKCancel, MsgIcon::None, request});
+FileAnswer ScriptedPrompts::OpenFile(QWidget* owner, const FileRequest& request) {
+    asked.push_back({Asked::Open, {}, {}, MsgButtons::OKCancel, MsgIcon::None, request, owner});
     if (whileOpen)
         whileOpen(request);
     return Next(openAnswers, "open dialog", request.filter).value_or(FileAnswer());
 }
 
-FileAnswer ScriptedPrompts::SaveFile(QWidget*, const FileRequest& request) {
-    asked.push_back({Asked::Save, {}, {}, MsgButtons::OKCancel, MsgIcon::None, request});
+FileAnswer ScriptedPrompts::SaveFile(QWidget* owner, const FileRequest& request) {
+    asked.push_back({Asked::Save, {}, {}, MsgButtons::OKCancel, MsgIcon::None, request, owner});
     if (whileOpen)
         whileOpen(request);
     return Next(saveAnswers, "save dialog", request.filter).value_or(FileAnswer());

@@ -15,6 +15,7 @@ struct Asked {
     MsgButtons buttons = MsgButtons::OK;
     MsgIcon icon = MsgIcon::None;
     FileRequest request;
+    QWidget* owner = nullptr;
 };
 
 /// Answers come from queues, in order; a prompt with no answer left fails the test and is answered as Cancel
