@@ -1,6 +1,8 @@
 #include "builders/DialogCommands.h"
 
+#include "builders/BuilderState.h"
 #include "builders/DialogTest.h"
+#include "builders/FieldFrame.h"
 #include "builders/frmBulletList.h"
 #include <QAccessible>
 #include <QCheckBox>
@@ -9,25 +11,89 @@
 
 namespace {
 
-/// A form, the entries that show it ("" for ShowBulletList) and the button of its OK.
+struct Button {
+    const char16_t* name;
+    const char16_t* caption;
+};
+
+/// A form, the entries that show it ("" for ShowBulletList), and what its OK writes with LowerCaseTags on
+/// when one of its fields holds "MiXed" and one of its buttons was pressed.
 struct FormRow {
     const char16_t* form;
     std::vector<const char16_t*> entries;
-    const char16_t* ok = u"cmdOK";
+    const char16_t* field;
+    const char16_t* open;
+    const char16_t* close = u"";
+    const char16_t* press = u"";
+    Button ok = {u"cmdOK", u"OK"};
+    Button cancel = {u"cmdCancel", u"Cancel"};
+    bool stays = false;    ///< OK leaves it open
+    bool tellsTag = false; ///< OK hands its tag on
+    bool replaces = false; ///< OK deletes what is selected
 };
 
 const FormRow rows[] = {
-    {u"frmBody", {u"tb_body"}},
-    {u"frmGraphicLink", {u"mnuImage", u"tb_image"}},
-    {u"frmLinks", {u"mnuLink", u"tb_link"}},
-    {u"frmHRInput", {u"mnuHR", u"tb_hr"}},
-    {u"frmFont", {u"tb_abc"}},
-    {u"frmJava", {u"tb_java"}},
-    {u"frmParam", {u"tb_java2"}},
-    {u"frmEmbed", {u"mnuEmbed", u"tb_embed"}},
-    {u"frmSpacer", {u"tb_rectangle"}},
-    {u"frmMulti", {u"tb_split"}, u"Command1"},
-    {u"frmBulletList", {u""}, u"cmdDone"},
+    {.form = u"frmBody",
+     .entries = {u"tb_body"},
+     .field = u"txtBG",
+     .open = u"<body bgcolor=\"MiXed\">",
+     .tellsTag = true,
+     .replaces = true},
+    {.form = u"frmGraphicLink",
+     .entries = {u"mnuImage", u"tb_image"},
+     .field = u"txtURL",
+     .open = u"<img src=\"MiXed\" usemap=\"#\">",
+     .tellsTag = true},
+    {.form = u"frmLinks",
+     .entries = {u"mnuLink", u"tb_link"},
+     .field = u"txtURL",
+     .open = u"<a href=\"MiXed\">",
+     .close = u"</a>",
+     .ok = {u"cmdOK", u"&OK"},
+     .cancel = {u"cmdCancel", u"&Cancel"}},
+    {.form = u"frmHRInput",
+     .entries = {u"mnuHR", u"tb_hr"},
+     .field = u"txtWidthInput",
+     .open = u"<hr width=MiXed>"},
+    {.form = u"frmFont",
+     .entries = {u"tb_abc"},
+     .field = u"txtFontColor",
+     .open = u"<font color=MiXed>",
+     .close = u"</font>"},
+    {.form = u"frmJava",
+     .entries = {u"tb_java"},
+     .field = u"txtCode",
+     .open = u"<applet code=MiXed>",
+     .close = u"\r\n</applet>"},
+    {.form = u"frmParam",
+     .entries = {u"tb_java2"},
+     .field = u"txtName",
+     .open = u"<param name=MiXed>",
+     .stays = true},
+    {.form = u"frmEmbed",
+     .entries = {u"mnuEmbed", u"tb_embed"},
+     .field = u"txtURL",
+     .open = u"<embed src=\"MiXed\">"},
+    {.form = u"frmSpacer",
+     .entries = {u"tb_rectangle"},
+     .field = u"txtSize",
+     .open = u"<spacer type=horizontal size=MiXed>",
+     .press = u"optHorz",
+     .cancel = {u"cmdCancel", u"&Cancel"}},
+    {.form = u"frmMulti",
+     .entries = {u"tb_split"},
+     .field = u"txtCols",
+     .open = u"<multicol cols=MiXed>",
+     .close = u"</multicol>",
+     .ok = {u"Command1", u"OK"},
+     .cancel = {u"Command2", u"Cancel"}},
+    {.form = u"frmBulletList",
+     .entries = {u""},
+     .field = u"txtAddItem",
+     .open = u"<ul>\r\n<li>MiXed\r\n</ul>",
+     .press = u"cmdAddItem",
+     .ok = {u"cmdDone", u"&Done"},
+     .cancel = {u"", u""}},
 };
 
 QString Name(const char16_t* text) {
@@ -56,6 +122,25 @@ class AnyDialogTest : public DialogTest, public testing::WithParamInterface<Form
                 controls << one;
         }
         return controls;
+    }
+    /// Fills the field of the row and presses its button.
+    void FillIn() {
+        Fill(Name(GetParam().field), QStringLiteral("MiXed"));
+        if (*GetParam().press)
+            Press(Name(GetParam().press));
+    }
+    void PressOk() { Press(Name(GetParam().ok.name)); }
+    /// The title or label text, with its mnemonic, that names a field; empty where none does.
+    QString NameOf(const QWidget& field) {
+        for (const QLabel* label : form->findChildren<QLabel*>()) {
+            if (label->buddy() == &field)
+                return label->text();
+        }
+        for (const FieldFrame* one : form->findChildren<FieldFrame*>()) {
+            if (one->Field() == &field)
+                return one->title();
+        }
+        return QString();
     }
     /// What the fields and boxes hold.
     QStringList State() {
@@ -95,6 +180,77 @@ TEST_P(AnyDialogTest, EscAndTheCloseButtonUnloadIt) {
     EXPECT_FALSE(frame.active->modified);
 }
 
+TEST_P(AnyDialogTest, ItsButtonsAreNamedAndCancelDoesNothingButClose) {
+    frame.SetText(QStringLiteral("abc"));
+    Show();
+    EXPECT_EQ(Control<QAbstractButton>(Name(GetParam().ok.name)).text(), Name(GetParam().ok.caption));
+    if (!*GetParam().cancel.name)
+        return;
+    EXPECT_EQ(Control<QAbstractButton>(Name(GetParam().cancel.name)).text(), Name(GetParam().cancel.caption));
+    FillIn();
+    Press(Name(GetParam().cancel.name));
+    EXPECT_FALSE(Loaded(FormName()));
+    EXPECT_EQ(Text(), QStringLiteral("abc"));
+    EXPECT_FALSE(frame.active->modified);
+    EXPECT_FALSE(frame.State<BuilderState>().TagBuilt);
+}
+
+TEST_P(AnyDialogTest, IsEmptyAtFirstButForTheForwardSlashes) {
+    Show();
+    for (const QLineEdit* field : form->findChildren<QLineEdit*>())
+        EXPECT_EQ(field->text(), QString()) << field->objectName().toStdString();
+    for (const QAbstractButton* button : form->findChildren<QAbstractButton*>())
+        EXPECT_EQ(button->isChecked(), button->objectName() == QStringLiteral("chkForwardSlash"))
+            << button->objectName().toStdString();
+}
+
+TEST_P(AnyDialogTest, OkActsOnTheDocumentAndTheSelectionOfThatMoment) {
+    LowerCaseTags();
+    TestDocument* first = frame.active;
+    frame.SetText(QStringLiteral("first"));
+    frame.Box().SetSelStart(0);
+    frame.Box().SetSelLength(5);
+    Show();
+    FillIn();
+    frame.NewDocument();
+    frame.SetText(QStringLiteral("one two"));
+    frame.Box().SetSelStart(4);
+    frame.Box().SetSelLength(3);
+    PressOk();
+    EXPECT_EQ(first->input->Text(), QStringLiteral("first"));
+    EXPECT_EQ(first->input->SelText(), QStringLiteral("first"));
+    EXPECT_FALSE(first->modified);
+    const QString inside = GetParam().replaces ? QString() : QStringLiteral("two");
+    EXPECT_EQ(Text(), QStringLiteral("one ") + Name(GetParam().open) + inside + Name(GetParam().close));
+    EXPECT_EQ(frame.Box().SelLength(), 0);
+    EXPECT_EQ(Loaded(FormName()), GetParam().stays);
+    EXPECT_TRUE(frame.prompts.asked.isEmpty());
+}
+
+TEST_P(AnyDialogTest, OnlyTheBodyAndTheImageHandTheirTagOnAndOnlyOnceItStands) {
+    LowerCaseTags();
+    const BuilderState& state = frame.State<BuilderState>();
+    Show();
+    FillIn();
+    bool early = false;
+    QObject::connect(&frame.Box(), &RichTextBox::Change, form, [&] { early = early || state.TagBuilt; });
+    PressOk();
+    EXPECT_FALSE(early);
+    EXPECT_EQ(state.TagBuilt, GetParam().tellsTag);
+    EXPECT_EQ(state.LastBuiltTag, GetParam().tellsTag ? Name(GetParam().open) : QString());
+    EXPECT_EQ(state.LastDir, QString());
+}
+
+TEST_P(AnyDialogTest, TypingInTheDocumentGoesOnWhileItIsUp) {
+    Show();
+    FillIn();
+    frame.SetText(QStringLiteral("typed"));
+    EXPECT_TRUE(Loaded(FormName()));
+    EXPECT_TRUE(form->isVisible());
+    EXPECT_TRUE(frame.Window()->isEnabled());
+    EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
+}
+
 TEST_P(AnyDialogTest, EscWorksInEveryControl) {
     Show();
     const qsizetype count = Controls().size();
@@ -110,7 +266,7 @@ TEST_P(AnyDialogTest, EscWorksInEveryControl) {
 
 TEST_P(AnyDialogTest, EnterPressesTheDefaultButtonFromEveryField) {
     const bool collects = FormName() == QStringLiteral("frmBulletList");
-    const bool stays = FormName() == QStringLiteral("frmParam") || collects;
+    const bool stays = GetParam().stays || collects;
     Show();
     const qsizetype count = Controls().size();
     int fields = 0;
@@ -134,13 +290,22 @@ TEST_P(AnyDialogTest, EnterPressesTheDefaultButtonFromEveryField) {
 }
 
 TEST_P(AnyDialogTest, OkWithoutADocumentClosesItAndDoesNothingElse) {
+    LowerCaseTags();
     frame.CloseDocument();
     Show();
-    if (FormName() == QStringLiteral("frmEmbed"))
-        Fill(QStringLiteral("txtURL"), QStringLiteral("x"));
-    Press(Name(GetParam().ok));
-    EXPECT_EQ(Loaded(FormName()), FormName() == QStringLiteral("frmParam"));
+    FillIn();
+    PressOk();
+    EXPECT_EQ(Loaded(FormName()), GetParam().stays);
+    EXPECT_EQ(frame.forms->Count(), GetParam().stays ? 1 : 0);
+    EXPECT_EQ(frame.active, nullptr);
     EXPECT_TRUE(frame.prompts.asked.isEmpty());
+    EXPECT_EQ(frame.prompts.beeps, 0);
+    EXPECT_TRUE(frame.opened.isEmpty() && frame.previewed.isEmpty() && frame.statuses.isEmpty());
+    EXPECT_EQ(frame.saves, 0);
+    // Whoever waits for the tag is not left waiting.
+    EXPECT_EQ(frame.State<BuilderState>().TagBuilt, GetParam().tellsTag);
+    EXPECT_EQ(frame.State<BuilderState>().LastBuiltTag,
+              GetParam().tellsTag ? Name(GetParam().open) : QString());
 }
 
 TEST_P(AnyDialogTest, KeepsNothingBetweenShowings) {
@@ -205,6 +370,33 @@ TEST_P(AnyDialogTest, EveryControlHasAnAccessibleName) {
     }
 }
 
+TEST_P(AnyDialogTest, TheMnemonicOfItsNameLeadsToEachField) {
+    Show();
+    form->activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(form));
+    // Where option buttons stand beside a field, one that is on must not take its place.
+    for (QRadioButton* option : form->findChildren<QRadioButton*>()) {
+        if (option->parentWidget() != form) {
+            option->setFocus();
+            option->click();
+        }
+    }
+    int fields = 0;
+    for (QWidget* control : Controls()) {
+        if (!qobject_cast<QLineEdit*>(control) && !qobject_cast<QComboBox*>(control) &&
+            !qobject_cast<QListWidget*>(control))
+            continue;
+        ++fields;
+        const QString name = NameOf(*control);
+        const qsizetype at = name.indexOf(u'&');
+        ASSERT_GE(at, 0) << control->objectName().toStdString() << " is named '" << name.toStdString() << "'";
+        Control<QWidget>(Name(GetParam().ok.name)).setFocus();
+        QTest::keyClick(form, static_cast<Qt::Key>(name[at + 1].toUpper().unicode()), Qt::AltModifier);
+        EXPECT_EQ(form->focusWidget(), control) << control->objectName().toStdString();
+    }
+    EXPECT_GT(fields, 0);
+}
+
 TEST_P(AnyDialogTest, MnemonicsAreUnique) {
     Show();
     std::set<QChar> seen;
@@ -215,6 +407,8 @@ TEST_P(AnyDialogTest, MnemonicsAreUnique) {
     }
     for (QAbstractButton* button : form->findChildren<QAbstractButton*>())
         texts << button->text();
+    for (QGroupBox* box : form->findChildren<QGroupBox*>())
+        texts << box->title();
     for (const QString& text : texts) {
         const qsizetype at = text.indexOf(u'&');
         if (at < 0)

@@ -30,7 +30,7 @@ TEST_F(frmHRInputTest, LooksAsItShould) {
     Open(T(u"mnuHR"), T(u"frmHRInput"));
     EXPECT_EQ(form->windowTitle(), T(u"Horizontal Rule"));
     const auto frameOf = [&](const QString& control) {
-        return qobject_cast<QGroupBox*>(Control<QWidget>(control).parentWidget())->title();
+        return qobject_cast<QGroupBox*>(Control<QWidget>(control).parentWidget())->title().remove(u'&');
     };
     EXPECT_EQ(frameOf(T(u"txtWidthInput")), T(u"Width"));
     EXPECT_EQ(frameOf(T(u"optPercent")), T(u"Width"));
