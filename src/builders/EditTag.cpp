@@ -25,13 +25,13 @@ const QString BodyForm = QStringLiteral("frmBody");
 const QString EmbedForm = QStringLiteral("frmEmbed");
 
 void SetField(const QWidget& form, const QString& name, const QString& value) {
-    if (auto* combo = form.findChild<QComboBox*>(name)) {
-        combo->setEditText(value);
-    } else if (auto* field = form.findChild<QLineEdit*>(name)) {
-        // The old tag is gone once the dialog is up: a long value must not lose its end.
-        field->setMaxLength(std::max(field->maxLength(), static_cast<int>(value.size())));
-        field->setText(value);
-    }
+    auto* combo = form.findChild<QComboBox*>(name);
+    QLineEdit* field = combo ? combo->lineEdit() : form.findChild<QLineEdit*>(name);
+    if (!field)
+        return;
+    // The old tag is gone once the dialog is up: a long value must not lose its end.
+    field->setMaxLength(std::max(field->maxLength(), static_cast<int>(value.size())));
+    field->setText(value);
 }
 
 /// Sets the fields in the order given from the rows of a table; an attribute that the tag lacks empties its

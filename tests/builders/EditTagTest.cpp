@@ -11,6 +11,9 @@ class EditTagTest : public DialogTest {
         DialogTest::SetUp();
         FillEditTagCommand(frame);
     }
+    void TearDown() override {
+        EXPECT_TRUE(frame.prompts.asked.isEmpty()) << "there is no message of any kind";
+    }
     /// The text with the caret where "|" stands, and the command.
     void EditAt(const QString& text) {
         const int caret = static_cast<int>(text.indexOf(u'|'));
@@ -86,6 +89,73 @@ TEST_F(EditTagTest, ImageAndEmbedComeRoundUnchanged) {
         Press(QStringLiteral("cmdOK"));
         EXPECT_EQ(Text(), u'a' + tag + u'b');
     }
+}
+
+TEST_F(EditTagTest, TagsComeRoundInLowerCaseToo) {
+    LowerCaseTags();
+    for (const char* tag : {"<img alt=\"X y\" width=10 height=20 src=\"A.gif\" usemap=\"#M\" ismap>",
+                            "<embed width=10 palette=FOREGROUND src=\"X.mid\">"}) {
+        const QString text = QString::fromLatin1(tag);
+        EditAt(u'<' + (u'|' + text.mid(1)));
+        EXPECT_EQ(Text(), QString());
+        Press(QStringLiteral("cmdOK"));
+        EXPECT_EQ(Text(), text);
+    }
+}
+
+TEST_F(EditTagTest, AttributesComeBackInTheDialogsOrder) {
+    EditAt(QStringLiteral("<|IMG SRC=\"a.gif\" HEIGHT=20 WIDTH=10 LOWSRC=\"l.gif\" ALT=\"x\" CLASS=c>"));
+    Press(QStringLiteral("cmdOK"));
+    EXPECT_EQ(Text(), QStringLiteral(
+                          "<IMG ALT=\"x\" WIDTH=10 HEIGHT=20 LOWSRC=\"l.gif\" SRC=\"a.gif\" USEMAP=\"#\">"))
+        << "an attribute without a field is lost";
+}
+
+TEST_F(EditTagTest, ATextOfSeveralLinesStays) {
+    const QString tag = QStringLiteral("<IMG ALT=\"one\r\ntwo\tthree\" USEMAP=\"#\">");
+    EditAt(tag.left(5) + u'|' + tag.mid(5));
+    EXPECT_EQ(Field(QStringLiteral("txtALT")), QStringLiteral("one\r\ntwo\tthree"));
+    Press(QStringLiteral("cmdOK"));
+    EXPECT_EQ(Text(), tag);
+}
+
+TEST_F(EditTagTest, TheCutIsOneStepThatMarksTheDocument) {
+    EditAt(QStringLiteral("a<img |src=\"a.gif\">b"));
+    EXPECT_TRUE(frame.active->modified);
+    Press(QStringLiteral("cmdCancel"));
+    frame.active->modified = false;
+    EditAt(QStringLiteral("a<b|ody>b"));
+    EXPECT_FALSE(frame.active->modified) << "a body tag is not cut";
+}
+
+TEST_F(EditTagTest, AnEmbedWithoutASourceWantsOne) {
+    EditAt(QStringLiteral("<embed |width=10>"));
+    EXPECT_FALSE(Control<QAbstractButton>(QStringLiteral("cmdOK")).isEnabled());
+    EXPECT_EQ(Text(), QString());
+}
+
+TEST_F(EditTagTest, AnOpenEmbedDialogIsFilledAnew) {
+    EditAt(QStringLiteral("<embed |src=\"a.mid\" palette=BACKGROUND height=3>"));
+    EditAt(QStringLiteral("<embed |width=4>"));
+    const std::pair<const char*, const char*> fields[] = {
+        {"txtURL", ""}, {"cboPalette", ""}, {"txtHeight", ""}, {"txtWidth", "4"}};
+    for (const auto& [name, value] : fields)
+        EXPECT_EQ(Field(QString::fromLatin1(name)), QString::fromLatin1(value)) << name;
+    EXPECT_FALSE(Control<QAbstractButton>(QStringLiteral("cmdOK")).isEnabled());
+}
+
+TEST_F(EditTagTest, AnOpenBodyDialogIsNotReadAnew) {
+    EditAt(QStringLiteral("<body |bgcolor=#111111>"));
+    EditAt(QStringLiteral("<body |bgcolor=#222222>"));
+    EXPECT_EQ(Field(QStringLiteral("txtBG")), QStringLiteral("#111111"));
+    EXPECT_EQ(frame.Box().SelText(), QStringLiteral("<body bgcolor=#222222>"));
+}
+
+TEST_F(EditTagTest, TheBodysOkReplacesTheTagThatWasSelected) {
+    EditAt(QStringLiteral("<BODY TEXT=\"#111111\">one<body l|eftmargin=0>two"));
+    Fill(QStringLiteral("txtText"), QStringLiteral("#222222"));
+    Press(QStringLiteral("cmdOK"));
+    EXPECT_EQ(Text(), QStringLiteral("<BODY TEXT=\"#111111\">one<BODY TEXT=\"#222222\">two"));
 }
 
 TEST_F(EditTagTest, CancelLeavesTheTagCutAndUndoBringsItBack) {
@@ -208,6 +278,13 @@ TEST_F(EditTagTest, LongSourceKeepsItsEnd) {
     EditAt(QStringLiteral("<img |src=\"") + source + QStringLiteral("\">"));
     Press(QStringLiteral("cmdOK"));
     EXPECT_EQ(Text(), QStringLiteral("<IMG SRC=\"") + source + QStringLiteral("\" USEMAP=\"#\">"));
+}
+
+TEST_F(EditTagTest, LongPaletteKeepsItsEnd) {
+    const QString palette = QString(40000, u'A') + QStringLiteral("end");
+    EditAt(QStringLiteral("<embed |src=\"x.mid\" palette=") + palette + u'>');
+    Press(QStringLiteral("cmdOK"));
+    EXPECT_EQ(Text(), QStringLiteral("<EMBED PALETTE=") + palette + QStringLiteral(" SRC=\"x.mid\">"));
 }
 
 TEST_F(EditTagTest, WithoutADocumentNothingHappens) {
