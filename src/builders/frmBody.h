@@ -22,7 +22,7 @@ class frmBody final : public TagDialog {
     void ReadColors();
     /// Asks for a colour: 0 background, 1 text, 2 link, 3 visited link, 4 active link. Any other does
     /// nothing. A cancelled colour dialog gives black.
-    void cmdShowColor_Click(int index);
+    Q_INVOKABLE void cmdShowColor_Click(int index);
     void Command1_Click();
     void txtBackground_Change();
     void cmdOK_Click() override;

@@ -141,9 +141,19 @@ TEST_F(frmBodyTest, EachButtonPicksItsColour) {
     for (int i = 0; i < 5; ++i) {
         frame.prompts.colorAnswers.push_back(0x010203 + i * 0x030303);
         Press(T(u"cmdShowColor_%1").arg(i));
+        EXPECT_EQ(frame.prompts.asked.last().owner, form);
         EXPECT_EQ(Field(fields[i]), texts[i]);
         EXPECT_EQ(i == 0 ? Page().BackColor() : ColorOf(labels[i]), QColor(texts[i]));
     }
+}
+
+TEST_F(frmBodyTest, AColourOfNoNumberIsNotAskedFor) {
+    Show();
+    for (const int index : {-1, 5, 6, 1000})
+        EXPECT_TRUE(QMetaObject::invokeMethod(form, "cmdShowColor_Click", Q_ARG(int, index)));
+    EXPECT_TRUE(frame.prompts.asked.isEmpty());
+    for (const QString& field : fields)
+        EXPECT_EQ(Field(field), QString());
 }
 
 TEST_F(frmBodyTest, FourLabelsTakeADoubleClickAndTheLastASingleOne) {

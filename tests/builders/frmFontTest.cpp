@@ -107,6 +107,7 @@ TEST_F(frmFontTest, EnterOnAListWithNothingSelectedDoesNothing) {
 TEST_F(frmFontTest, PicksAColour) {
     frame.prompts.colorAnswers = {0x0000FF, std::nullopt};
     Press(T(u"cmdShowColor"));
+    EXPECT_EQ(frame.prompts.asked.last().owner, form);
     EXPECT_EQ(Field(T(u"txtFontColor")), T(u"#FF0000"));
     // Cancel is black.
     Press(T(u"cmdShowColor"));

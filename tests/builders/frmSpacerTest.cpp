@@ -85,6 +85,26 @@ TEST_F(frmSpacerTest, EnablesTheFieldsOfTheKindWithTheirLabels) {
     EXPECT_EQ(Usable(), T(u"S"));
 }
 
+TEST_F(frmSpacerTest, TheKindIsChosenByKeys) {
+    form->activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(form));
+    const auto chosen = [&](const char16_t* option) {
+        // A button pressed by its mnemonic shows as pressed for a moment first.
+        return QTest::qWaitFor([&] { return Control<QRadioButton>(T(option)).isChecked(); });
+    };
+    QTest::keyClick(form, Qt::Key_H, Qt::AltModifier);
+    EXPECT_TRUE(chosen(u"optHorz"));
+    EXPECT_EQ(Usable(), T(u"S"));
+    QTest::keyClick(form, Qt::Key_B, Qt::AltModifier);
+    EXPECT_TRUE(chosen(u"optBlock"));
+    EXPECT_EQ(Usable(), T(u"WHA"));
+    QTest::keyClick(form->focusWidget(), Qt::Key_Left);
+    EXPECT_TRUE(Control<QRadioButton>(T(u"optVert")).isChecked());
+    EXPECT_EQ(Usable(), T(u"S"));
+    QTest::keyClick(form->focusWidget(), Qt::Key_Right);
+    EXPECT_EQ(Usable(), T(u"WHA"));
+}
+
 TEST_F(frmSpacerTest, DrawsALabelGreyWithItsField) {
     Press(T(u"optBlock"));
     const auto color = [&](const char16_t* name) {
