@@ -1,6 +1,10 @@
-// Finds the tag around every kind of caret in random text, and reads every attribute of it back.
+// Edit Tag on every kind of caret in random text: the tag found is that of a plain scan, its attributes read
+// back as the table says, and the command takes out the selected tag and nothing else.
+#include "builders/EditTag.h"
 #include "builders/TagParser.h"
+#include "FuzzApplication.h"
 #include "platform/Cp1252.h"
+#include "support/TestFrame.h"
 
 #include <cstddef>
 #include <cstdint>
@@ -13,6 +17,20 @@ void Demand(bool holds) {
         std::abort();
 }
 
+/// The scan one character at a time. Positions count from 1 here.
+std::optional<TagPlace> PlainScan(const QString& text, int caret) {
+    for (int i = caret; i >= 1; --i) {
+        const QChar c = text[i - 1];
+        if (c == u'>')
+            return std::nullopt;
+        if (c != u'<')
+            continue;
+        const auto close = static_cast<int>(text.indexOf(u'>', i - 1));
+        return close < 0 ? std::nullopt : std::optional(TagPlace{i - 1, close - i + 2});
+    }
+    return TagPlace{caret, 0};
+}
+
 void CheckRows(const QString& tag, const QVector<TagKey>& keys) {
     for (const TagKey& key : keys) {
         const QString value = TagValue(tag, key);
@@ -20,6 +38,34 @@ void CheckRows(const QString& tag, const QVector<TagKey>& keys) {
         Demand(!value.contains(key.terminator));
         Demand(tag.contains(value));
     }
+}
+
+/// Made once: a frame's settings are files, and those take longer than all the rest.
+TestFrame& OneFrame() {
+    StartFuzzApplication();
+    static auto* const frame = new TestFrame;
+    return *frame;
+}
+
+/// The command in a document, and Cancel in the dialog that it opens.
+void CheckCommand(const QString& text, int caret, const std::optional<TagPlace>& place) {
+    TestFrame& frame = OneFrame();
+    frame.SetText(text);
+    const QString before = frame.Box().Text();
+    if (before != text)
+        return; // not a text that a document holds
+    frame.Box().SetSelStart(caret);
+    EditTag(frame);
+    const TagKind kind = place ? KindOfTag(text.mid(place->start, place->length)) : TagKind::None;
+    const bool cut = kind == TagKind::Image || kind == TagKind::Embed;
+    Demand(frame.LoadedForms().Count() == (kind == TagKind::None ? 1 : 2));
+    Demand(frame.Box().Text() == (cut ? QString(text).remove(place->start, place->length) : text));
+    Demand(frame.Box().SelStart() == (place ? place->start : caret));
+    Demand(frame.Box().SelLength() == (place && !cut ? place->length : 0));
+    Demand(frame.prompts.asked.isEmpty());
+    for (const char* form : {"frmGraphicLink", "frmBody", "frmEmbed"})
+        frame.LoadedForms().Unload(QString::fromLatin1(form));
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
 }
 
 } // namespace
@@ -32,20 +78,10 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
         Cp1252::FromBytes({reinterpret_cast<const char*>(data) + 2, static_cast<qsizetype>(size) - 2});
     const int caret = static_cast<int>(where % (static_cast<size_t>(text.size()) + 1));
     const auto place = FindTagAround(caret, [&](int start, int length) { return text.mid(start, length); });
-    if (place) {
-        const QString tag = text.mid(place->start, place->length);
-        Demand(tag.size() == place->length);
-        if (!tag.isEmpty()) {
-            Demand(place->start < caret && tag.startsWith(u'<') && tag.endsWith(u'>'));
-            Demand(tag.indexOf(u'>') == tag.size() - 1);
-            Demand(tag.lastIndexOf(u'<', caret - 1 - place->start) == 0);
-        } else {
-            Demand(!text.left(caret).contains(u'<') && !text.left(caret).contains(u'>'));
-        }
-    }
-    KindOfTag(text);
+    Demand(place == PlainScan(text, caret));
     HasIsMap(text);
     CheckRows(text, ImageKeys());
     CheckRows(text, EmbedKeys());
+    CheckCommand(text, caret, place);
     return 0;
 }
