@@ -16,6 +16,7 @@
 #include <QListWidget>
 #include <QPlainTextEdit>
 #include <QPushButton>
+#include <QTest>
 
 namespace {
 
@@ -139,6 +140,31 @@ TEST_F(CDialogTest, AsksWithItsFilterIndexFolderAndKind) {
     EXPECT_EQ(frame.prompts.asked.last().kind, Asked::Save);
     EXPECT_FALSE(dialog.Action(0));
     EXPECT_EQ(frame.prompts.asked.size(), 3);
+}
+
+TEST_F(CDialogTest, ItsOwnerIsTheActiveFormUnlessOneIsGiven) {
+    frame.prompts.openAnswers = {ScriptedPrompts::Cancelled(), ScriptedPrompts::Cancelled()};
+    frame.prompts.saveAnswers = {ScriptedPrompts::Cancelled()};
+    QWidget given;
+    EXPECT_FALSE(dialog.ShowOpen(&given));
+    EXPECT_EQ(frame.prompts.asked.last().owner, &given);
+    QWidget active;
+    active.show();
+    active.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&active));
+    EXPECT_FALSE(dialog.ShowOpen());
+    EXPECT_EQ(frame.prompts.asked.last().owner, &active);
+    EXPECT_FALSE(dialog.ShowSave());
+    EXPECT_EQ(frame.prompts.asked.last().owner, &active);
+}
+
+TEST_F(CDialogTest, LeavesTheLastFolderToTheFrame) {
+    frame.State<BuilderState>().LastDir = QStringLiteral("/site");
+    frame.prompts.openAnswers = {ScriptedPrompts::Picked(QStringLiteral("/elsewhere/a.htm"))};
+    frame.prompts.saveAnswers = {ScriptedPrompts::Picked(QStringLiteral("/elsewhere/a.htm"))};
+    EXPECT_TRUE(dialog.ShowOpen());
+    EXPECT_TRUE(dialog.ShowSave());
+    EXPECT_EQ(frame.State<BuilderState>().LastDir, QStringLiteral("/site"));
 }
 
 TEST_F(CDialogTest, FiltersAreAddedOneByOne) {

@@ -77,6 +77,21 @@ TEST(FindTagAround, ReadsEachCharacterAtMostOnce) {
     EXPECT_LT(read, 1010000);
 }
 
+TEST(FindTagAround, FarBracketsAreFoundWhereverThePartsReadEnd) {
+    const auto find = [](const QString& text, int caret) {
+        return FindTagAround(caret, [&](int start, int length) { return text.mid(start, length); });
+    };
+    for (int far = 4090; far <= 8200; far = far == 4100 ? 8185 : far + 1) {
+        const QString filler(far, u'x');
+        // Far to the left, far to the right, and none at all.
+        EXPECT_EQ(find(u'<' + filler + u'>', far + 1), (TagPlace{0, far + 2})) << far;
+        EXPECT_EQ(find(u'<' + filler + u'>', 1), (TagPlace{0, far + 2})) << far;
+        EXPECT_EQ(find(u'>' + filler, far + 1), std::nullopt) << far;
+        EXPECT_EQ(find(filler, far), (TagPlace{far, 0})) << far;
+        EXPECT_EQ(find(u'<' + filler, far + 1), std::nullopt) << far;
+    }
+}
+
 TEST(KindOfTag, SubstringsInOrder) {
     struct Row {
         QStringView tag;
