@@ -8,6 +8,13 @@ def fill(desk, label, text):
     desk.type(text)
 
 
+def fill_by_keys(desk, **fields):
+    """Goes to each field by the key of its mnemonic and types."""
+    for key, text in fields.items():
+        desk.key("alt+" + key)
+        desk.type(text)
+
+
 def page(desk, data=b""):
     path = desk.write("page.htm", data)
     desk.run(path)
@@ -20,42 +27,42 @@ def test_image_link_and_body_into_one_page(desk):
     desk.key("ctrl+Home", "Down")
     desk.click_widget("Image", "push button")
     desk.wait_active("Image")
-    fill(desk, "Source:", "a.gif")
-    fill(desk, "Width:", "10")
-    fill(desk, "Alternate Text:", "x")
+    fill_by_keys(desk, s="a.gif", w="10", t="x")
     desk.key("Return")
     desk.wait_no_window("Image")
     desk.wait_text('<IMG ALT="x" WIDTH=10 SRC="a.gif" USEMAP="#">')
     desk.key("shift+End")
     desk.click_widget("Link", "push button")
     desk.wait_active("Link")
-    fill(desk, "URL OR FILE:", "x.htm")
-    fill(desk, "Anchor:", "top")
+    fill_by_keys(desk, u="x.htm", a="top")
     desk.key("Return")
     desk.wait_no_window("Link")
     desk.wait_text('<A HREF="x.htm#top">word</A>')
     desk.click_widget("Body", "push button")
     desk.wait_active("Body")
+    fill_by_keys(desk, g="#FFFFFF", t="black", v="#800080", i="img/back.gif")
     desk.key("Return")
     desk.wait_no_window("Body")
     desk.key("ctrl+s")
     wait_for("the saved page", lambda: read(path) == (
-        b'<BODY>\r\n<IMG ALT="x" WIDTH=10 SRC="a.gif" USEMAP="#"><A HREF="x.htm#top">word</A>\r\n</BODY>\r\n\r\n'))
+        b'<BODY BGCOLOR="#FFFFFF" TEXT="black" VLINK="#800080" BACKGROUND="img/back.gif">\r\n'
+        b'<IMG ALT="x" WIDTH=10 SRC="a.gif" USEMAP="#"><A HREF="x.htm#top">word</A>\r\n</BODY>\r\n\r\n'))
 
 
 def test_a_dialog_by_keyboard_alone(desk):
     page(desk, b"<P>x</P>\r\n")
     desk.key("ctrl+h")
     desk.wait_active("Horizontal Rule")
-    desk.type("50")
+    fill_by_keys(desk, w="50", t="2", a="CENTER")
+    desk.key("alt+w", "Tab", "space")
     desk.key("Return")
     desk.wait_no_window("Horizontal Rule")
-    desk.wait_text("<HR WIDTH=50>")
+    desk.wait_text("<HR WIDTH=50% SIZE=2 ALIGN=CENTER>")
     desk.key("ctrl+q")
     desk.wait_active("Image")
     desk.key("Escape")
     desk.wait_no_window("Image")
-    wait_for("the unchanged text", lambda: desk.text() == "<HR WIDTH=50><P>x</P>\r\n")
+    wait_for("the unchanged text", lambda: desk.text() == "<HR WIDTH=50% SIZE=2 ALIGN=CENTER><P>x</P>\r\n")
 
 
 def test_edit_tag_brings_the_dialog_back(desk):
