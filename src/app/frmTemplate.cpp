@@ -19,6 +19,7 @@
 
 #include <QAction>
 #include <QCloseEvent>
+#include <QCoreApplication>
 #include <QMdiArea>
 #include <QMenu>
 #include <QTimer>
@@ -175,6 +176,17 @@ void frmTemplate::TakeDown() {
     QMdiSubWindow* next = area->currentSubWindow();
     if (next && maximised && !next->isMinimized())
         next->showMaximized();
+}
+
+void frmTemplate::showEvent(QShowEvent* event) {
+    QMdiSubWindow::showEvent(event);
+    // A maximised window puts its title into the frame's when the title changes, but only while it is
+    // visible: one that took its path before the frame was on the screen has to tell it now.
+    const QMdiArea* area = mdiArea();
+    if (!area || area->currentSubWindow() != this)
+        return;
+    QEvent titleChange(QEvent::WindowTitleChange);
+    QCoreApplication::sendEvent(this, &titleChange);
 }
 
 void frmTemplate::closeEvent(QCloseEvent* event) {

@@ -46,6 +46,7 @@ class frmTemplate final : public QMdiSubWindow, public Document {
     QTimer& Timer1() { return *timer1_; }
 
   protected:
+    void showEvent(QShowEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
     bool eventFilter(QObject* watched, QEvent* event) override;
 

@@ -368,6 +368,32 @@ TEST_F(frmTemplateOf, DocumentsOfAFrameNotYetShownBecomeActiveInTurn) {
     EXPECT_EQ(hidden.frame->ActiveForm(), static_cast<Document*>(&first));
 }
 
+TEST_F(frmTemplateOf, FrameNamesTheMaximisedDocumentWheneverItWasOpened) {
+    Write(Keys::TemplateWindowState, "2");
+    const QString first = MakeFile(QStringLiteral("a.htm"), "a");
+    const QString second = MakeFile(QStringLiteral("b.htm"), "b");
+    ProgramRun run;
+    const auto title = [&] {
+        QCoreApplication::processEvents();
+        return run.frame->windowTitle();
+    };
+    const QString own = QStringLiteral("The Tarnwick Pro 3.0");
+    ASSERT_TRUE(run.Start(first));
+    EXPECT_EQ(title(), own + QStringLiteral(" - [") + first + u']');
+    run.frame->OpenDocumentFile(second);
+    EXPECT_EQ(title(), own + QStringLiteral(" - [") + second + u']');
+    run.New();
+    EXPECT_EQ(title(), own);
+    EXPECT_TRUE(run.Active().Unload());
+    run.Active().showNormal();
+    EXPECT_EQ(title(), own);
+    run.Active().showMaximized();
+    EXPECT_NE(title(), own);
+    while (run.frame->ActiveForm())
+        EXPECT_TRUE(run.Active().Unload());
+    EXPECT_EQ(title(), own);
+}
+
 TEST_F(frmTemplateOf, SecondRequestToCloseWhileItAsksIsRefused) {
     frmTemplate& document = Fresh();
     document.SetModified(true);
