@@ -18,6 +18,7 @@
 #include <cmath>
 #include <limits>
 #include <QGuiApplication>
+#include <QRegularExpression>
 #include <QScreen>
 
 using namespace Qt::StringLiterals;
@@ -135,11 +136,11 @@ void Startup::MoveFrame() {
     // The width alone tells whether a place was stored.
     if (width_ <= 0)
         return;
-    const QSize size(Twips::ToPixels(width_), Twips::ToPixels(height_));
+    const QSize stored(Twips::ToPixels(width_), Twips::ToPixels(height_));
+    const QSize size = WindowPlace::Possible(stored, Screens()).expandedTo(frame_.minimumSizeHint());
     const QPoint corner(Twips::ToPixels(left_), Twips::ToPixels(top_));
     // A place stored with screens that are gone: the window must stay within a person's reach.
-    const QRect place =
-        WindowPlace::Reachable(QRect(corner, size.expandedTo(frame_.minimumSizeHint())), Screens());
+    const QRect place = WindowPlace::Reachable(QRect(corner, size), Screens());
     frame_.move(place.topLeft());
     frame_.resize(place.size());
 }
@@ -155,7 +156,7 @@ void Startup::ReadEditorValues() {
     auto& editor = frame_.State<EditorState>();
     TakeNumber(program.FirstTimeAgain, Keys::FirstTimeAgain);
     for (size_t slot = 0; slot < editor.ColorTable.size(); ++slot)
-        editor.ColorTable[slot] = Text(Keys::EdTextColor[slot]);
+        TakeColor(slot);
     program.UserTemplate = Text(Keys::UserTemplate);
     program.LinkColor = Text(Keys::LinkColor);
     program.TemplateWindowState = Text(Keys::TemplateWindowState);
@@ -235,6 +236,12 @@ template <typename Number> void Startup::TakeNumber(Number& variable, const Sett
 void Startup::TakeFlag(bool& variable, const SettingsKey& key) {
     if (const std::optional<bool> flag = Values::ToBoolean(Text(key)))
         variable = *flag;
+}
+
+void Startup::TakeColor(size_t slot) {
+    static const QRegularExpression entry(u"\\A\\\\red\\d+\\\\green\\d+\\\\blue\\d+\\z"_s);
+    if (const QString color = Text(Keys::EdTextColor[slot]); entry.match(color).hasMatch())
+        frame_.State<EditorState>().ColorTable[slot] = color;
 }
 
 QString Startup::Text(const SettingsKey& key) {

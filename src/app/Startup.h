@@ -59,6 +59,9 @@ class Startup {
     /// The number of a stored text; what is no number changes nothing.
     template <typename Number> void TakeNumber(Number& variable, const SettingsKey& key);
     void TakeFlag(bool& variable, const SettingsKey& key);
+    /// The colour of a slot; what is no entry of a colour table, such as one that a damaged file cut off,
+    /// changes nothing: it would spoil every page that is coloured with it.
+    void TakeColor(size_t slot);
     QString Text(const SettingsKey& key);
 
     frmTarnwick& frame_;

@@ -35,6 +35,13 @@ QRect WindowPlace::Reachable(QRect window, const QList<QRect>& screens) {
     return window;
 }
 
+QSize WindowPlace::Possible(QSize window, const QList<QRect>& screens) {
+    QRect all;
+    for (const QRect& screen : screens)
+        all |= screen;
+    return screens.isEmpty() ? window : window.boundedTo(all.size() * 2);
+}
+
 QList<QRect> WindowPlace::TiledHorizontally(int windows, QSize area) {
     QList<QRect> places;
     const int columns = static_cast<int>(std::sqrt(windows));

@@ -16,6 +16,10 @@ QRect Centred(QSize window, QRect screen);
 /// all.
 QRect Reachable(QRect window, const QList<QRect>& screens);
 
+/// The size, cut to what a person could have given a window: twice all the screens together. Beyond it lies
+/// damage, which would take all memory.
+QSize Possible(QSize window, const QList<QRect>& screens);
+
 /// Places of windows side by side without gaps: rows first, in as few columns as keep them no wider than
 /// needed, each column as wide as the others.
 QList<QRect> TiledHorizontally(int windows, QSize area);

@@ -224,6 +224,34 @@ TEST_F(StartupOf, SeparatorFollowsTheFirstRecentFileAlone) {
     EXPECT_FALSE(run->Entry("mnuSep10").isVisible());
 }
 
+TEST_F(StartupOf, ColourThatIsNoneLeavesTheDefault) {
+    const struct {
+        const char* stored;
+        bool taken;
+    } rows[] = {
+        {"\\red1\\green2\\blue3", true},
+        {"\\red1\\green2\\blue", false},
+        {"\\red1\\gre", false},
+        {"", false},
+        {"}", false},
+        {"\\red1\\green2\\blue3;", false},
+        {"x\\red1\\green2\\blue3", false},
+        {"\\red1\\green2\\blue3\n", false},
+    };
+    for (const auto& row : rows)
+        EXPECT_EQ(With(Keys::EdTextColor[5], row.stored)->Editor().ColorTable[5],
+                  row.taken ? QString::fromLatin1(row.stored) : QStringLiteral("\\red128\\green128\\blue128"))
+            << row.stored;
+}
+
+TEST_F(StartupOf, DamagedColourSpoilsNoPage) {
+    const QString path = MakeFile(QStringLiteral("a.htm"), "<B>x</B>{y}");
+    Write(Keys::EdTextColor[1], "}");
+    ProgramRun run;
+    ASSERT_TRUE(run.Start(path));
+    EXPECT_EQ(run.Active().txtInput().Text(), QStringLiteral("<B>x</B>{y}"));
+}
+
 TEST_F(StartupOf, UserButtonsGetTheirCaptionsAndTags) {
     Write(Keys::ButCap(17), "Big");
     Write(Keys::FirstBut(17), "<BIG>");

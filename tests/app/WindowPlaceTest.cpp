@@ -14,6 +14,15 @@ TEST(WindowPlace, CentredHalvesAreWholeNumbers) {
     EXPECT_EQ(WindowPlace::Centred(QSize(600, 400), QRect(1024, 100, 1024, 768)), QRect(1236, 284, 600, 400));
 }
 
+TEST(WindowPlace, SizeIsCutOnlyWhereNobodyCouldHaveSetIt) {
+    const QList<QRect> screens = {QRect(0, 0, 1024, 768), QRect(1024, 0, 1280, 1024)};
+    EXPECT_EQ(WindowPlace::Possible(QSize(2400, 1100), screens), QSize(2400, 1100));
+    EXPECT_EQ(WindowPlace::Possible(QSize(4608, 2048), screens), QSize(4608, 2048));
+    EXPECT_EQ(WindowPlace::Possible(QSize(1 << 24, 600), screens), QSize(4608, 600));
+    EXPECT_EQ(WindowPlace::Possible(QSize(600, 1 << 24), screens), QSize(600, 2048));
+    EXPECT_EQ(WindowPlace::Possible(QSize(600, 400), {}), QSize(600, 400));
+}
+
 TEST(WindowPlace, ReachableMovesAsLittleAsNeeded) {
     const QList<QRect> screens = {QRect(0, 0, 1024, 768), QRect(1024, 0, 1280, 1024)};
     const struct {
