@@ -12,6 +12,8 @@
 #include "platform/Settings.h"
 #include "platform/Values.h"
 
+#include <limits>
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -93,7 +95,10 @@ void Shutdown::KeepRecentFiles() {
 }
 
 void Shutdown::WriteFirstTimeAgain() {
-    frame_.Store().WriteNumber(Keys::FirstTimeAgain, frame_.State<ProgramState>().FirstTimeAgain + 1.0);
+    // The greatest count can't be counted on; it stays, as any step that fails leaves things as they are.
+    const int runs = frame_.State<ProgramState>().FirstTimeAgain;
+    if (runs < std::numeric_limits<int>::max())
+        frame_.Store().WriteNumber(Keys::FirstTimeAgain, runs + 1);
 }
 
 void Shutdown::WriteDictionaries() {

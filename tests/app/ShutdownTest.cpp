@@ -210,9 +210,14 @@ TEST_F(ShutdownOf, CancelStopsIt) {
     run.New().SetModified(true);
     run.prompts.messageAnswers = {MsgAnswer::Cancel};
     QSignalSpy stopped(run.frame.get(), &frmTarnwick::Stopped);
+    run.frame->LoadedForms().Show<QDialog>(QStringLiteral("frmBody"), run.frame.get());
+    run.frame->LoadedForms().Show<QDialog>(QStringLiteral("VisFrame"), run.frame.get());
     EXPECT_FALSE(run.Stop());
     EXPECT_TRUE(stopped.isEmpty());
     EXPECT_TRUE(run.frame->isVisible());
+    // The dialogs went before the question was asked.
+    EXPECT_EQ(run.frame->LoadedForms().Find(QStringLiteral("frmBody")), nullptr);
+    EXPECT_EQ(run.frame->LoadedForms().Find(QStringLiteral("VisFrame")), nullptr);
     EXPECT_EQ(run.Program().DocumentCount, 1);
     EXPECT_EQ(Read(Keys::FirstTimeAgain), QStringLiteral("1"));
     run.prompts.messageAnswers = {MsgAnswer::No};
@@ -252,6 +257,57 @@ TEST_F(ShutdownOf, LastOfThreeMaximisedWindowsStoresTheirState) {
     run.Program().TemplateWindowState = QStringLiteral("0");
     EXPECT_TRUE(run.Stop());
     EXPECT_EQ(Read(Keys::TemplateWindowState), QStringLiteral("2"));
+}
+
+TEST_F(ShutdownOf, CancelInADocumentBehindStopsItToo) {
+    ProgramRun run;
+    ASSERT_TRUE(run.Start());
+    run.New().SetModified(true);
+    run.New();
+    run.prompts.messageAnswers = {MsgAnswer::Cancel};
+    EXPECT_FALSE(run.Stop());
+    EXPECT_EQ(run.Program().DocumentCount, 1);
+    EXPECT_TRUE(run.Active().Modified());
+    EXPECT_EQ(Read(Keys::FirstTimeAgain), QStringLiteral("1"));
+}
+
+TEST_F(ShutdownOf, CountOfRunsStaysAtTheGreatestNumber) {
+    Write(Keys::FirstTimeAgain, "2147483647");
+    ProgramRun run;
+    ASSERT_TRUE(run.Start());
+    EXPECT_TRUE(run.Stop());
+    EXPECT_EQ(Read(Keys::FirstTimeAgain), QStringLiteral("2147483647"));
+}
+
+TEST_F(ShutdownOf, TemplateComesBackWithItsLineEndsInTheNextRun) {
+    const QString page = QStringLiteral("<P>\r\n\r\n\"mine\", \\ @\r\n</P>\r\n");
+    {
+        ProgramRun first;
+        ASSERT_TRUE(first.Start(MakeFile(QStringLiteral("a.htm"), page.toLatin1())));
+        first.Entry("mnuSetUserTemplate").trigger();
+        EXPECT_TRUE(first.Stop());
+    }
+    ProgramRun second;
+    ASSERT_TRUE(second.Start());
+    second.New();
+    second.Entry("mnuUserTemplate").trigger();
+    EXPECT_EQ(second.Active().txtInput().Text(), page);
+    EXPECT_TRUE(second.prompts.asked.isEmpty());
+}
+
+TEST_F(ShutdownOf, ApplicationActivationIsHeardFromTheLoadToTheUnload) {
+    ProgramRun run;
+    const auto focusAfterActivation = [&run] {
+        run.frame->TabStrip2().setFocus();
+        Q_EMIT qApp->applicationStateChanged(Qt::ApplicationActive);
+        return run.frame->focusWidget();
+    };
+    run.New();
+    EXPECT_EQ(focusAfterActivation(), &run.frame->TabStrip2());
+    ASSERT_TRUE(run.Start());
+    EXPECT_EQ(focusAfterActivation(), &run.Active().txtInput());
+    run.frame->SetHooks(false, false);
+    EXPECT_EQ(focusAfterActivation(), &run.frame->TabStrip2());
 }
 
 TEST_F(ShutdownOf, ExitEntryStops) {
