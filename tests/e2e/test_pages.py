@@ -19,6 +19,16 @@ def test_opens_types_and_saves(desk):
     assert path in desk.setting("Menu Array Values", "MenuArray%280%29")
 
 
+def test_the_frame_names_its_page_and_stands_alone(desk):
+    path = desk.write("one.htm", PAGE)
+    desk.run(path)
+    desk.wait_page("One")
+    title = "The Tarnwick Pro 3.0 - [%s]" % path
+    wait_for("the title", lambda: desk.active_window() == title)
+    # The start screen is no window any more, to a screen reader either.
+    assert [window.name for window in desk.application()] == [title]
+
+
 def test_closing_asks_and_cancel_keeps_everything(desk):
     path = desk.write("one.htm", PAGE)
     desk.run(path)

@@ -1,0 +1,80 @@
+// One run of the program, from the start screen to the end of the process.
+#include "app/RunProgram.h"
+
+#include "app/frmSplash.h"
+#include "app/frmTarnwick.h"
+#include "app/Icons.h"
+#include "app/SingleInstance.h"
+#include "app/Startup.h"
+
+#include <QApplication>
+#include <QSessionManager>
+
+namespace {
+
+void AskAtSessionEnd(frmTarnwick& frame, QSessionManager& session) {
+    if (!session.allowsInteraction())
+        return;
+    if (!CloseAtSessionEnd(frame))
+        session.cancel();
+    session.release();
+}
+
+/// From before the frame's load on: the first run waits in it for a dialog, and
+/// a later copy may come by meanwhile.
+void ConnectFrame(frmTarnwick& frame, SingleInstance& instance, bool& stopped) {
+    // Not a polite request, which any window that is left could refuse.
+    QObject::connect(&frame, &frmTarnwick::Stopped, qApp, [&stopped] {
+        stopped = true;
+        QCoreApplication::exit();
+    });
+    QObject::connect(qApp, &QGuiApplication::commitDataRequest, &frame,
+                     [&frame](QSessionManager& session) { AskAtSessionEnd(frame, session); });
+    QObject::connect(&instance, &SingleInstance::Arrived, &frame, [&frame](const QString& commandLine) {
+        if (frame.isVisible())
+            frame.ComeToFront();
+        if (!commandLine.isEmpty())
+            frame.OpenArrivals({commandLine});
+    });
+}
+
+/// The start screen is only looked at: it must not take the focus, which the
+/// document needs when the frame is up.
+void ShowStartScreen(frmTarnwick& frame) {
+    auto& splash = frame.LoadedForms().Load<frmSplash>(QStringLiteral("frmSplash"), frame);
+    splash.setAttribute(Qt::WA_ShowWithoutActivating);
+    splash.setWindowFlag(Qt::WindowDoesNotAcceptFocus);
+    splash.show();
+}
+
+/// What was unloaded before the event loop runs, the start screen above all,
+/// would otherwise stay until it ends: hidden, and yet a window to every screen
+/// reader.
+void DeleteWhatIsUnloaded() {
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+}
+
+} // namespace
+
+int RunProgram(frmTarnwick& frame, SingleInstance& instance, const QString& commandLine) {
+    bool stopped = false;
+    ConnectFrame(frame, instance, stopped);
+    if (instance.IsFirst()) {
+        QApplication::setWindowIcon(ProgramIcon());
+        ShowStartScreen(frame);
+    }
+    if (!Startup(frame, commandLine, [&] { return !instance.IsFirst(); }).Run()) {
+        instance.HandOver(commandLine);
+        return 0;
+    }
+    if (stopped)
+        return 0;
+    frame.show();
+    frame.OpenArrivals({});
+    DeleteWhatIsUnloaded();
+    return stopped ? 0 : QApplication::exec();
+}
+
+bool CloseAtSessionEnd(frmTarnwick& frame) {
+    return !QApplication::activeModalWidget() && frame.close();
+}
