@@ -10,9 +10,14 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QTemporaryDir>
+#include <sys/stat.h>
+#include <sys/wait.h>
+#include <unistd.h>
 
 namespace {
 
+constexpr int nobody = 65534;
 constexpr auto OnlyTheUser =
     QFileDevice::ReadOwner | QFileDevice::WriteOwner | QFileDevice::ReadUser | QFileDevice::WriteUser;
 
@@ -313,6 +318,36 @@ TEST_F(SettingsTest, UnreadableFileGivesDefaults) {
     settings.Write(Keys::EditorFont, QStringLiteral("Courier"));
     settings.Sync();
     EXPECT_TRUE(QFileInfo(File()).isDir());
+}
+
+TEST_F(SettingsTest, FileOfAnotherUserIsLeftAlone) {
+    if (::getuid() != 0)
+        GTEST_SKIP() << "may not give files away";
+    // A user who may enter the folder and write into it, and may not read the file.
+    QTemporaryDir home;
+    ASSERT_EQ(::chmod(QFile::encodeName(home.path()).constData(), 0755), 0);
+    qputenv("XDG_CONFIG_HOME", QFile::encodeName(home.path()));
+    WriteFile("[Window%20Options]\nEditorFont=Courier\n");
+    QFile::setPermissions(File(), OnlyTheUser);
+    const QByteArray before = Content();
+    ASSERT_EQ(::chown(QFile::encodeName(SettingsFolder()).constData(), nobody, nobody), 0);
+    const pid_t child = ::fork();
+    if (child == 0) {
+        if (::setgid(nobody) != 0 || ::setuid(nobody) != 0)
+            ::_exit(8);
+        Settings settings;
+        // Each fault that shows adds a digit of its own to the answer.
+        int faults = settings.Read(Keys::EditorFont) == QStringLiteral("Arial") ? 0 : 1;
+        settings.Write(Keys::EditorFont, QStringLiteral("Helvetica"));
+        faults += settings.Read(Keys::EditorFont) == QStringLiteral("Helvetica") ? 0 : 2;
+        faults += settings.Sync() ? 4 : 0;
+        ::_exit(faults);
+    }
+    int status = 0;
+    ASSERT_EQ(::waitpid(child, &status, 0), child);
+    EXPECT_TRUE(WIFEXITED(status));
+    EXPECT_EQ(WEXITSTATUS(status), 0);
+    EXPECT_EQ(Content(), before);
 }
 
 TEST_F(SettingsTest, FailedWriteLeavesTheOldFileWhole) {
