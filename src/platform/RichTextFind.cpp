@@ -144,9 +144,10 @@ int RichTextBox::FindBackward(QChar character, int before) const {
     int chunk = firstChunk;
     while (end > 0) {
         const int start = std::max(0, end - chunk);
-        const qsizetype found = Bytes(start, end).lastIndexOf(wanted);
-        if (found >= 0)
-            return CharFromByte(start + static_cast<int>(found));
+        const QByteArray bytes = Bytes(start, end);
+        // To look forward first costs a fraction, and most chunks of a text with few of them hold none.
+        if (bytes.contains(wanted))
+            return CharFromByte(start + static_cast<int>(bytes.lastIndexOf(wanted)));
         if (start == 0)
             break;
         end = start + static_cast<int>(wanted.size()) - 1;
