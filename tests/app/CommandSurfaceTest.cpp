@@ -3,6 +3,7 @@
 #include "app/frmTarnwick.h"
 #include "app/frmTools.h"
 #include "app/MenuTree.h"
+#include "app/ProgramState.h"
 #include "app/Startup.h"
 #include "app/StatusPanels.h"
 #include "app/Toolbar.h"
@@ -20,7 +21,9 @@
 #include <QApplication>
 #include <QHash>
 #include <QLabel>
+#include <QLineEdit>
 #include <QPushButton>
+#include <QTabBar>
 #include <QTimer>
 #include <QtTest/QTest>
 
@@ -300,6 +303,49 @@ TEST_F(CommandSurfaceTest, TheNewButtonGivesASkeletonAndTheMenuABlankPage) {
     frame->MenuEntry(Text("mnuNew"))->trigger();
     EXPECT_EQ(frame->ActiveForm()->txtInput().Text(), QString());
     EXPECT_TRUE(prompts.asked.isEmpty());
+}
+
+TEST_F(CommandSurfaceTest, TheNewButtonGivesTheUsersTemplateWhereThereIsOne) {
+    frame->State<ProgramState>().UserTemplate = Text("<MINE>");
+    Button("new")->trigger();
+    ASSERT_TRUE(frame->ActiveForm());
+    EXPECT_EQ(frame->ActiveForm()->txtInput().Text(), Text("<MINE>"));
+    QCoreApplication::processEvents();
+    EXPECT_FALSE(frame->ActiveForm()->Modified());
+    EXPECT_TRUE(prompts.asked.isEmpty());
+}
+
+TEST_F(CommandSurfaceTest, TheHelpKeyWorksFromADialogToo) {
+    frame->Commands().Run(Text("tb_abc"));
+    QWidget* dialog = frame->LoadedForms().Find(Text("frmFont"));
+    ASSERT_TRUE(dialog);
+    dialog->activateWindow();
+    ASSERT_TRUE(QTest::qWaitFor([&] { return dialog->isActiveWindow(); }));
+    QTest::keyClick(dialog, Qt::Key_F1);
+    EXPECT_EQ(Panel3(), Text("The help file tarnwick.chm is not installed."));
+}
+
+TEST_F(CommandSurfaceTest, AnEditedUserButtonIsStoredUnderItsIndexWhenTheProgramStops) {
+    auto* tabs = frame->findChild<QTabBar*>(Text("TabStrip1"));
+    frame->findChild<UserButtons*>()->show();
+    tabs->setCurrentIndex(1);
+    QTest::mousePress(frame->findChild<QPushButton*>(Text("Command1_17")), Qt::RightButton);
+    QWidget* editor = frame->LoadedForms().Find(Text("frmTools"));
+    ASSERT_TRUE(editor);
+    const char* const fields[][2] = {
+        {"txtName", "Box"}, {"txtFirst", "<DIV>\"; x=1, 2"}, {"txtSecond", " </DIV> "}};
+    for (const auto& field : fields)
+        editor->findChild<QLineEdit*>(Text(field[0]))->setText(Text(field[1]));
+    QTest::mouseClick(editor->findChild<QPushButton*>(Text("cmdOK")), Qt::LeftButton);
+    EXPECT_EQ(store.Read(Keys::ButCap(17)), QString());
+    frame->close();
+    store.Sync();
+    const Settings read;
+    EXPECT_EQ(read.Read(Keys::ButCap(17)), Text("Box"));
+    EXPECT_EQ(read.Read(Keys::FirstBut(17)), Text("<DIV>\"; x=1, 2"));
+    EXPECT_EQ(read.Read(Keys::SecondBut(17)), Text(" </DIV> "));
+    EXPECT_EQ(read.Read(Keys::FirstBut(16)), QString());
+    EXPECT_EQ(read.Read(Keys::FirstBut(18)), QString());
 }
 
 TEST_F(CommandSurfaceTest, TheHelpKeyAndTheHelpEntrySayWhatIsMissing) {

@@ -105,6 +105,26 @@ TEST_F(PreviewTest, ACancelledSaveAsAsksTheBrowserForNothing) {
     EXPECT_EQ(Arguments(), QStringList());
 }
 
+TEST_F(PreviewTest, ADocumentThatCannotBeSavedIsShownAsItsFileStands) {
+    const QString path = FilesFrame::At(QStringLiteral("gone/a.htm"));
+    frame.SetText(QStringLiteral("x"));
+    frame.active->SetCaption(path);
+    frame.active->SetModified(true);
+    frame.Run("mnuReload");
+    EXPECT_EQ(Arguments(), QStringList{path});
+    EXPECT_TRUE(frame.active->Modified());
+    EXPECT_TRUE(frame.prompts.asked.isEmpty());
+}
+
+TEST_F(PreviewTest, TheBrowsersOwnArgumentsStandInFrontOfThePage) {
+    const QString path = FilesFrame::At(QStringLiteral("a.htm"));
+    frame.State<ProgramState>().WebPath += QStringLiteral(" --new-window  \"a");
+    frame.SetText(QStringLiteral("x"));
+    frame.active->SetCaption(path);
+    frame.Run("mnuReload");
+    EXPECT_EQ(Arguments(), (QStringList{QStringLiteral("--new-window"), QStringLiteral("\"a"), path}));
+}
+
 TEST_F(PreviewTest, WithoutABrowserTheDocumentIsSavedAndNothingStarts) {
     const QString path = FilesFrame::At(QStringLiteral("a.htm"));
     for (const QString& browser : {QString(), FilesFrame::At(QStringLiteral("no-such-browser"))}) {

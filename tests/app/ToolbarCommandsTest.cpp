@@ -180,6 +180,44 @@ TEST_F(ToolbarCommandsTest, AnAnchorKeepsItsBlank) {
     });
 }
 
+// Answers are not escaped: a backslash word and braces vanish, as in any RTF text, and stay where the
+// colouring is off.
+TEST_F(ToolbarCommandsTest, AnswersGoIntoTheStreamAsTheyStand) {
+    for (const bool colored : {true, false}) {
+        Use(false, colored);
+        Put("|");
+        frame.prompts.inputAnswers = {Latin("a\\b{c} \"\xE9\x80")};
+        Run("tb_anchor");
+        EXPECT_EQ(Marked(), Latin(colored ? "<A NAME= \"ac \"\xE9\x80\">|</A>"
+                                          : "<A NAME= \"a\\b{c} \"\xE9\x80\">|</A>"));
+        Put("<HEAD>|</HEAD>and a text behind it that takes the caret");
+        frame.prompts.inputAnswers = {Latin("{x}\xE9"), QString()};
+        Run("tb_meta");
+        // The caret goes as far as the tag was meant to be long.
+        EXPECT_EQ(Marked(),
+                  Latin(colored
+                            ? "<HEAD>\r\n<meta name=\"description\" content=\"x\xE9\"></|HEAD>and a text "
+                              "behind it that takes the caret"
+                            : "<HEAD>\r\n<meta name=\"description\" content=\"{x}\xE9\">|</HEAD>and a text "
+                              "behind it that takes the caret"));
+    }
+}
+
+TEST_F(ToolbarCommandsTest, LoneLineEndsInTheSelectionStay) {
+    const char* const rows[][2] = {{"tb_bold", "<B>a\rb\nc\r\nd|</B>"},
+                                   {"tb_break", "<BR>a\rb\nc\r\nd|"},
+                                   {"tb_balloon", "<!-- a\rb\nc\r\nd -->|"},
+                                   {"tb_anchor", "<A NAME= \"x\">a\rb\nc\r\nd|</A>"}};
+    for (const auto& row : rows)
+        for (const bool colored : {true, false}) {
+            Use(false, colored);
+            Put("[a\rb\nc\r\nd]");
+            frame.prompts.inputAnswers = {Latin("x")};
+            Run(row[0]);
+            EXPECT_EQ(Marked(), Latin(row[1])) << row[0] << colored;
+        }
+}
+
 TEST_F(ToolbarCommandsTest, AnAnchorWithoutANameIsRefused) {
     Put("a[T]b");
     frame.prompts.inputAnswers = {QString()};

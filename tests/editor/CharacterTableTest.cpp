@@ -62,6 +62,17 @@ TEST(CharacterTable, OnlyAStoredOneConverts) {
     EXPECT_EQ(frame.Box().Text(), QString(QChar(233)));
 }
 
+TEST(CharacterTable, TheSettingIsReadAtEachKey) {
+    TypingFrame frame;
+    const QString e(QChar(233));
+    frame.Type(e);
+    frame.Store().WriteFlag(Keys::ConvertChar, false);
+    frame.Type(e);
+    frame.Store().WriteFlag(Keys::ConvertChar, true);
+    frame.Type(e);
+    EXPECT_EQ(frame.Marked(), QStringLiteral("&eacute;") + e + QStringLiteral("&eacute;|"));
+}
+
 TEST(CharacterTable, ConvertsInTagsAndOverSelections) {
     TypingFrame frame;
     frame.SetMarked("<IMG ALT=\"|\">");
