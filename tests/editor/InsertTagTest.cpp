@@ -40,6 +40,8 @@ INSTANTIATE_TEST_SUITE_P(
     testing::Values(
         InsertRow{"nothing_selected", "a|b", "<B>", "</B>", "a<B>|</B>b"},
         InsertRow{"around_a_selection", "a[x]b", "<B>", "</B>", "a<B>x|</B>b"},
+        InsertRow{"around_blanks_and_tabs", "a[ \tx  ]b", "<B>", "</B>", "a<B> \tx  |</B>b"},
+        InsertRow{"around_a_line_end", "a[\r\n]b", "<B>", "</B>", "a<B>\r\n|</B>b"},
         InsertRow{"without_close", "a[x]b", "<BR>", "", "a<BR>x|b"},
         InsertRow{"lower", "|", "<A HREF=\"X.HTM\">", "</A>", "<a href=\"x.htm\">|</a>", true},
         InsertRow{"lower_kept", "|", "<A HREF=\"X.HTM\">", "</A>", "<A HREF=\"X.HTM\">|</A>", true, true},
@@ -134,6 +136,11 @@ TEST(InsertTag, ColorsEachPartByItsKind) {
                                                            {QStringLiteral("</B></A>"), 32768}};
     EXPECT_EQ(frame.Colors(), expected);
     EXPECT_EQ(frame.Box().SelColor(), 0);
+    // The opening string says nothing of the closing one.
+    frame.SetMarked("|");
+    InsertTag(frame, QStringLiteral("<IMG>"), QStringLiteral("<!-- -->"), false);
+    EXPECT_EQ(frame.Colors(), (std::vector<std::pair<QString, int>>{{QStringLiteral("<IMG>"), 255},
+                                                                    {QStringLiteral("<!-- -->"), 8421504}}));
 }
 
 TEST(InsertTag, ChangesTheCallersStrings) {

@@ -34,6 +34,42 @@ TEST(TypingEngine, TypedTextTakesTheStoredTextColor) {
     EXPECT_EQ(frame.Box().ColorAt(2), 0);
 }
 
+TEST(TypingEngine, KeysThatDoNoMoreAreTypedPlainToo) {
+    TypingFrame frame;
+    frame.Store().WriteNumber(Keys::TextColor[0], 4711);
+    frame.SetMarked("[ab]");
+    frame.Box().SetSelColor(255);
+    frame.Box().SetSelStart(1);
+    frame.Type("=");
+    EXPECT_EQ(frame.Marked(), QStringLiteral("a=|b"));
+    EXPECT_EQ(frame.Box().ColorAt(0), 255);
+    EXPECT_EQ(frame.Box().ColorAt(1), 4711);
+    EXPECT_EQ(frame.Box().ColorAt(2), 255);
+}
+
+TEST(TypingEngine, BehindATakenRowTheTextColorHolds) {
+    TypingFrame frame;
+    frame.Type("<img al\r");
+    frame.Pause();
+    frame.Type("l");
+    frame.Store().WriteNumber(Keys::TextColor[0], 4711);
+    frame.Type("\r");
+    EXPECT_EQ(frame.Marked(), QStringLiteral("<img ALIGN=\"LEFT|\""));
+    EXPECT_EQ(frame.Box().ColorAt(14), 0);
+    EXPECT_EQ(frame.Box().SelColor(), 4711);
+}
+
+TEST(TypingEngine, ABlankInAnOpenValueListForgetsIt) {
+    TypingFrame frame;
+    frame.Type("<img al\r");
+    frame.Pause();
+    ASSERT_TRUE(frame.Lists().ValueList());
+    frame.Type(" ");
+    EXPECT_FALSE(frame.Lists().ValueList());
+    EXPECT_EQ(frame.List(), nullptr);
+    EXPECT_EQ(frame.Marked(), QStringLiteral("<img ALIGN=\" |\""));
+}
+
 TEST(TypingEngine, ASelectionIsNotRecolored) {
     TypingFrame frame;
     frame.SetText(QStringLiteral("abc"));
