@@ -8,9 +8,14 @@
 #include "app/Startup.h"
 
 #include <QApplication>
+#include <QDeadlineTimer>
 #include <QSessionManager>
+#include <QThread>
+#include <QWindow>
 
 namespace {
+
+constexpr int longestWaitMilliseconds = 100;
 
 void AskAtSessionEnd(frmTarnwick& frame, QSessionManager& session) {
     if (!session.allowsInteraction())
@@ -38,6 +43,17 @@ void ConnectFrame(frmTarnwick& frame, SingleInstance& instance, bool& stopped) {
     });
 }
 
+/// The load lets no event through, so a start screen that is not painted before it begins is a hole in the
+/// desktop. A desktop that takes its time is not waited for; and what later copies send waits for the frame.
+void WaitUntilPainted(const QWidget& splash) {
+    const QDeadlineTimer patience(longestWaitMilliseconds);
+    while (!splash.windowHandle()->isExposed() && !patience.hasExpired()) {
+        QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents |
+                                        QEventLoop::ExcludeSocketNotifiers);
+        QThread::msleep(1);
+    }
+}
+
 /// The start screen is only looked at: it must not take the focus, which the
 /// document needs when the frame is up.
 void ShowStartScreen(frmTarnwick& frame) {
@@ -45,6 +61,7 @@ void ShowStartScreen(frmTarnwick& frame) {
     splash.setAttribute(Qt::WA_ShowWithoutActivating);
     splash.setWindowFlag(Qt::WindowDoesNotAcceptFocus);
     splash.show();
+    WaitUntilPainted(splash);
 }
 
 /// What was unloaded before the event loop runs, the start screen above all,

@@ -19,16 +19,21 @@
 
 namespace {
 
-/// Notes the start screens that come to sight.
+/// Notes the start screens that come to sight, and whether one was painted before the first document came.
 class SplashWatch : public QObject {
   public:
     SplashWatch() { qApp->installEventFilter(this); }
     QList<QPointer<QWidget>> seen;
+    bool painted = false;
+    bool paintedFirst = false;
 
   protected:
     bool eventFilter(QObject* watched, QEvent* event) override {
         if (auto* splash = qobject_cast<frmSplash*>(watched); splash && event->type() == QEvent::Show)
             seen << splash;
+        painted |= watched->objectName() == QStringLiteral("frmSplash") && event->type() == QEvent::Paint;
+        if (watched->objectName() == QStringLiteral("frmTemplate") && event->type() == QEvent::ShowToParent)
+            paintedFirst |= painted;
         return false;
     }
 };
@@ -125,6 +130,12 @@ TEST_F(Program, StartScreenIsGoneForGoodOnceTheFrameIsUp) {
                   }),
               0);
     EXPECT_EQ(watch.seen.size(), 1);
+}
+
+TEST_F(Program, StartScreenIsPaintedBeforeTheLoad) {
+    SplashWatch watch;
+    EXPECT_EQ(Run(MakeFile(QStringLiteral("page.htm"), "x")), 0);
+    EXPECT_TRUE(watch.paintedFirst);
 }
 
 TEST_F(Program, StartScreenStaysWhileTheFirstRunAsksForTheOptions) {
