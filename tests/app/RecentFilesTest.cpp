@@ -34,6 +34,15 @@ TEST(RecentFiles, TheNewestIsFirstAndTheNinthPushesTheOldestOut) {
     EXPECT_TRUE(frame.MenuEntry(QStringLiteral("mnuSep10"))->isVisible());
 }
 
+TEST(RecentFiles, AnotherSpellingOfAPathIsAnotherEntry) {
+    FilesFrame frame;
+    Add(frame, QStringLiteral("/site/a.htm"));
+    Add(frame, QStringLiteral("/site/A.htm"));
+    Add(frame, QStringLiteral("/site/./a.htm"));
+    EXPECT_EQ(frame.Recent(), (QStringList{QStringLiteral("/site/./a.htm"), QStringLiteral("/site/A.htm"),
+                                           QStringLiteral("/site/a.htm")}));
+}
+
 TEST(RecentFiles, AnEntryKeepsItsPlace) {
     FilesFrame frame;
     for (int n = 1; n <= 8; ++n)

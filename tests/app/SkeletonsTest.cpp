@@ -97,6 +97,18 @@ TEST_F(Skeletons, TheTemplateAsksUnderTheProgramsTitle) {
     EXPECT_EQ(box.icon, MsgIcon::Exclamation);
 }
 
+TEST_F(Skeletons, ATemplateStaysAsItIsHoweverOftenItIsUsed) {
+    for (const QString& page : {QStringLiteral("a {b} \\c\r\nno tag"), QStringLiteral("<B>{b}\\c</B>\r\n")}) {
+        Template() = page;
+        for (int n = 0; n < 3; ++n) {
+            frame.Box().SetText(QString());
+            frame.Run("mnuUserTemplate");
+            EXPECT_EQ(frame.Box().Text(), page);
+        }
+        EXPECT_EQ(Template(), page);
+    }
+}
+
 TEST_F(Skeletons, AnEmptyTemplateLeavesTheDocumentEmpty) {
     frame.SetText(QStringLiteral("text"));
     frame.prompts.messageAnswers = {MsgAnswer::Yes};

@@ -307,6 +307,29 @@ TEST_F(StartupOf, QuotedPathStaysQuotedAndIsAwaited) {
     EXPECT_EQ(run.frame->TabStrip2().count(), 0);
 }
 
+TEST_F(StartupOf, LoadBeginsWithNoDocumentsAndNoTabs) {
+    ProgramRun run;
+    run.Program().DocumentCount = 5;
+    run.Program().FindMode = 3;
+    run.frame->AddDocumentTab(QStringLiteral("/old.htm"), QStringLiteral("old.htm"));
+    ASSERT_TRUE(run.Start());
+    EXPECT_EQ(run.Program().DocumentCount, 0);
+    EXPECT_EQ(run.Program().FindMode, 1);
+    EXPECT_EQ(run.frame->TabStrip2().count(), 0);
+}
+
+TEST_F(StartupOf, DeadKeysAreOfNoEffectWhateverTheyHold) {
+    Write(Keys::WebTimer, "True");
+    Write(Keys::UseDDE, "1");
+    Write(Keys::TabOption, "True");
+    ProgramRun run;
+    ASSERT_TRUE(run.Start());
+    EXPECT_TRUE(run.Stop());
+    EXPECT_EQ(Read(Keys::WebTimer), QStringLiteral("True"));
+    EXPECT_EQ(Read(Keys::TabOption), QStringLiteral("True"));
+    EXPECT_EQ(Read(Keys::UseDDE), QString());
+}
+
 TEST_F(StartupOf, AnotherCopyEndsTheLoadAtOnce) {
     const QString path = MakeFile(QStringLiteral("a.htm"), "x");
     Write(Keys::Background2, "1");

@@ -188,6 +188,36 @@ TEST_F(Tarnwick, StatusPanelThreeIsTheProgramsOwn) {
     EXPECT_EQ(run->Find<QLabel>("Panel3").text(), QStringLiteral("Line 7"));
 }
 
+TEST_F(Tarnwick, StatusPanelThreeIsEmptyBehindAnOpeningUntilTheCaretMoves) {
+    auto& panel = run->Find<QLabel>("Panel3");
+    Window().OpenDocumentFile(MakeFile(QStringLiteral("a.htm"), "<B>a\r\nb\r\nc"));
+    QCoreApplication::processEvents();
+    EXPECT_EQ(panel.text(), QString());
+    run->Active().txtInput().SetSelStart(9);
+    QCoreApplication::processEvents();
+    EXPECT_EQ(panel.text(), QStringLiteral("Line 3"));
+}
+
+TEST_F(Tarnwick, OpenedPagesCountAsUnchangedHoweverTheyCame) {
+    const QString first = MakeFile(QStringLiteral("a.htm"), "<B>a</B>");
+    const QString second = MakeFile(QStringLiteral("b.htm"), "b");
+    for (const char* coloured : {"1", "0"}) {
+        Window().Store().Write(Keys::ColoredTags, QString::fromLatin1(coloured));
+        Window().OpenDocumentFile(first);
+        QCoreApplication::processEvents();
+        EXPECT_FALSE(run->Active().Modified()) << coloured;
+        Window().OpenDocumentFile(second);
+        EXPECT_TRUE(run->Active().Unload());
+        run->Entry("mnuFileArray_0").trigger();
+        QCoreApplication::processEvents();
+        EXPECT_EQ(run->Active().Caption(), second);
+        EXPECT_FALSE(run->Active().Modified()) << coloured;
+        while (Window().ActiveForm())
+            EXPECT_TRUE(run->Active().Unload());
+    }
+    EXPECT_TRUE(run->prompts.asked.isEmpty());
+}
+
 // Start screen
 
 TEST_F(Tarnwick, AnyResizeUnloadsTheStartScreen) {
