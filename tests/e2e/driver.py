@@ -59,7 +59,9 @@ class Desk:
         if scale:
             self.env["QT_SCALE_FACTOR"] = str(scale)
         reading, writing = os.pipe()
-        self.start(["Xvfb", "-displayfd", str(writing), "-screen", "0", size + "x24", "-nolisten", "tcp"],
+        # Without -noreset the display starts over when its last client goes, and takes a window manager that is just
+        # coming up down with it.
+        self.start(["Xvfb", "-displayfd", str(writing), "-screen", "0", size + "x24", "-nolisten", "tcp", "-noreset"],
                    pass_fds=[writing])
         os.close(writing)
         with os.fdopen(reading) as pipe:
@@ -137,6 +139,11 @@ class Desk:
     def windows(self):
         ids = self.xdo("search", "--onlyvisible", "--name", ".*").stdout.split()
         return [self.xdo("getwindowname", one).stdout.rstrip("\n") for one in ids]
+
+    def size(self, name):
+        """Width and height of a window's inside."""
+        shape = self.xdo("getwindowgeometry", "--shell", self.wait_window(name)).stdout
+        return [int(re.search(r"^%s=(\d+)$" % key, shape, re.M).group(1)) for key in ("WIDTH", "HEIGHT")]
 
     def wait_window(self, name):
         def found():

@@ -29,6 +29,32 @@ def test_the_frame_names_its_page_and_stands_alone(desk):
     assert [window.name for window in desk.application()] == [title]
 
 
+def geometry(desk):
+    return [desk.setting("Window Options", "MainForm" + name) for name in ("Left", "Top", "Width", "Height")]
+
+
+def test_the_frame_comes_back_where_it_was(desk):
+    desk.settings("Window Options", MainFormLeft=1500, MainFormTop=1200, MainFormWidth=13500, MainFormHeight=7500)
+    for _ in range(3):
+        desk.run()
+        desk.key("alt+F4")
+        assert desk.ended() == 0
+        assert geometry(desk) == ["1500", "1200", "13500", "7500"], geometry(desk)
+        assert desk.setting("Window Options", "MainWindowState") == "0"
+
+
+def test_a_maximised_frame_comes_back_maximised_and_keeps_the_place_below(desk):
+    desk.settings("Window Options", MainFormLeft=1500, MainFormTop=1200, MainFormWidth=13500, MainFormHeight=7500,
+                  MainWindowState=2)
+    for _ in range(2):
+        desk.run()
+        wait_for("the maximised frame", lambda: desk.size("The Tarnwick Pro")[0] == 1280)
+        desk.key("alt+F4")
+        assert desk.ended() == 0
+        assert geometry(desk) == ["1500", "1200", "13500", "7500"], geometry(desk)
+        assert desk.setting("Window Options", "MainWindowState") == "2"
+
+
 def test_closing_asks_and_cancel_keeps_everything(desk):
     path = desk.write("one.htm", PAGE)
     desk.run(path)
