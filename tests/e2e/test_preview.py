@@ -31,7 +31,8 @@ def test_a_real_browser_shows_the_page(desk):
     desk.key("ctrl+Home")
     desk.type('<BODY BGCOLOR="#CC3300">')
     desk.key("ctrl+t")
-    wait_for("the browser's picture of the page", lambda: color_at(shot, 200, 150) == "#CC3300")
+    wait_for("the browser's picture of the page", lambda: color_at(shot, 200, 150) == "#CC3300",
+             timeout=90)  # it starts from nothing, with a profile to make
     assert read(path) == b'<BODY BGCOLOR="#CC3300"><BODY BGCOLOR="#336699"></BODY>\r\n\r\n', read(path)
     # The browser is on its own: the program goes on and its end is not waited for.
     assert desk.program.poll() is None
