@@ -22,11 +22,10 @@ void PreviewInBrowser(Frame& frame, const QString& path) {
         target = document->Caption();
     }
     const QString& browser = frame.State<ProgramState>().WebPath;
-    if (browser.isEmpty())
+    // Of a command line without a browser the page itself would be the first word, and be started.
+    if (browser.trimmed().isEmpty())
         return;
     QStringList words = BrowserCommandLine(browser, target);
-    if (words.isEmpty())
-        return;
     const QString program = words.takeFirst();
     QProcess::startDetached(program, words);
 }

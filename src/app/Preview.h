@@ -10,8 +10,8 @@ class Frame;
 void FillPreviewCommands(Frame& frame);
 
 /// Saves the active document as the Save command does, then starts the browser of ProgramState::WebPath on
-/// path, or on the document's own file without one. Starts nothing with an empty WebPath; a browser that
-/// can't be started is passed over.
+/// path, or on the document's own file without one. Starts nothing with an empty or blank WebPath; a browser
+/// that can't be started is passed over.
 void PreviewInBrowser(Frame& frame, const QString& path = QString());
 
 /// The words of the command line "browser target": cut at blanks, so a path that holds one becomes two words.

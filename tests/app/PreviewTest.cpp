@@ -140,6 +140,25 @@ TEST_F(PreviewTest, WithoutABrowserTheDocumentIsSavedAndNothingStarts) {
     }
 }
 
+// A page whose file may be executed must not be taken for the program where there is none.
+TEST_F(PreviewTest, WithoutABrowserThePageItselfIsNotStarted) {
+    const QString path = FilesFrame::Make(QStringLiteral("page.htm"), "");
+    QFile::setPermissions(path, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+    frame.SetText(QStringLiteral("#!/bin/sh\n: > $(dirname \"$0\")/started #"));
+    frame.active->SetCaption(path);
+    for (const char* browser : {"", " ", "   "}) {
+        frame.State<ProgramState>().WebPath = QString::fromLatin1(browser);
+        frame.Run("mnuReload");
+        PreviewInBrowser(frame, path);
+    }
+    // What was started first is done first, or as good as: a program of its own tells that the others had
+    // their time.
+    SetUp();
+    frame.Run("mnuReload");
+    EXPECT_EQ(Arguments(), QStringList{path});
+    EXPECT_FALSE(QFile::exists(FilesFrame::At(QStringLiteral("started"))));
+}
+
 TEST_F(PreviewTest, WithNoDocumentThereIsNothingToShow) {
     frame.CloseDocument();
     frame.Run("mnuReload");
