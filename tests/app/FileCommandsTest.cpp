@@ -271,9 +271,25 @@ TEST_F(FileCommands, SaveAsThatFailsMovesOnButKeepsTheFlag) {
         frame.Run("mnuSaveAs");
         EXPECT_EQ(frame.active->Modified(), modified);
         EXPECT_EQ(frame.active->Caption(), path);
+        EXPECT_EQ(LastDir(), FilesFrame::At(QStringLiteral("gone/")));
         EXPECT_TRUE(frame.prompts.Messages().isEmpty());
         EXPECT_EQ(FilesFrame::Content(FilesFrame::At(QStringLiteral("a.htm"))), "old");
     }
+}
+
+TEST_F(FileCommands, SaveAsOntoItsOwnFileKeepsOneTabAndOneEntry) {
+    const QString a = FilesFrame::Make(QStringLiteral("a.htm"), "old");
+    const QString b = FilesFrame::Make(QStringLiteral("b.htm"), "b");
+    OpenDocumentFile(frame, b);
+    OpenDocumentFile(frame, a);
+    frame.SetText(QStringLiteral("new"));
+    frame.prompts.saveAnswers = {ScriptedPrompts::Picked(a)};
+    frame.prompts.messageAnswers = {MsgAnswer::Yes};
+    frame.Run("mnuSaveAs");
+    EXPECT_EQ(FilesFrame::Content(a), "new\r\n");
+    EXPECT_EQ(frame.tabs, (QStringList{b, a}));
+    EXPECT_EQ(frame.Recent(), (QStringList{a, b}));
+    EXPECT_FALSE(frame.active->Modified());
 }
 
 // Insert Contents

@@ -293,6 +293,14 @@ TEST_F(Program, SettingsFolderThatCannotBeMadeStopsNobody) {
     QFile::remove(folder);
 }
 
+TEST_F(Program, ProgramFolderThatCannotBeMadeStopsNobody) {
+    const QString blocker = TestFolder() + QStringLiteral("/blocker");
+    Overwrite(blocker, "a file where a folder would have to be");
+    qputenv("TARNWICK_HOME", QFile::encodeName(blocker + QStringLiteral("/home")));
+    ExpectThatWorkGoesOn("no program folder");
+    EXPECT_EQ(Read(Keys::FirstTimeAgain), QStringLiteral("2"));
+}
+
 /// A disk of its own in a folder's place, seen by this process alone and gone with the object.
 class SmallDisk {
   public:
