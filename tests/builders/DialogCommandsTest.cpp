@@ -370,6 +370,16 @@ TEST_P(AnyDialogTest, EveryControlHasAnAccessibleName) {
     }
 }
 
+TEST_P(AnyDialogTest, AButtonWithoutACaptionHasAPictureAndATip) {
+    Show();
+    for (const QAbstractButton* button : form->findChildren<QAbstractButton*>()) {
+        if (!button->text().isEmpty())
+            continue;
+        EXPECT_FALSE(button->icon().isNull()) << button->objectName().toStdString();
+        EXPECT_FALSE(button->toolTip().isEmpty()) << button->objectName().toStdString();
+    }
+}
+
 TEST_P(AnyDialogTest, TheMnemonicOfItsNameLeadsToEachField) {
     Show();
     form->activateWindow();
@@ -419,13 +429,18 @@ TEST_P(AnyDialogTest, MnemonicsAreUnique) {
 
 TEST_P(AnyDialogTest, ComboBoxesHoldJustWhatIsTyped) {
     Show();
+    // Only a box that has the focus completes what is typed.
+    form->activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(form));
     for (QComboBox* combo : form->findChildren<QComboBox*>()) {
         EXPECT_TRUE(combo->isEditable());
         EXPECT_EQ(combo->currentText(), QString());
         const int entries = combo->count();
         for (const QString& text : {QStringLiteral("T"), QStringLiteral("left"), QStringLiteral("9")}) {
             combo->clearEditText();
-            QTest::keyClicks(combo->lineEdit(), text);
+            combo->setFocus();
+            ASSERT_TRUE(combo->hasFocus());
+            QTest::keyClicks(combo, text);
             EXPECT_EQ(combo->currentText(), text);
         }
         EXPECT_EQ(combo->count(), entries);

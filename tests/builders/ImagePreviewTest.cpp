@@ -58,11 +58,43 @@ TEST(ShowImagePreview, LoadsTheFormUnseenAndShowsThePicture) {
     EXPECT_TRUE(preview.imgSel.hasScaledContents());
     EXPECT_EQ(preview.imgSel.size(), QSize(100, 150));
     EXPECT_EQ(preview.imgSel.parentWidget(), preview.form.Frame1());
+    EXPECT_EQ(preview.form.Frame1()->grab().toImage().pixelColor(50, 140), QColor(Qt::red))
+        << "stretched over the whole of the preview";
 
     ShowImagePreview(frame, Picture(QStringLiteral("small.bmp"), 20, 30, "BMP"));
     EXPECT_EQ(preview.form.PictureSize(), QSize(20, 30));
     EXPECT_FALSE(preview.imgSel.hasScaledContents());
     EXPECT_EQ(preview.imgSel.size(), QSize(20, 30));
+}
+
+TEST(ShowImagePreview, TakesAPictureByItsContentWhateverItsName) {
+    TestFrame frame;
+    ShowImagePreview(frame, Picture(QStringLiteral("named.gif"), 30, 20, "PNG"));
+    EXPECT_EQ(PreviewForm(frame).form.PictureSize(), QSize(30, 20));
+}
+
+TEST(ShowImagePreview, TurnsAPhotographAsBrowsersDo) {
+    TestFrame frame;
+    const QString path = Picture(QStringLiteral("turned.jpg"), 30, 20, "JPG");
+    QFile file(path);
+    ASSERT_TRUE(file.open(QIODevice::ReadWrite));
+    QByteArray bytes = file.readAll();
+    // Behind the two bytes that begin a picture: "turn by a quarter" (6) as a camera writes it.
+    bytes.insert(2, QByteArray::fromHex("ffe1"
+                                        "0022"
+                                        "457869660000"
+                                        "4d4d002a00000008"
+                                        "0001"
+                                        "0112"
+                                        "0003"
+                                        "00000001"
+                                        "00060000"
+                                        "00000000"));
+    file.seek(0);
+    file.write(bytes);
+    file.close();
+    ShowImagePreview(frame, path);
+    EXPECT_EQ(PreviewForm(frame).form.PictureSize(), QSize(20, 30));
 }
 
 TEST(ShowImagePreview, WhatIsNoPictureLeavesThePreview) {
