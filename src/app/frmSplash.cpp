@@ -6,6 +6,7 @@
 #include "editor/Frame.h"
 #include "ui_frmSplash.h"
 
+#include <QCloseEvent>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
@@ -63,6 +64,10 @@ void frmSplash::mouseReleaseEvent(QMouseEvent* event) {
 }
 
 void frmSplash::keyPressEvent(QKeyEvent*) {
+    Unload();
+}
+
+void frmSplash::closeEvent(QCloseEvent*) {
     Unload();
 }
 

@@ -46,6 +46,12 @@ TEST_F(Splash, KeyUnloadsIt) {
     EXPECT_FALSE(Loaded());
 }
 
+TEST_F(Splash, ClosingItByTheWindowManagerUnloadsIt) {
+    ASSERT_TRUE(run.Start());
+    Show().close();
+    EXPECT_FALSE(Loaded());
+}
+
 TEST_F(Splash, UnloadingItBringsUpTheFrame) {
     Show();
     EXPECT_FALSE(run.frame->isVisible());
