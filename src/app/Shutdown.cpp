@@ -4,12 +4,12 @@
 #include "app/frmTarnwick.h"
 #include "app/ProgramState.h"
 #include "app/RecentFiles.h"
-#include "app/Twips.h"
 #include "app/UserButtons.h"
 #include "builders/BuilderState.h"
 #include "editor/Document.h"
 #include "editor/EditorState.h"
 #include "platform/Settings.h"
+#include "platform/Twips.h"
 #include "platform/Values.h"
 
 #include <limits>

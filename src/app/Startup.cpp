@@ -5,7 +5,6 @@
 #include "app/frmTarnwick.h"
 #include "app/ProgramState.h"
 #include "app/RecentFiles.h"
-#include "app/Twips.h"
 #include "app/UserButtons.h"
 #include "app/Version.h"
 #include "app/WindowPlace.h"
@@ -13,6 +12,7 @@
 #include "editor/EditorState.h"
 #include "platform/Path.h"
 #include "platform/Settings.h"
+#include "platform/Twips.h"
 #include "platform/Values.h"
 
 #include <cmath>

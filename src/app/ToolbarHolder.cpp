@@ -2,7 +2,7 @@
 #include "app/ToolbarHolder.h"
 
 #include "app/Toolbar.h"
-#include "app/Twips.h"
+#include "platform/Twips.h"
 
 namespace {
 

@@ -3,7 +3,6 @@
 
 #include "app/Icons.h"
 #include "app/ProgramState.h"
-#include "app/Twips.h"
 #include "editor/Commands.h"
 #include "editor/EditorFont.h"
 #include "editor/EditorState.h"
@@ -15,6 +14,7 @@
 #include "platform/Prompts.h"
 #include "platform/RichTextBox.h"
 #include "platform/Settings.h"
+#include "platform/Twips.h"
 #include "platform/Values.h"
 
 #include <QAction>

@@ -1,11 +1,12 @@
 // Where the auto-fill list stands.
 #include "editor/DropDownPlace.h"
 
+#include "platform/Twips.h"
+
 #include <algorithm>
 
 QPoint DropDownTwips(QPoint frame, QPoint caret) {
-    constexpr int twipsPerPixel = 15;
-    return {frame.x() + caret.x() * twipsPerPixel + 100, frame.y() + caret.y() * twipsPerPixel + 2070};
+    return {frame.x() + Twips::FromPixels(caret.x()) + 100, frame.y() + Twips::FromPixels(caret.y()) + 2070};
 }
 
 QRect DropDownRect(const QRect& caretLine, QSize list, const QRect& area) {

@@ -7,6 +7,7 @@
 #include "editor/WebControls.h"
 #include "platform/Prompts.h"
 #include "platform/RichTextBox.h"
+#include "platform/Twips.h"
 
 #include <QApplication>
 #include <QMdiSubWindow>
@@ -34,10 +35,6 @@ const QString cannotDisplay = QStringLiteral(
     "Use the External Programs menu option under the Window menu to link me\r"
     "to your external browser.\r");
 
-int Pixels(int twips) {
-    return qRound(twips / 15.0);
-}
-
 /// The document window with its frame and title: in the MDI area that is the sub-window around it.
 QSize OuterSize(QWidget& window) {
     for (QWidget* around = &window; around; around = around->parentWidget()) {
@@ -50,8 +47,8 @@ QSize OuterSize(QWidget& window) {
 /// Left and top in twips, and what width and height fall short of the window's, in twips too.
 void Place(QWidget& view, QWidget& window, int left, int top, int lessWidth, int lessHeight) {
     const QSize outer = OuterSize(window);
-    view.setGeometry(Pixels(left), Pixels(top), outer.width() - Pixels(lessWidth),
-                     outer.height() - Pixels(lessHeight));
+    view.setGeometry(Twips::ToPixels(left), Twips::ToPixels(top), outer.width() - Twips::ToPixels(lessWidth),
+                     outer.height() - Twips::ToPixels(lessHeight));
 }
 
 } // namespace

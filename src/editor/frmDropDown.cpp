@@ -9,6 +9,7 @@
 #include "editor/Frame.h"
 #include "editor/TypingEngine.h"
 #include "platform/RichTextBox.h"
+#include "platform/Twips.h"
 #include "ui_frmDropDown.h"
 
 #include <algorithm>
@@ -19,7 +20,6 @@ namespace {
 
 constexpr int keyRole = Qt::UserRole;
 constexpr int rowsShown = 10;
-constexpr int twipsPerPixel = 15;
 
 /// The character code of a key that a text control would type, 0 for the others.
 int KeyAsciiOf(const QKeyEvent& key) {
@@ -111,7 +111,7 @@ void frmDropDown::MoveToCaret() {
         return;
     const RichTextBox& text = document->txtInput();
     const QPoint caret = text.CaretPixel();
-    place_ = DropDownTwips(parentWidget()->frameGeometry().topLeft() * twipsPerPixel, caret);
+    place_ = DropDownTwips(parentWidget()->frameGeometry().topLeft() * Twips::PerPixel, caret);
     const QPoint line = text.viewport()->mapTo(parentWidget(), caret);
     caretLine_ = QRect(line, QSize(1, text.LineHeight()));
     Arrange();

@@ -1,8 +1,6 @@
 // Where windows stand: centred, within reach, tiled, lined up.
 #include "app/WindowPlace.h"
 
-#include "app/Twips.h"
-
 #include <gtest/gtest.h>
 
 namespace {
@@ -73,17 +71,6 @@ TEST(WindowPlace, IconsLineUpFromTheLowerLeft) {
               QList<QRect>({{0, 370, 200, 30}, {200, 370, 200, 30}, {0, 340, 200, 30}}));
     EXPECT_EQ(WindowPlace::IconsInRows(1, QSize(200, 30), QSize(100, 400)),
               QList<QRect>({{0, 370, 200, 30}}));
-}
-
-TEST(Twips, FifteenToThePixel) {
-    EXPECT_EQ(Twips::FromPixels(600), 9000);
-    EXPECT_EQ(Twips::ToPixels(9000), 600);
-    EXPECT_EQ(Twips::ToPixels(75), 5);
-    EXPECT_EQ(Twips::ToPixels(7), 0);
-    EXPECT_EQ(Twips::ToPixels(8), 1);
-    EXPECT_EQ(Twips::ToPixels(-75), -5);
-    EXPECT_EQ(Twips::ToPixels(1e30), 1 << 24);
-    EXPECT_EQ(Twips::ToPixels(-1e30), -(1 << 24));
 }
 
 } // namespace
