@@ -75,7 +75,9 @@ void frmTemplate::Form_Load() {
     auto& editor = frame_.State<EditorState>();
     editor.DropDownOpen = false;
     QString nothing;
-    WriteColoredText(frame_, nothing, QString(), true);
+    // Through its own control: with colouring off the call empties a selection, and the active one is still
+    // another document's.
+    WriteColoredText(frame_, *this, nothing, QString(), true);
     editor.DropDownFollowsCaret = true;
     ReadSettings();
     ++frame_.State<ProgramState>().DocumentCount;

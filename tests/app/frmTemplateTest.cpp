@@ -3,6 +3,7 @@
 
 #include "app/DocumentTabs.h"
 #include "app/RealFrame.h"
+#include "editor/WebControls.h"
 
 #include <QDialog>
 #include <QMdiArea>
@@ -11,6 +12,29 @@
 #include <QTimer>
 
 namespace {
+
+/// Views that show nothing, to see where they stand.
+class PlainViews final : public WebControlsFactory {
+  public:
+    DesignControl* MakeDesign(QWidget* parent) override { return new Design(parent); }
+    BrowserControl* MakeBrowser(QWidget* parent) override { return new Browser(parent); }
+
+  private:
+    class Design final : public QWidget, public DesignControl {
+      public:
+        explicit Design(QWidget* parent) : QWidget(parent) { hide(); }
+        QWidget& widget() override { return *this; }
+        void Load(const QString&) override {}
+        QString LoadedPath() const override { return {}; }
+        bool Save(const QString&) override { return false; }
+    };
+    class Browser final : public QWidget, public BrowserControl {
+      public:
+        explicit Browser(QWidget* parent) : QWidget(parent) { hide(); }
+        QWidget& widget() override { return *this; }
+        bool Navigate(const QString&) override { return false; }
+    };
+};
 
 class frmTemplateOf : public FrameTest {
   protected:
@@ -80,6 +104,55 @@ TEST_F(frmTemplateOf, LoadResetsTheListsAndTheBuffer) {
     EXPECT_FALSE(run->Editor().DropDownOpen);
     EXPECT_TRUE(run->Editor().DropDownFollowsCaret);
     EXPECT_EQ(run->Editor().RtfBuffer, QString());
+}
+
+TEST_F(frmTemplateOf, LoadOfTheOnlyWindowEmptiesTheBufferToo) {
+    run = std::make_unique<ProgramRun>();
+    EXPECT_TRUE(run->Start());
+    ASSERT_EQ(run->frame->ActiveForm(), nullptr);
+    run->Editor().RtfBuffer = QStringLiteral("left over");
+    run->New();
+    EXPECT_EQ(run->Editor().RtfBuffer, QString());
+}
+
+TEST_F(frmTemplateOf, LoadTouchesNoOtherWindowWithColouringOff) {
+    RichTextBox& before = With(Keys::ColoredTags, "0").txtInput();
+    before.SetSelText(QStringLiteral("abc"));
+    before.SetSelStart(0);
+    before.SetSelLength(2);
+    run->New();
+    EXPECT_EQ(before.Text(), QStringLiteral("abc"));
+    EXPECT_EQ(before.SelText(), QStringLiteral("ab"));
+    EXPECT_FALSE(run->Active().Modified());
+}
+
+TEST_F(frmTemplateOf, DesignViewStandsInsideTheWindowUntilAResize) {
+    PlainViews views;
+    Write(Keys::UseMSIE, "1");
+    run = std::make_unique<ProgramRun>();
+    run->frame->State<WebControls>().Load = [&views] { return &views; };
+    EXPECT_TRUE(run->Start());
+    frmTemplate& document = run->New();
+    auto* design = document.findChild<QWidget*>(QStringLiteral("DHTMLEdit"));
+    auto* browser = document.findChild<QWidget*>(QStringLiteral("WebBrowser1"));
+    ASSERT_TRUE(design && browser);
+    EXPECT_EQ(design->geometry(), QRect(2, 1, document.width() - 4, document.height() - 3));
+    document.resize(document.size() + QSize(40, 30));
+    const QRect place(-3, -3, document.width() - 4, document.height() - 23);
+    EXPECT_EQ(design->geometry(), place);
+    EXPECT_EQ(browser->geometry(), place);
+}
+
+TEST_F(frmTemplateOf, NoViewsUnlessTheyAreAskedFor) {
+    for (const char* stored : {"0", "2", ""}) {
+        PlainViews views;
+        Write(Keys::UseMSIE, stored);
+        run = std::make_unique<ProgramRun>();
+        run->frame->State<WebControls>().Load = [&views] { return &views; };
+        EXPECT_TRUE(run->Start());
+        EXPECT_EQ(run->New().findChild<QWidget*>(QStringLiteral("DHTMLEdit")), nullptr) << stored;
+        EXPECT_EQ(run->Active().findChild<QWidget*>(QStringLiteral("WebBrowser1")), nullptr) << stored;
+    }
 }
 
 TEST_F(frmTemplateOf, WordWrapIsOnAtExactlyOne) {
@@ -232,6 +305,16 @@ TEST_F(frmTemplateOf, YesWithoutAPathClosesEvenIfSaveAsIsCancelled) {
     EXPECT_EQ(run->prompts.asked.size(), 2);
 }
 
+TEST_F(frmTemplateOf, YesWithoutAPathTakesTheNewTabAwayWithTheWindow) {
+    Fresh().txtInput().SetSelText(QStringLiteral("x"));
+    const QString path = TestFolder() + QStringLiteral("/late.htm");
+    run->prompts.messageAnswers = {MsgAnswer::Yes};
+    run->prompts.saveAnswers = {ScriptedPrompts::Picked(path)};
+    EXPECT_TRUE(run->Active().Unload());
+    EXPECT_TRUE(QFile::exists(path));
+    EXPECT_EQ(run->frame->TabStrip2().count(), 0);
+}
+
 TEST_F(frmTemplateOf, NoClosesWithoutSaving) {
     Fresh();
     const QString path = MakeFile(QStringLiteral("a.htm"), "<P>old");
@@ -273,6 +356,16 @@ TEST_F(frmTemplateOf, ClosingTakesListAndTimerDown) {
     EXPECT_EQ(forms.Find(QStringLiteral("frmTime")), nullptr);
 }
 
+TEST_F(frmTemplateOf, ClosingAnyDocumentTakesTheTimerDown) {
+    frmTemplate& behind = Fresh();
+    run->New();
+    Forms& forms = run->frame->LoadedForms();
+    forms.Show<QDialog>(QStringLiteral("frmTime"), run->frame.get());
+    EXPECT_TRUE(behind.Unload());
+    EXPECT_EQ(forms.Find(QStringLiteral("frmTime")), nullptr);
+    EXPECT_EQ(run->Program().DocumentCount, 1);
+}
+
 TEST_F(frmTemplateOf, CancelStillTakesTheListDown) {
     Fresh().SetModified(true);
     Forms& forms = run->frame->LoadedForms();
@@ -299,6 +392,16 @@ TEST_F(frmTemplateOf, LastWindowClosedDecidesHowTheNextOpens) {
         EXPECT_FALSE(run->Active().isMinimized());
         EXPECT_TRUE(run->Active().Unload());
     }
+}
+
+TEST_F(frmTemplateOf, LastOfThreeMaximisedWindowsStoresTheirState) {
+    With(Keys::TemplateWindowState, "2");
+    run->New();
+    run->New();
+    run->Program().TemplateWindowState = QStringLiteral("0");
+    while (run->frame->ActiveForm())
+        ASSERT_TRUE(run->Active().Unload());
+    EXPECT_EQ(run->Program().TemplateWindowState, QStringLiteral("2"));
 }
 
 TEST_F(frmTemplateOf, ClosedWindowIsGoneAtOnceForEveryone) {
