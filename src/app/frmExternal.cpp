@@ -301,7 +301,7 @@ bool frmExternal::SelectTagColor() {
         txtInput.SetFont(StoredEditorFont(store));
         const QString text = txtInput.Text();
         txtInput.SetText(QString());
-        ColorizeText(frame_, text, false, true);
+        ColorizeText(frame_, text, false, false);
     }
     return true;
 }

@@ -481,6 +481,7 @@ TEST_F(Options, OkOnTheSecondPageColoursTheDocumentAnew) {
                 ElementsAre(std::pair(QStringLiteral("a"), 0x030201), std::pair(QStringLiteral("<b>"), 255),
                             std::pair(QStringLiteral("c"), 0x030201)));
     EXPECT_EQ(frame.Box().streams.size(), 1) << "one pass, however long the text";
+    EXPECT_EQ(frame.Box().SelStart(), 5) << "behind what the pass wrote";
 }
 
 TEST_F(Options, ASizeThatIsNoNumberStaysOpenWithColoursAndFontStored) {
