@@ -105,6 +105,10 @@ void RichTextBox::SetText(const QString& text) {
     const int style = StyleAtCaret();
     const QByteArray bytes = text.toUtf8();
     Replace({0, ByteLength()}, bytes, StyleRuns(static_cast<int>(bytes.size()), style));
+    GoToStart();
+}
+
+void RichTextBox::GoToStart() {
     Sci(SCI_GOTOPOS, 0);
     Sci(SCI_CHOOSECARETX);
     caretMovedByEdit_ = false;
@@ -179,6 +183,7 @@ void RichTextBox::SetSelColor(ColorNumber color) {
         typingCaret_ = range.start;
     } else {
         SetStyles(range.start, StyleRuns(range.end - range.start, style));
+        changed_ = true;
     }
 }
 
@@ -196,6 +201,9 @@ ColorNumber RichTextBox::BackColor() const {
 }
 
 void RichTextBox::SetBackColor(ColorNumber color) {
+    // Each activation of a document assigns it anew, and applying styles lays the whole text out again.
+    if (backColor_ == (color & 0xffffff))
+        return;
     backColor_ = color & 0xffffff;
     ApplyStyles();
 }
@@ -205,6 +213,8 @@ QFont RichTextBox::Font() const {
 }
 
 void RichTextBox::SetFont(const QFont& font) {
+    if (font_ == font)
+        return;
     font_ = font;
     ApplyStyles();
 }

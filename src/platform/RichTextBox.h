@@ -36,6 +36,7 @@ class RichTextBox : public QsciScintillaBase {
     Q_PROPERTY(QString SelText READ SelText WRITE SetSelText)
     Q_PROPERTY(int SelColor READ SelColor WRITE SetSelColor)
     Q_PROPERTY(QString SelRTF READ SelRTF WRITE SetSelRTF)
+    Q_PROPERTY(QString TextRTF READ TextRTF WRITE SetTextRTF)
     Q_PROPERTY(int RightMargin READ RightMargin WRITE SetRightMargin)
     Q_PROPERTY(int BackColor READ BackColor WRITE SetBackColor)
     Q_PROPERTY(QFont Font READ Font WRITE SetFont)
@@ -77,13 +78,16 @@ class RichTextBox : public QsciScintillaBase {
     void SetSelText(const QString& text);
     /// The colour of the selection's first character, or with nothing selected the colour that typed text
     /// gets. Assigning colours the selection, or with nothing selected what is typed or assigned next there,
-    /// until the caret moves away. Undo counts no colouring.
+    /// until the caret moves away. Undo counts no colouring, but coloured text has changed.
     ColorNumber SelColor() const;
     void SetSelColor(ColorNumber color);
     /// The selection as RTF. Assigning replaces the selection by the text and colours of an RTF text
     /// (RtfReader); the caret stands behind it.
     QString SelRTF() const;
     virtual void SetSelRTF(const QString& rtf);
+    /// The same of the whole text. Assigning puts the caret at 0.
+    QString TextRTF() const;
+    void SetTextRTF(const QString& rtf);
 
     /// How raw line ends in RTF are taken: by default as the system's own text files ask.
     RawLineEnds RawLineEndMode() const { return rawLineEnds_; }
@@ -282,6 +286,10 @@ class RichTextBox : public QsciScintillaBase {
     /// Replaces a stretch as one undo step; the caret stands behind what came in.
     void Replace(ByteRange range, const QByteArray& text, const StyleRuns& styles);
     void ReplaceSelection(const QByteArray& text);
+    void ReplaceByRtf(ByteRange range, const QString& rtf);
+    QString RtfOf(ByteRange range) const;
+    /// Puts the caret at the text's start, as every assignment of the whole text does.
+    void GoToStart();
     /// Text coming from outside, in the document's line ends and characters.
     QByteArray Incorporate(const QString& text) const;
 

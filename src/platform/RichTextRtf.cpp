@@ -1,4 +1,4 @@
-// The text control: the selection as RTF, in and out.
+// The text control: the selection or the whole text as RTF, in and out.
 #include "platform/RichTextBox.h"
 
 #include "platform/RtfReader.h"
@@ -17,6 +17,24 @@ int EncodedLength(QStringView text) {
 
 void RichTextBox::SetSelRTF(const QString& rtf) {
     const Settling settling(*this);
+    ReplaceByRtf(Selection(), rtf);
+}
+
+QString RichTextBox::SelRTF() const {
+    return RtfOf(Selection());
+}
+
+void RichTextBox::SetTextRTF(const QString& rtf) {
+    const Settling settling(*this);
+    ReplaceByRtf({0, ByteLength()}, rtf);
+    GoToStart();
+}
+
+QString RichTextBox::TextRTF() const {
+    return RtfOf({0, ByteLength()});
+}
+
+void RichTextBox::ReplaceByRtf(ByteRange range, const QString& rtf) {
     const RtfText content = ReadRtf(rtf, rawLineEnds_);
     const QByteArray bytes = content.text.toUtf8();
     StyleRuns styles;
@@ -25,12 +43,11 @@ void RichTextBox::SetSelRTF(const QString& rtf) {
         styles.Append(EncodedLength(QStringView(content.text).mid(from, run.length)), StyleFor(run.color));
         from += run.length;
     }
-    Replace(Selection(), bytes, styles);
+    Replace(range, bytes, styles);
     typingStyle_.reset();
 }
 
-QString RichTextBox::SelRTF() const {
-    const ByteRange range = Selection();
+QString RichTextBox::RtfOf(ByteRange range) const {
     const StyleRuns styles = StylesOf(range.start, range.end - range.start);
     QString table = QStringLiteral("{{\\colortbl ;");
     for (int style = 1; style < styles_.End(); ++style) {

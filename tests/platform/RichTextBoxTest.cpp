@@ -150,6 +150,9 @@ TEST_F(RichTextBoxTest, PropertiesAreReachedByTheirNames) {
     EXPECT_EQ(box.property("SelText").toString(), u"b"_s);
     box.setProperty("SelText", u"X"_s);
     EXPECT_EQ(box.property("Text").toString(), u"aXc"_s);
+    box.setProperty("TextRTF", table + u"\\cf1 x}"_s);
+    EXPECT_EQ(box.property("Text").toString(), u"x"_s);
+    EXPECT_EQ(box.property("TextRTF").toString(), u"{{\\colortbl ;\\red255\\green0\\blue0;}\\cf1 x}"_s);
     box.setProperty("BackColor", 0x102030);
     EXPECT_EQ(box.property("BackColor").toInt(), 0x102030);
     box.setProperty("RightMargin", 65000);
@@ -171,10 +174,12 @@ TEST_F(RichTextBoxTest, OneAssignmentTellsOnceInOrder) {
     EXPECT_EQ(Signalled(), QStringList());
     box.SetSelText(QString());
     EXPECT_EQ(Signalled(), QStringList()) << "nothing replaced by nothing is no change";
+    box.SetSelColor(red);
+    EXPECT_EQ(Signalled(), QStringList()) << "the colour of what is typed next is no change yet";
     box.SetSelLength(1);
     Signalled();
     box.SetSelColor(red);
-    EXPECT_EQ(Signalled(), QStringList());
+    EXPECT_EQ(Signalled(), QStringList{u"Change"_s}) << "colouring what stands there is one";
     box.SetSelText(u"b"_s);
     EXPECT_EQ(Signalled(), (QStringList{u"Change"_s, u"SelChange"_s})) << "the same text again is a change";
     box.SetText(u"abc"_s);

@@ -1,6 +1,8 @@
 // One colour a character: what sets it, what text takes it, how it is shown.
 #include "platform/RichTextFixture.h"
 
+#include <functional>
+
 namespace {
 
 using RichTextColorsTest = RichTextFixture;
@@ -53,6 +55,26 @@ TEST_F(RichTextColorsTest, SelRtfReadsBackWhatItGives) {
     box.SetSelRTF(rtf);
     EXPECT_EQ(box.Text(), u"a\\{é}\r\n€\nx"_s);
     EXPECT_EQ(Colors(), u"krgbrrgkbb"_s);
+}
+
+TEST_F(RichTextColorsTest, TextRtfIsTheWholeTextWhateverIsSelected) {
+    Put(u"ab\r\né"_s, u"rgbbk"_s);
+    Select(1, 1);
+    const QString rtf = box.TextRTF();
+    EXPECT_EQ(box.SelText(), u"b"_s);
+    box.SetText(u"other text"_s);
+    Select(2, 3);
+    box.EmptyUndoBuffer();
+    Signalled();
+    box.SetTextRTF(rtf);
+    EXPECT_EQ(box.Text(), u"ab\r\né"_s);
+    EXPECT_EQ(Colors(), u"rgbbk"_s);
+    EXPECT_EQ(box.SelStart(), 0);
+    EXPECT_EQ(box.SelLength(), 0);
+    EXPECT_EQ(Signalled(), (QStringList{u"Change"_s, u"SelChange"_s}));
+    Undo();
+    EXPECT_EQ(box.Text(), u"other text"_s);
+    EXPECT_FALSE(CanUndo());
 }
 
 TEST_F(RichTextColorsTest, SelColorIsThatOfTheSelectionsFirstCharacter) {
@@ -154,6 +176,31 @@ TEST_F(RichTextColorsTest, BackColorFillsTheControl) {
     box.SetBackColor(0x804020);
     const QImage image = box.viewport()->grab().toImage();
     EXPECT_EQ(image.pixelColor(300, 300), QColor(0x20, 0x40, 0x80));
+}
+
+TEST_F(RichTextColorsTest, WhatIsAssignedAgainIsNotDrawnAgain) {
+    class Paints final : public QObject {
+      public:
+        bool eventFilter(QObject*, QEvent* event) override {
+            count += event->type() == QEvent::Paint ? 1 : 0;
+            return false;
+        }
+        int count = 0;
+    };
+    box.clearFocus(); // no caret blinks
+    QCoreApplication::processEvents();
+    Paints paints;
+    box.viewport()->installEventFilter(&paints);
+    const auto drawnAfter = [&](const std::function<void()>& change) {
+        paints.count = 0;
+        change();
+        QCoreApplication::processEvents();
+        return paints.count > 0;
+    };
+    EXPECT_TRUE(drawnAfter([&] { box.SetBackColor(0x804020); }));
+    EXPECT_FALSE(drawnAfter([&] { box.SetBackColor(0x804020); }));
+    EXPECT_TRUE(drawnAfter([&] { box.SetFont(QFont(u"Courier"_s, 20)); }));
+    EXPECT_FALSE(drawnAfter([&] { box.SetFont(QFont(u"Courier"_s, 20)); }));
 }
 
 TEST_F(RichTextColorsTest, TheSelectionHasTheDesktopsColors) {
