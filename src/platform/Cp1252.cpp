@@ -33,9 +33,11 @@ bool IsInside(QChar character) {
 namespace Cp1252 {
 
 QString FromBytes(QByteArrayView bytes) {
-    QString text(bytes.size(), Qt::Uninitialized);
-    std::transform(bytes.begin(), bytes.end(), text.begin(),
-                   [](char byte) { return FromCode(static_cast<unsigned char>(byte)); });
+    QString text = QString::fromLatin1(bytes);
+    for (QChar& character : text) {
+        if (!IsPlain(character.unicode()))
+            character = FromCode(character.unicode());
+    }
     return text;
 }
 

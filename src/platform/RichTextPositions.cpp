@@ -161,8 +161,12 @@ void RichTextBox::SetStyles(int start, const StyleRuns& styles) {
         Sci(SCI_SETSTYLING, styles.LengthOf(0), styles.StyleOf(0));
         return;
     }
-    QByteArray bytes;
+    qsizetype length = 0;
     for (std::size_t run = 0; run < styles.Count(); ++run)
-        bytes.append(styles.LengthOf(run), static_cast<char>(styles.StyleOf(run)));
+        length += styles.LengthOf(run);
+    QByteArray bytes(length, Qt::Uninitialized);
+    char* to = bytes.data();
+    for (std::size_t run = 0; run < styles.Count(); ++run)
+        to = std::fill_n(to, styles.LengthOf(run), static_cast<char>(styles.StyleOf(run)));
     SendScintilla(SCI_SETSTYLINGEX, static_cast<unsigned long>(bytes.size()), bytes.constData());
 }

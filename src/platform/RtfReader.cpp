@@ -275,10 +275,15 @@ class Reader {
     }
 
     void PutOne(QChar c) {
-        if (skip_ > 0)
+        if (skip_ > 0) {
             --skip_;
-        else
+        } else if (c < u'\x80' && state_.target == GroupState::Target::Text && highSurrogate_.isNull()) {
+            // A script is made of escaped braces: they go the short way.
+            out_.text += c;
+            CountRun(1);
+        } else {
             Put(QStringView(&c, 1));
+        }
     }
 
     void Put(QStringView piece) {
@@ -292,7 +297,11 @@ class Reader {
             out_.text += piece;
         else
             out_.text += Cp1252::Accept(piece);
-        const int length = static_cast<int>(out_.text.size() - before);
+        CountRun(static_cast<int>(out_.text.size() - before));
+    }
+
+    /// The last characters of the text are in the colour that holds now.
+    void CountRun(int length) {
         if (!out_.runs.empty() && out_.runs.back().color == state_.color)
             out_.runs.back().length += length;
         else
