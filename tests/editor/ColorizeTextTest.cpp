@@ -68,16 +68,62 @@ class ColorizeTextTest : public testing::Test {
 TEST_F(ColorizeTextTest, WithoutATagTheKeptDocumentGetsOnePieceAndKeepDocumentComesBackFalse) {
     frame.SetText(QStringLiteral("[]"));
     frame.Box().SetSelStart(1);
-    QString text = QStringLiteral("a{b");
+    QString text = QStringLiteral("a{b\r\n");
     bool keepDocument = true;
     ColorizeText(frame, text, keepDocument, true);
     EXPECT_FALSE(keepDocument);
-    EXPECT_EQ(text, QStringLiteral("a\\{b"));
-    EXPECT_EQ(frame.Box().streams, QStringList{header + QStringLiteral("\\cf1 a\\{b}")});
-    EXPECT_EQ(frame.Box().Text(), QStringLiteral("[a{b]"));
-    EXPECT_EQ(frame.Box().SelStart(), 4) << "caretToTop has no effect without a tag";
+    EXPECT_EQ(text, QStringLiteral("a\\{b\\par "));
+    EXPECT_EQ(frame.Box().streams, QStringList{header + QStringLiteral("\\cf1 a\\{b\\par }")});
+    EXPECT_EQ(frame.Box().Text(), QStringLiteral("[a{b\r\n]"));
+    EXPECT_EQ(frame.Box().SelStart(), 6) << "caretToTop has no effect without a tag";
+    EXPECT_TRUE(frame.State<EditorState>().RtfFlushNow);
+    EXPECT_TRUE(frame.State<EditorState>().RtfBuffer.isEmpty());
     EXPECT_FALSE(frame.Box().enabledDuringWrite);
     EXPECT_TRUE(frame.Box().Enabled());
+}
+
+TEST_F(ColorizeTextTest, AnUnclosedTagAloneIsNoTextWithoutATag) {
+    frame.SetText(QStringLiteral("[]"));
+    frame.Box().SetSelStart(1);
+    QString text = QStringLiteral("1 < 2\r\n");
+    bool keepDocument = true;
+    ColorizeText(frame, text, keepDocument, true);
+    EXPECT_TRUE(keepDocument);
+    EXPECT_EQ(text, QStringLiteral("1 < 2\r\n")) << "only what is handed on gets its paragraphs";
+    EXPECT_EQ(frame.Box().streams, QStringList{header + QStringLiteral("\\cf1 1 < 2\\par }")});
+    EXPECT_EQ(frame.Box().Text(), QStringLiteral("[1 < 2\r\n]"));
+    EXPECT_EQ(frame.Box().SelStart(), 0) << "caretToTop holds";
+}
+
+TEST_F(ColorizeTextTest, APassDropsNothingThatWaitsInTheBuffer) {
+    frame.State<EditorState>().RtfBuffer = QStringLiteral("\\cf2 <I>");
+    ColorizeText(frame, QStringLiteral("x<B>"), true, false);
+    EXPECT_EQ(frame.Box().streams, QStringList{header + QStringLiteral("\\cf2 <I>\\cf1 x\\cf2 <B>\\cf1 }")});
+}
+
+TEST_F(ColorizeTextTest, WhatIsTypedAfterAPassHasTheTextColor) {
+    frame.Store().Write(Keys::TextColor[0], QStringLiteral("12345"));
+    ColorizeText(frame, QStringLiteral("<B>"), false, false);
+    frame.Box().SetSelText(QStringLiteral("x"));
+    EXPECT_EQ(frame.Box().ColorAt(2), 16711680);
+    EXPECT_EQ(frame.Box().ColorAt(3), 12345);
+}
+
+TEST_F(ColorizeTextTest, NoKeysGetInWithColoringOffEither) {
+    frame.Store().Write(Keys::ColoredTags, QStringLiteral("0"));
+    frame.SetText(QStringLiteral("old"));
+    QList<bool> enabled;
+    QObject::connect(frame.active->input, &RichTextBox::Change, frame.active,
+                     [&] { enabled << frame.Box().Enabled(); });
+    ColorizeText(frame, QStringLiteral("<B>"), false, false);
+    EXPECT_EQ(enabled, QList<bool>({true, false})) << "emptying the document comes before";
+    EXPECT_TRUE(frame.Box().Enabled());
+}
+
+TEST_F(ColorizeTextTest, CaretToTopWithColoringOff) {
+    frame.Store().Write(Keys::ColoredTags, QStringLiteral("0"));
+    ColorizeText(frame, QStringLiteral("<B>"), false, true);
+    EXPECT_EQ(frame.Box().SelStart(), 0);
 }
 
 TEST_F(ColorizeTextTest, AnEmptyKeptTextWritesTheWordAlone) {

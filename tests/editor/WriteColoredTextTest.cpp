@@ -68,10 +68,26 @@ TEST_F(WriteColoredTextTest, GathersUntilThePieceThatFlushes) {
     EXPECT_TRUE(state.RtfFlushNow) << "the flush leaves it on";
 }
 
+TEST_F(WriteColoredTextTest, AllDocumentsShareTheBufferAndTheFlag) {
+    Write(QStringLiteral("x"), "\\cf1 ");
+    RecordingBox& first = frame.Box();
+    frame.NewDocument();
+    state.RtfFlushNow = true;
+    Write(QStringLiteral("<B>"), "\\cf2 ");
+    EXPECT_EQ(frame.Box().Text(), QStringLiteral("x<B>"));
+    EXPECT_EQ(first.Text(), QString());
+}
+
 TEST_F(WriteColoredTextTest, PairsOfCrLfBecomeParagraphsInTheCallersHands) {
-    QString text = QStringLiteral("a\r\nb\rc\nd\r\n");
-    WriteColoredText(frame, text, QStringLiteral("\\cf1 "), false);
-    EXPECT_EQ(text, QStringLiteral("a\\par b\rc\nd\\par "));
+    const std::pair<const char*, const char*> rows[] = {{"a\r\nb\rc\nd\r\n", "a\\par b\rc\nd\\par "},
+                                                        {"\r\r\n\n\r", "\r\\par \n\r"},
+                                                        {"\r\n\r\n", "\\par \\par "},
+                                                        {"\n\r", "\n\r"}};
+    for (const auto& [given, left] : rows) {
+        QString text = QString::fromLatin1(given);
+        WriteColoredText(frame, text, QStringLiteral("\\cf1 "), false);
+        EXPECT_EQ(text, QString::fromLatin1(left));
+    }
 }
 
 TEST_F(WriteColoredTextTest, ALoneLfVanishesWhereRawLineEndsAreSkippedAndStaysWhereTheyAreKept) {
@@ -164,6 +180,17 @@ TEST_F(WriteColoredTextTest, WithoutADocumentNothingHappens) {
     WriteColoredText(frame, text, QStringLiteral("\\cf1 "), false);
     EXPECT_TRUE(state.RtfBuffer.isEmpty());
     EXPECT_TRUE(frame.prompts.asked.isEmpty());
+}
+
+TEST_F(WriteColoredTextTest, NothingIsPaintedWhileItIsWritten) {
+    QList<bool> painting;
+    QObject::connect(frame.active->input, &RichTextBox::Change, frame.active,
+                     [&] { painting << frame.Box().updatesEnabled(); });
+    state.RtfFlushNow = true;
+    Write(QStringLiteral("a"), "\\cf1 ");
+    EXPECT_EQ(painting, QList<bool>{false});
+    EXPECT_TRUE(frame.Box().updatesEnabled());
+    EXPECT_TRUE(frame.Box().isVisible());
 }
 
 TEST_F(WriteColoredTextTest, TheControlHasTheFocusAfterAFlush) {

@@ -31,6 +31,16 @@ TEST_F(RichTextPrintTest, PagesCoverTheTextWithoutGapOrRepeat) {
     EXPECT_EQ(box.FormatRange(true, painter, page, from), text.size());
 }
 
+TEST_F(RichTextPrintTest, ATextThatFitsIsDoneAtOnce) {
+    QImage sheet(600, 400, QImage::Format_RGB32);
+    QPainter painter(&sheet);
+    for (const QString& text : {QString(), u"one"_s, u"one\r\n"_s, u"one\r\n\r\n"_s, u"\n"_s}) {
+        box.SetText(text);
+        EXPECT_EQ(box.FormatRange(true, painter, QRectF(0, 0, 600, 400), 0), text.size());
+    }
+    EXPECT_EQ(box.FormatRange(true, painter, QRectF(0, 0, 600, 400), 99), 1) << "nothing is behind the end";
+}
+
 TEST_F(RichTextPrintTest, OneLineOverManyPagesIsDrawnOnce) {
     // No blank, so that each row holds as much as fits and the pages can be counted against one another.
     box.SetText(QString(60000, u'm'));

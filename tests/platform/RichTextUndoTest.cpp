@@ -54,6 +54,23 @@ TEST_F(RichTextUndoTest, TypedTextIsOneStepALineAndComesBackInColor) {
     EXPECT_EQ(Colors(), u"rrrrrgg"_s);
 }
 
+TEST_F(RichTextUndoTest, WhatIsTypedBesideAnAssignmentIsAStepOfItsOwn) {
+    box.SetSelText(u"ab"_s);
+    Type("c");
+    Undo();
+    EXPECT_EQ(box.Text(), u"ab"_s);
+    Type("d");
+    box.SetSelText(u"e"_s);
+    Undo();
+    EXPECT_EQ(box.Text(), u"abd"_s);
+    box.SetSelText(u"f"_s);
+    box.SetSelRTF(table + u"\\cf1 g}"_s);
+    Undo();
+    EXPECT_EQ(box.Text(), u"abdf"_s);
+    Undo();
+    EXPECT_EQ(box.Text(), u"abd"_s);
+}
+
 TEST_F(RichTextUndoTest, DeletedTextComesBackInItsColors) {
     Put(u"aébc"_s, u"rgbr"_s);
     for (int i = 0; i < 4; ++i)
