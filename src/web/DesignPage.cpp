@@ -13,12 +13,43 @@ namespace {
 
 constexpr auto ourWorld = QWebEngineScript::ApplicationWorld;
 
-// Takes [text, bodyBegin, bodyEnd, blanksBehindBody]. The text is written into an empty page, and not loaded
-// from its file: so its encoding is the one that it will be written back in, and its size has no limit.
+// Takes [text, bodyBegin, bodyEnd]. The text is written into an empty page, and not loaded from its file: so
+// its encoding is the one that it will be written back in, and its size has no limit.
 // bodyIsOwn tells whether the source around the body, with the engine's own text of the body in it, is the
-// very same page.
+// very same page, but for blanks at its end. tail is what the source behind the body adds to the body:
+// engines count blanks there to it, and some comments. A reader drops the first line end of a pre and its
+// like: written() puts one more where there is one. behind() gives the comments after the html tag's end.
 const QString fillScript = QStringLiteral(R"js(
-(function(text, begin, end, blanks) {
+(function(text, begin, end) {
+    const parse = source => new DOMParser().parseFromString(source, 'text/html');
+    const inert = parse('');
+    const loses = element => element.firstChild && element.firstChild.nodeType === Node.TEXT_NODE
+        && element.firstChild.data.startsWith('\n');
+    const losing = node => [...node.querySelectorAll('pre, textarea, listing')].filter(loses);
+    const written = node => {
+        if (!losing(node).length)
+            return node;
+        const copy = inert.importNode(node, true);
+        for (const element of losing(copy))
+            element.firstChild.data = '\n' + element.firstChild.data;
+        return copy;
+    };
+    const behind = page => {
+        let comments = '';
+        for (let node = page.documentElement; node; node = node.nextSibling)
+            if (node.nodeType === Node.COMMENT_NODE)
+                comments += '\n<!--' + node.data + '-->';
+        return comments;
+    };
+    const upToItsEnd = html => {
+        for (;;) {
+            html = html.trimEnd();
+            const tag = html.lastIndexOf('</');
+            if (tag < 0 || !/^<\/[a-z0-9]+>$/.test(html.slice(tag)))
+                return html;
+            html = html.slice(0, tag);
+        }
+    };
     const shell = () => document.head.outerHTML + (document.body ? document.body.cloneNode(false).outerHTML : '')
         + document.documentElement.cloneNode(false).outerHTML;
     document.open();
@@ -26,29 +57,45 @@ const QString fillScript = QStringLiteral(R"js(
     document.close();
     const whole = document.documentElement.outerHTML;
     let bodyIsOwn = false;
+    let tail = '';
     if (begin >= 0 && document.body) {
-        let body = document.body.innerHTML;
-        if (blanks && body.endsWith(blanks))
-            body = body.slice(0, body.length - blanks.length);
-        const again = new DOMParser().parseFromString(text.slice(0, begin) + body + text.slice(end), 'text/html');
-        bodyIsOwn = again.documentElement.outerHTML === whole;
+        const body = written(document.body).innerHTML;
+        const added = parse('<body>.' + text.slice(end)).body.innerHTML.slice(1);
+        if (body.endsWith(added))
+            tail = added;
+        const own = body.slice(0, body.length - tail.length);
+        const again = parse(text.slice(0, begin) + own + text.slice(end));
+        bodyIsOwn = upToItsEnd(again.documentElement.outerHTML) === upToItsEnd(whole)
+            && behind(again) === behind(document);
     }
-    window.tarnwick = { shell, bodyIsOwn, before: whole, shellBefore: shell(), collected: whole };
+    window.tarnwick = {
+        shell, bodyIsOwn, tail, before: whole, shellBefore: shell(), collected: whole,
+        body: () => written(document.body).innerHTML,
+        document: () => written(document.documentElement).outerHTML + behind(document)
+    };
     document.designMode = 'on';
     document.execCommand('defaultParagraphSeparator', false, 'p');
     return true;
 }).apply(null, %1)
 )js");
 
+// Where the user's last words stand behind what the tail added, blanks of it may stay; a comment would come
+// twice.
 const QString collectScript = QStringLiteral(R"js(
 (function(page) {
     const whole = document.documentElement.outerHTML;
     page.collected = whole;
     if (whole === page.before)
         return { changed: false };
-    if (page.bodyIsOwn && page.shell() === page.shellBefore)
-        return { changed: true, headChanged: false, body: document.body.innerHTML };
-    return { changed: true, headChanged: true, document: whole };
+    const all = () => ({ changed: true, headChanged: true, document: page.document() });
+    if (!page.bodyIsOwn || page.shell() !== page.shellBefore)
+        return all();
+    let body = page.body();
+    if (body.endsWith(page.tail))
+        body = body.slice(0, body.length - page.tail.length);
+    else if (page.tail.trim())
+        return all();
+    return { changed: true, headChanged: false, body };
 })(window.tarnwick)
 )js");
 
@@ -66,8 +113,7 @@ DesignPage::DesignPage(QWebEngineProfile& profile) : QWebEnginePage(&profile) {
 }
 
 void DesignPage::Show(const PageSource& source, const QString& path) {
-    fill_ = fillScript.arg(
-        Json({source.Text(), source.BodyBegin(), source.BodyEnd(), source.BlanksBehindBody()}));
+    fill_ = fillScript.arg(Json({source.Text(), source.BodyBegin(), source.BodyEnd()}));
     opening_ = true;
     setHtml(QStringLiteral("<!DOCTYPE html>"), QUrl::fromLocalFile(QFileInfo(path).absoluteFilePath()));
 }

@@ -76,11 +76,11 @@ class HeadScan {
 
     static bool MayStandBefore(const QString& name) {
         static const QSet<QString> head = {
-            QStringLiteral("!"),      QStringLiteral("html"),   QStringLiteral("head"),
-            QStringLiteral("/head"),  QStringLiteral("title"),  QStringLiteral("/title"),
-            QStringLiteral("meta"),   QStringLiteral("link"),   QStringLiteral("base"),
-            QStringLiteral("style"),  QStringLiteral("/style"), QStringLiteral("script"),
-            QStringLiteral("/script")};
+            QStringLiteral("!"),       QStringLiteral("html"),     QStringLiteral("head"),
+            QStringLiteral("/head"),   QStringLiteral("title"),    QStringLiteral("/title"),
+            QStringLiteral("meta"),    QStringLiteral("link"),     QStringLiteral("base"),
+            QStringLiteral("style"),   QStringLiteral("/style"),   QStringLiteral("script"),
+            QStringLiteral("/script"), QStringLiteral("noscript"), QStringLiteral("/noscript")};
         return head.contains(name);
     }
 
@@ -115,13 +115,13 @@ void PageSource::FindBody() {
     bodyBegin_ = HeadScan(text_).BodyBegin();
     if (bodyBegin_ < 0)
         return;
-    static const QRegularExpression end(QStringLiteral("</body\\s*>(\\s*)(?:</html\\s*>(\\s*))?\\z"),
-                                        QRegularExpression::CaseInsensitiveOption);
-    const qsizetype last = text_.lastIndexOf(QStringLiteral("</body"), -1, Qt::CaseInsensitive);
-    const auto found = last < bodyBegin_ ? QRegularExpressionMatch() : end.match(text_, last);
+    // The first end tag that nothing but comments and blanks come behind: engines count what else comes there
+    // to the body's content.
+    static const QRegularExpression end(
+        QStringLiteral("</body\\s*+>(?:\\s++|<!--.*?-->)*+(?:</html\\s*+>(?:\\s++|<!--.*?-->)*+)?+\\z"),
+        QRegularExpression::CaseInsensitiveOption | QRegularExpression::DotMatchesEverythingOption);
+    const auto found = end.match(text_, bodyBegin_);
     bodyEnd_ = found.hasMatch() ? found.capturedStart() : text_.size();
-    if (found.hasMatch())
-        blanksBehindBody_ = LineFeeds(found.captured(1) + found.captured(2));
 }
 
 QString PageSource::OwnLineEnds(QString text) const {
@@ -131,10 +131,7 @@ QString PageSource::OwnLineEnds(QString text) const {
 }
 
 QByteArray PageSource::WithBody(const QString& body) const {
-    QString content = body;
-    if (content.endsWith(blanksBehindBody_))
-        content.chop(blanksBehindBody_.size());
-    return encoding_.Encode(text_.first(bodyBegin_) + OwnLineEnds(content) + text_.sliced(bodyEnd_));
+    return encoding_.Encode(text_.first(bodyBegin_) + OwnLineEnds(body) + text_.sliced(bodyEnd_));
 }
 
 QByteArray PageSource::WithDocument(const QString& html) const {

@@ -15,9 +15,6 @@ class PageSource {
     /// of its own, or has something before it that belongs into the body.
     qsizetype BodyBegin() const { return bodyBegin_; }
     qsizetype BodyEnd() const { return bodyEnd_; }
-    /// The blanks and line ends (LF alone) behind the body's end tag: engines count them to the body's
-    /// content.
-    const QString& BlanksBehindBody() const { return blanksBehindBody_; }
 
     /// The file's bytes with other content of the body; line ends become the file's own.
     QByteArray WithBody(const QString& body) const;
@@ -33,5 +30,4 @@ class PageSource {
     QString text_;
     qsizetype bodyBegin_ = -1;
     qsizetype bodyEnd_ = -1;
-    QString blanksBehindBody_;
 };

@@ -3,6 +3,7 @@
 
 #include "support/FreshUser.h"
 #include "support/Text.h"
+#include "web/OnePageServer.h"
 #include "web/PageFiles.h"
 #include "web/PageProbe.h"
 
@@ -12,6 +13,7 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QMenu>
+#include <QTest>
 #include <QTimer>
 #include <QWebEngineView>
 
@@ -58,6 +60,107 @@ TEST_F(Design, AnEditChangesTheBodyAndNothingElse) {
     Edit(before + "<p>one</p>\r\n<p>two</p>" + after);
     EXPECT_TRUE(pane.Save(pane.LoadedPath()));
     EXPECT_EQ(Saved(), before + "<p>typed one</p>\r\n<p>two</p>" + after);
+}
+
+struct Around {
+    const char* name;
+    QByteArray before, after; ///< of the paragraph that is edited
+};
+
+class DesignKeeps : public Design, public testing::WithParamInterface<Around> {};
+
+TEST_P(DesignKeeps, WhatStandsAroundTheEdit) {
+    const Around& page = GetParam();
+    Edit(page.before + "<p>one</p>" + page.after);
+    EXPECT_TRUE(pane.Save(path));
+    EXPECT_EQ(Saved(), page.before + "<p>typed one</p>" + page.after);
+    // The file that came of it is as good as the first.
+    Edit(Saved(), QStringLiteral("again "));
+    EXPECT_TRUE(pane.Save(path));
+    EXPECT_EQ(Saved(), page.before + "<p>again typed one</p>" + page.after);
+}
+
+const QByteArray start = "<HTML>\r\n<HEAD><TITLE>t</TITLE></HEAD>\r\n<BODY>\r\n";
+const QByteArray finish = "\r\n</BODY>\r\n</HTML>\r\n";
+const QByteArray script = "<SCRIPT LANGUAGE=\"JavaScript\">\r\n<!--\r\nif (1 < 2 && '<b>' > \"&amp;\")\r\n"
+                          "  document.write('<p>x<\\/p>');\r\n//-->\r\n</SCRIPT>\r\n";
+
+INSTANTIATE_TEST_SUITE_P(
+    Pages, DesignKeeps,
+    testing::Values(
+        Around{"no_doctype", start, finish},
+        Around{"a_doctype_of_two_lines",
+               "<!DOCTYPE HTML PUBLIC \"-//W3C//DTD HTML 4.01//EN\"\r\n \"http://x/strict.dtd\">\r\n" + start,
+               finish},
+        Around{"a_comment_before_the_doctype", "<!-- by hand -->\r\n<!DOCTYPE html>\r\n" + start, finish},
+        Around{"a_declaration_before_the_doctype", "<?xml version=\"1.0\"?>\r\n<!DOCTYPE html>\r\n" + start,
+               finish},
+        Around{"a_comment_behind_the_page", start, finish + "<!-- changed by hand -->\r\n"},
+        Around{"a_comment_behind_the_body", start, "\r\n</BODY>\r\n<!-- the end -->\r\n</HTML>\r\n"},
+        Around{"comments_right_behind_the_body", start, "</BODY><!-- end --></HTML><!-- of it -->\r\n"},
+        Around{"an_end_tag_in_a_comment", start, "\r\n</BODY>\r\n<!-- </BODY> --></HTML>\r\n"},
+        Around{"no_end_tags", start, "\r\n"},
+        Around{"scripts_and_styles_of_the_head",
+               "<html><head>\r\n" + script + "<STYLE>\r\np > b { color: red }\r\n</STYLE></head>\r\n<body>",
+               finish},
+        Around{"a_script_of_the_body", start,
+               "\r\n<script language=\"JavaScript\">\r\n<!--\r\nif (1 < 2 && '<b>')\r\n  x();\r\n//-->\r\n"
+               "</script>" +
+                   finish},
+        Around{"noscript",
+               "<html><head><NOSCRIPT><LINK REL=stylesheet HREF=a.css></NOSCRIPT></head>\r\n<body>",
+               "\r\n<noscript><p>none</p></noscript>" + finish},
+        Around{"leading_lines_of_a_pre", start,
+               "\r\n<pre>\r\n\r\n  one\r\n</pre>\r\n<textarea>\r\n\r\ntwo</textarea>" + finish},
+        Around{"meta_utf8",
+               "<!DOCTYPE html>\r\n<html><head>\r\n<META "
+               "CHARSET=UTF-8>\r\n<title>\xC3\xA9</title></head>\r\n<body>",
+               "\r\n<p>\xE2\x98\x83</p>" + finish},
+        Around{"meta_windows1252",
+               "<html><head>\r\n<META HTTP-EQUIV=\"Content-Type\" CONTENT=\"text/html; "
+               "charset=windows-1252\">\r\n"
+               "<title>\xE9\x80</title></head>\r\n<body>",
+               "\r\n<p>\x80 \xE9 &#9731;</p>" + finish}),
+    [](const auto& info) { return std::string(info.param.name); });
+
+TEST_F(Design, AnEditOfAPageWithoutABodyTagKeepsTheCommentBehindIt) {
+    for (const char* end : {"</html>\r\n<!-- mine -->\r\n", "</html><!-- mine -->", "<!-- mine -->"}) {
+        Edit(QByteArray("<title>t</title>\r\n<p>one</p>") + end);
+        EXPECT_TRUE(pane.Save(path));
+        EXPECT_TRUE(Saved().contains("<p>typed one</p>")) << Saved().constData();
+        EXPECT_EQ(Saved().count("<!-- mine -->"), 1) << Saved().constData();
+    }
+}
+
+TEST_F(Design, AnUnclosedParagraphAtTheEndTakesTheHeadNothing) {
+    const QByteArray head = "<HTML><HEAD><TITLE>t</TITLE></HEAD>\r\n<BODY BGCOLOR=white>\r\n";
+    Edit(head + "<P>zero\r\n<P>last\r\n</BODY>\r\n</HTML>\r\n");
+    EXPECT_TRUE(pane.Save(path));
+    const QByteArray first = Saved();
+    EXPECT_TRUE(first.startsWith(head + "<p>typed zero\r\n</p><p>last\r\n")) << first.constData();
+    EXPECT_TRUE(first.endsWith("</p></BODY>\r\n</HTML>\r\n")) << first.constData();
+    Edit(first, QStringLiteral("again "));
+    EXPECT_TRUE(pane.Save(path));
+    EXPECT_EQ(Saved(), QByteArray(first).replace("typed ", "again typed ")) << "nothing grows";
+}
+
+TEST_F(Design, WordsBehindACommentAtTheEndDoNotDoubleIt) {
+    Load("<html><body><p>one</p></body>\r\n<!-- mine -->\r\n</html>\r\n");
+    Probe::Run(pane, QStringLiteral("document.body.append('last')"));
+    EXPECT_TRUE(pane.Save(path));
+    EXPECT_EQ(Saved().count("<!-- mine -->"), 1) << Saved().constData();
+    EXPECT_TRUE(Saved().contains("last")) << Saved().constData();
+}
+
+TEST_F(Design, AFramesetStandsAsItWas) {
+    PageFiles::Write(QStringLiteral("left.htm"), "<p>left</p>");
+    const QByteArray page =
+        "<HTML><FRAMESET COLS=\"50%,*\">\r\n<FRAME SRC=left.htm>\r\n<FRAME SRC=left.htm>\r\n"
+        "<NOFRAMES><P>none</NOFRAMES>\r\n</FRAMESET></HTML>\r\n";
+    Load(page);
+    ASSERT_TRUE(Probe::Until(pane, QStringLiteral("frames.length === 2")));
+    EXPECT_TRUE(pane.Save(path));
+    EXPECT_EQ(Saved(), page);
 }
 
 TEST_F(Design, AnEditThatWasUndoneIsNone) {
@@ -218,6 +321,27 @@ TEST_F(Design, ScriptsOfThePageDoNotRunAndItGoesNowhere) {
     EXPECT_EQ(Probe::Run(pane, QStringLiteral("document.title + location.pathname")).toString(), path);
     EXPECT_TRUE(pane.Save(path));
     EXPECT_TRUE(Saved().contains(script));
+    EXPECT_TRUE(Saved().contains("typed one"));
+}
+
+TEST_F(Design, NeitherLinksNorFormsNorRefreshesLeadAway) {
+    OnePageServer server("<title>away</title>");
+    const QByteArray away = server.Address().toLatin1() + "away";
+    // To another place of the web the engine itself would let the page go.
+    Edit("<html><head><meta http-equiv=refresh content=\"0;url=" + away +
+         "\"></head><body><p>one</p><a id=a href=\"" + away + "\">link</a><form id=f action=\"" + away +
+         "\"></form></body></html>");
+    for (const char* way : {"document.getElementById('a').click()", "document.getElementById('f').submit()",
+                            "location.href = document.getElementById('a').href"}) {
+        Probe::Run(pane, QLatin1String(way) + QStringLiteral("; 0"));
+        Probe::Settle(pane);
+    }
+    // A picture that is asked for after all of them has come: so would they have.
+    Probe::Run(pane, QStringLiteral("new Image().src = '%1picture'; 0").arg(server.Address()));
+    ASSERT_TRUE(QTest::qWaitFor([&] { return server.Asked().contains(QStringLiteral("picture")); }, 20000));
+    EXPECT_EQ(server.Asked(), QStringList(QStringLiteral("picture")));
+    EXPECT_EQ(Probe::Run(pane, QStringLiteral("location.pathname + document.title")).toString(), path);
+    EXPECT_TRUE(pane.Save(path));
     EXPECT_TRUE(Saved().contains("typed one"));
 }
 

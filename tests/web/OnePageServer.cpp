@@ -8,8 +8,10 @@ OnePageServer::OnePageServer(QByteArray page) : page_(std::move(page)) {
     connect(this, &QTcpServer::newConnection, this, [this] {
         QTcpSocket* socket = nextPendingConnection();
         connect(socket, &QTcpSocket::readyRead, socket, [this, socket] {
-            if (!socket->readAll().contains("\r\n\r\n"))
+            const QByteArray request = socket->readAll();
+            if (!request.contains("\r\n\r\n"))
                 return;
+            asked_ << QString::fromLatin1(request.split(' ').value(1).mid(1));
             socket->write(
                 "HTTP/1.1 200 OK\r\nContent-Type: text/html\r\nConnection: close\r\nContent-Length: " +
                 QByteArray::number(page_.size()) + "\r\n\r\n" + page_);

@@ -3,6 +3,7 @@
 
 #include <QByteArray>
 #include <QString>
+#include <QStringList>
 #include <QTcpServer>
 
 class OnePageServer : public QTcpServer {
@@ -11,7 +12,10 @@ class OnePageServer : public QTcpServer {
   public:
     explicit OnePageServer(QByteArray page);
     QString Address() const { return QStringLiteral("http://127.0.0.1:%1/").arg(serverPort()); }
+    /// The paths that were asked for, in their order, without the first slash.
+    const QStringList& Asked() const { return asked_; }
 
   private:
     QByteArray page_;
+    QStringList asked_;
 };

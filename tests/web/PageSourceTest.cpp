@@ -68,6 +68,12 @@ TEST(PageSource, KeepsWhatStandsAroundTheBody) {
         {"<body>old", "<body>new"},
         {"<body>a</body>b</body> ", "<body>new</body> "},
         {"<body>old</body>stray", "<body>new"},
+        {"<body>old</body>\r\n</html>\r\n<!-- mine -->\r\n",
+         "<body>new</body>\r\n</html>\r\n<!-- mine -->\r\n"},
+        {"<body>old</body><!-- </body>\n --> </html>", "<body>new</body><!-- </body>\n --> </html>"},
+        {"<body>a</body><!-- x -->b</body></html>", "<body>new</body></html>"},
+        {"<head><noscript><link href=a.css></noscript></head><body>old",
+         "<head><noscript><link href=a.css></noscript></head><body>new"},
         {"<p>old</p>", nullptr},
         {"<p>first<body>old</body>", nullptr},
         {"text<body>old</body>", nullptr},
@@ -84,14 +90,6 @@ TEST(PageSource, KeepsWhatStandsAroundTheBody) {
             EXPECT_EQ(source.WithBody(QStringLiteral("new")), QByteArray(row.edited)) << row.source;
         }
     }
-}
-
-TEST(PageSource, BlanksBehindTheBodyDoNotGrow) {
-    const PageSource source("<body>\r\n<p>a\r\n</body>\r\n</html>\r\n");
-    EXPECT_EQ(source.BlanksBehindBody(), QStringLiteral("\n\n"));
-    EXPECT_EQ(source.WithBody(QStringLiteral("\n<p>b\n\n\n")),
-              QByteArray("<body>\r\n<p>b\r\n</body>\r\n</html>\r\n"));
-    EXPECT_EQ(source.WithBody(QStringLiteral("<p>b")), QByteArray("<body><p>b</body>\r\n</html>\r\n"));
 }
 
 TEST(PageSource, LineEndsAreTheFilesOwn) {
