@@ -3,6 +3,7 @@
 
 #include "web/BrowserPane.h"
 #include "web/DesignPane.h"
+#include "web/Sandbox.h"
 
 #include <QGuiApplication>
 
@@ -23,9 +24,7 @@ bool EngineCanRun() {
 
 WebControlsPlugin::WebControlsPlugin() {
 #ifdef Q_OS_UNIX
-    // The engine's sandbox can't be had by root, and the engine refuses to start without one or the other.
-    if (::geteuid() == 0)
-        qputenv("QTWEBENGINE_DISABLE_SANDBOX", "1");
+    DoWithoutSandboxAsRoot(::geteuid());
 #endif
 }
 

@@ -54,8 +54,8 @@ class Desk:
         self.env.pop("WAYLAND_DISPLAY", None)
         self.env.update(QT_QPA_PLATFORM="xcb", QT_LINUX_ACCESSIBILITY_ALWAYS_ON="1", LANG="C.UTF-8",
                         NO_AT_BRIDGE="0", QT_ACCESSIBILITY="1")
-        if os.geteuid() == 0:
-            self.env["QTWEBENGINE_DISABLE_SANDBOX"] = "1"
+        # Whether the engine needs to do without its sandbox is the program's own business.
+        self.env.pop("QTWEBENGINE_DISABLE_SANDBOX", None)
         if scale:
             self.env["QT_SCALE_FACTOR"] = str(scale)
         reading, writing = os.pipe()

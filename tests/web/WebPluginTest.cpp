@@ -6,6 +6,7 @@
 #include "support/TestFrame.h"
 #include "web/PageFiles.h"
 #include "web/PageProbe.h"
+#include "web/Sandbox.h"
 
 #include <gtest/gtest.h>
 #include <QApplication>
@@ -35,6 +36,19 @@ TEST(WebPlugin, AbsentOrBrokenThereAreNoControls) {
     EXPECT_EQ(LoadWebPlugin({}), nullptr);
     PageFiles::Write(QStringLiteral("tarnwick_web.so"), "no library");
     EXPECT_EQ(LoadWebPlugin({TestFolder()}), nullptr);
+}
+
+TEST(WebPlugin, OnlyRootDoesWithoutTheSandbox) {
+    const char* const off = "QTWEBENGINE_DISABLE_SANDBOX";
+    const QByteArray before = qgetenv(off);
+    for (const unsigned int user : {1U, 1000U, 65534U}) {
+        qunsetenv(off);
+        DoWithoutSandboxAsRoot(user);
+        EXPECT_FALSE(qEnvironmentVariableIsSet(off)) << user;
+    }
+    DoWithoutSandboxAsRoot(0);
+    EXPECT_EQ(qgetenv(off), QByteArray("1"));
+    before.isNull() ? qunsetenv(off) : qputenv(off, before);
 }
 
 TEST(WebPlugin, TheFocusComesBackToTheSource) {
