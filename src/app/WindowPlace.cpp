@@ -15,6 +15,15 @@ bool WithinReach(const QRect& window, const QRect& screen) {
     return grip.height() == gripHeight && grip.width() >= std::min(gripWidth, window.width());
 }
 
+// A window may be larger than the screens that are left; twice as large as all of them together is a size
+// that nobody gave it, and no system can draw what damaged settings may ask for.
+QSize LessThanNonsense(QSize window, const QList<QRect>& screens) {
+    QRect all;
+    for (const QRect& screen : screens)
+        all |= screen;
+    return all.isEmpty() ? window : window.boundedTo(2 * all.size());
+}
+
 } // namespace
 
 QRect WindowPlace::Centred(QSize window, QRect screen) {
@@ -23,6 +32,7 @@ QRect WindowPlace::Centred(QSize window, QRect screen) {
 }
 
 QRect WindowPlace::Reachable(QRect window, const QList<QRect>& screens) {
+    window.setSize(LessThanNonsense(window.size(), screens));
     const auto reaches = [&](const QRect& screen) { return WithinReach(window, screen); };
     if (screens.isEmpty() || std::ranges::any_of(screens, reaches))
         return window;

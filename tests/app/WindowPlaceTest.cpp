@@ -33,9 +33,11 @@ TEST(WindowPlace, ReachableMovesAsLittleAsNeeded) {
         {{10, 760, 600, 400}, {10, 368, 600, 400}},     // below it
         {{9000, 9000, 600, 400}, {424, 368, 600, 400}}, // off all screens: the first one
         {{-9000, -9000, 600, 400}, {0, 0, 600, 400}},
-        {{2000, 100, 600, 400}, {2000, 100, 600, 400}}, // on the second, partly
-        {{2250, 100, 600, 400}, {1704, 100, 600, 400}}, // grip lost on the second: stays there
-        {{-2990, 10, 3000, 2000}, {0, 0, 3000, 2000}},  // larger than any screen
+        {{2000, 100, 600, 400}, {2000, 100, 600, 400}},     // on the second, partly
+        {{2250, 100, 600, 400}, {1704, 100, 600, 400}},     // grip lost on the second: stays there
+        {{-2990, 10, 3000, 2000}, {0, 0, 3000, 2000}},      // larger than any screen
+        {{10, 10, 1 << 24, 1 << 24}, {10, 10, 4608, 2048}}, // no window at all
+        {{-9000, 10, 600, 1 << 24}, {0, 0, 600, 2048}},
     };
     for (const auto& row : rows)
         EXPECT_EQ(WindowPlace::Reachable(row.window, screens), row.place)
