@@ -310,6 +310,9 @@ void frmTarnwick::closeEvent(QCloseEvent* event) {
 
 bool frmTarnwick::event(QEvent* event) {
     if (event->type() == QEvent::WindowActivate) {
+        // Who comes back from a dialog comes back to the document: it takes the background just chosen.
+        if (auto* document = qobject_cast<frmTemplate*>(area_->currentSubWindow()))
+            document->TakeBackground();
         FocusDocument();
         // A document that was opened before the frame was on the screen is none of the area's active ones yet, and
         // the area wakes up behind this event.

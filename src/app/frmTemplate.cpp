@@ -106,8 +106,12 @@ void frmTemplate::ReadSettings() {
     txtInput_->SetFont(StoredEditorFont(store));
 }
 
-void frmTemplate::Form_Activate() {
+void frmTemplate::TakeBackground() {
     txtInput_->SetBackColor(frame_.State<EditorState>().Background2);
+}
+
+void frmTemplate::Form_Activate() {
+    TakeBackground();
     txtInput_->SetFocus();
 }
 

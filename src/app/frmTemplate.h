@@ -24,6 +24,8 @@ class frmTemplate final : public QMdiSubWindow, public Document {
     void Form_Load();
     /// The window became the active one.
     void Form_Activate();
+    /// The background that is chosen now, black included.
+    void TakeBackground();
     /// The text takes the window's inside; the design and browser views keep their distance. Public, since
     /// the Options dialog asks for it.
     void Form_Resize();

@@ -2,7 +2,7 @@
 #include "editor/Modes.h"
 
 #include "editor/EditorState.h"
-#include "editor/WebControls.h"
+#include "support/FakeWebControls.h"
 #include "support/TestFrame.h"
 
 #include <gmock/gmock.h>
@@ -13,50 +13,6 @@ using testing::ElementsAre;
 using testing::IsEmpty;
 
 namespace {
-
-class FakeDesign final : public QWidget, public DesignControl {
-  public:
-    explicit FakeDesign(QWidget* parent) : QWidget(parent) { hide(); }
-    QWidget& widget() override { return *this; }
-    void Load(const QString& path) override {
-        loads << path;
-        loaded = path;
-    }
-    QString LoadedPath() const override { return loaded; }
-    bool Save(const QString& path) override {
-        saves << path;
-        return true;
-    }
-
-    QString loaded;
-    QStringList loads, saves;
-};
-
-class FakeBrowser final : public QWidget, public BrowserControl {
-  public:
-    explicit FakeBrowser(QWidget* parent) : QWidget(parent) { hide(); }
-    QWidget& widget() override { return *this; }
-    bool Navigate(const QString& path) override {
-        pages << path;
-        return works;
-    }
-
-    bool works = true;
-    QStringList pages;
-};
-
-class FakeFactory final : public WebControlsFactory {
-  public:
-    DesignControl* MakeDesign(QWidget* parent) override {
-        ++made;
-        return new FakeDesign(parent);
-    }
-    BrowserControl* MakeBrowser(QWidget* parent) override {
-        ++made;
-        return new FakeBrowser(parent);
-    }
-    int made = 0;
-};
 
 /// A frame whose documents have both views, and which opens a path as a new window.
 class ModesFrame final : public TestFrame {
@@ -355,6 +311,34 @@ TEST(Modes, TheFocusFollowsToTheControlInFront) {
     EXPECT_TRUE(frame.Browser()->hasFocus());
     frame.Click(edit);
     EXPECT_TRUE(frame.Box().hasFocus());
+}
+
+TEST(Modes, TheCaretStaysWhereItWas) {
+    ModesFrame frame;
+    frame.SetText(QStringLiteral("<p>one two"));
+    frame.Box().SetSelStart(4);
+    frame.Box().SetSelLength(3);
+    for (const QString& tab : {view, edit, design, edit}) {
+        frame.prompts.messageAnswers = {MsgAnswer::No};
+        frame.Click(tab);
+        EXPECT_EQ(frame.Box().SelStart(), 4) << tab.toStdString();
+        EXPECT_EQ(frame.Box().SelLength(), 3) << tab.toStdString();
+    }
+}
+
+TEST(Modes, TheQuestionComesOnceForAllDocuments) {
+    // The flag is the frame's: a document that was never in Design is asked about as well.
+    ModesFrame frame;
+    frame.Click(design);
+    const QPointer<FakeDesign> first = frame.Design();
+    frame.NewDocument();
+    frame.GiveModes(QStringLiteral("/site/b.htm"));
+    frame.prompts.messageAnswers = {MsgAnswer::Yes};
+    frame.Click(edit);
+    EXPECT_THAT(frame.prompts.Messages(), ElementsAre(QStringLiteral("Save Changes?")));
+    EXPECT_THAT(first->saves, IsEmpty());
+    // It holds no page, and so saves none; it is opened anew all the same.
+    EXPECT_THAT(frame.opened, ElementsAre(QStringLiteral("/site/b.htm")));
 }
 
 TEST(Modes, DesignAnsPosIsEmptyAndTheOtherTwoAreTheSame) {

@@ -1,0 +1,59 @@
+// The design and browser controls without an engine: they note what is asked of them.
+#pragma once
+
+#include "editor/WebControls.h"
+
+#include <functional>
+#include <QString>
+#include <QStringList>
+#include <QWidget>
+
+/// The path that was loaded is the path of its page; an edit is what a test says it is.
+class FakeDesign final : public QWidget, public DesignControl {
+  public:
+    explicit FakeDesign(QWidget* parent) : QWidget(parent) { hide(); }
+    QWidget& widget() override { return *this; }
+    void Load(const QString& path) override {
+        loads << path;
+        loaded = path;
+    }
+    QString LoadedPath() const override { return loaded; }
+    bool Save(const QString& path) override {
+        saves << path;
+        if (writes)
+            writes(path);
+        return true;
+    }
+
+    QString loaded;
+    /// What saving does to the file; nothing by itself.
+    std::function<void(const QString& path)> writes;
+    QStringList loads, saves;
+};
+
+class FakeBrowser final : public QWidget, public BrowserControl {
+  public:
+    explicit FakeBrowser(QWidget* parent) : QWidget(parent) { hide(); }
+    QWidget& widget() override { return *this; }
+    bool Navigate(const QString& path) override {
+        pages << path;
+        return works;
+    }
+
+    bool works = true;
+    QStringList pages;
+};
+
+/// Makes the two, and counts.
+class FakeFactory final : public WebControlsFactory {
+  public:
+    DesignControl* MakeDesign(QWidget* parent) override {
+        ++made;
+        return new FakeDesign(parent);
+    }
+    BrowserControl* MakeBrowser(QWidget* parent) override {
+        ++made;
+        return new FakeBrowser(parent);
+    }
+    int made = 0;
+};
