@@ -351,6 +351,36 @@ TEST_F(Options, TheUsersOwnChoiceOfBrowserComesFirst) {
     EXPECT_EQ(BrowserLookup::Find({QStringLiteral("/no/such/folder")}), QString());
 }
 
+TEST_F(Options, EachOfTheUsualBrowsersIsFoundInItsTurn) {
+    // The last first: each one that comes goes before those that are there.
+    QString none = TestFolder() + QStringLiteral("/firefox");
+    QFile text(none);
+    ASSERT_TRUE(text.open(QFile::WriteOnly));
+    text.close();
+    text.setPermissions(QFile::ReadOwner | QFile::WriteOwner);
+    EXPECT_EQ(BrowserLookup::Find({TestFolder()}), QString()) << "a file that can't be started is no browser";
+    ASSERT_TRUE(text.remove());
+    for (const char* name :
+         {"xdg-open", "msedge", "opera", "falkon", "konqueror", "epiphany", "google-chrome", "chromium",
+          "firefox-esr", "firefox", "sensible-browser", "x-www-browser"}) {
+        const QString program = MakeProgram(QString::fromLatin1(name));
+        EXPECT_EQ(BrowserLookup::Find({TestFolder()}), program);
+        EXPECT_EQ(BrowserLookup::Find(), program) << "the folders of PATH";
+    }
+}
+
+TEST_F(Options, TheFirstFolderOfThePathComesFirst) {
+    ASSERT_TRUE(QDir(TestFolder()).mkpath(QStringLiteral("other")));
+    const QString there = MakeProgram(QStringLiteral("other/firefox"));
+    const QString here = MakeProgram(QStringLiteral("firefox"));
+    const QString other = TestFolder() + QStringLiteral("/other");
+    qputenv("PATH", QFile::encodeName(other + u':' + TestFolder()));
+    Open();
+    EXPECT_EQ(Get<QLineEdit>("txtBrowser").text(), there);
+    qputenv("PATH", QFile::encodeName(TestFolder() + u':' + other));
+    EXPECT_EQ(BrowserLookup::Find(), here);
+}
+
 TEST_F(Options, OkOnTheFirstPageTakesThePrograms) {
     Open();
     Get<QLineEdit>("txtBrowser").setText(QStringLiteral("/no/such/browser"));
@@ -506,12 +536,66 @@ TEST_F(Options, ASizeThatIsNoNumberStaysOpenWithColoursAndFontStored) {
     }
 }
 
-TEST_F(Options, AHugeSizeIsStoredAsTypedAndDrawnAsFarAsItCan) {
+TEST_F(Options, ASizeIsStoredAsTypedAndDrawnAsFarAsItCan) {
+    const struct {
+        const char* typed;
+        double points;
+    } rows[] = {{"12pt", 12}, {"1000", 1000}, {"1e9", 1638}, {" 9 ", 9},
+                {"7.5", 7.5}, {"0.2", 1},     {"-5", 10}};
+    for (const auto& row : rows) {
+        Open(1);
+        Get<QComboBox>("cboFontSize").setEditText(QString::fromLatin1(row.typed));
+        OK();
+        EXPECT_FALSE(IsOpen()) << row.typed;
+        EXPECT_EQ(Stored(Keys::EditorFontSize), QString::fromLatin1(row.typed));
+        EXPECT_EQ(frame.Box().Font().pointSizeF(), row.points) << row.typed;
+    }
+    EXPECT_THAT(frame.prompts.asked, IsEmpty());
+}
+
+TEST_F(Options, OtherDocumentsKeepTheirFontAndColours) {
+    frame.SetText(QStringLiteral("a<b>c"));
+    TestDocument* first = frame.active;
+    const QString family = first->input->Font().family();
+    const double size = first->input->Font().pointSizeF();
+    frame.NewDocument();
+    ASSERT_NE(frame.active, first);
     Open(1);
-    Get<QComboBox>("cboFontSize").setEditText(QStringLiteral("1e9"));
+    Get<QComboBox>("cboFontSize").setEditText(QStringLiteral("30"));
     OK();
-    EXPECT_EQ(Stored(Keys::EditorFontSize), QStringLiteral("1e9"));
-    EXPECT_EQ(frame.Box().Font().pointSizeF(), 1638);
+    EXPECT_EQ(frame.Box().Font().pointSizeF(), 30);
+    EXPECT_EQ(first->input->Font().pointSizeF(), size);
+    EXPECT_EQ(first->input->Font().family(), family);
+    EXPECT_THAT(first->input->streams, IsEmpty());
+}
+
+TEST_F(Options, TheEyeAndTheTabKeyMeetTheControlsInTheirOrder) {
+    const QList<QList<const char*>> pages = {
+        {"txtBrowser", "cmdBrowse", "txtFTP", "cmdFTPBrowse", "chkLocFTP"},
+        {"List1", "cboFontSize", "lblTagBG", "lblTag_0", "lblTag_1", "lblTag_2", "lblTag_3", "lblTag_4",
+         "lblTag_5"},
+        {"chkAutoFill", "chkUseHTM", "chkLowerCaseTags", "chkWordWrap", "chkUseWebTimer",
+         "chkConvertCharacters", "chkColoredTags", "chkShowButtons", "chkMSIEInstalled"}};
+    Open();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(form));
+    for (int page = 0; page < 3; ++page) {
+        Get<QTabBar>("TabStrip1").setCurrentIndex(page);
+        QStringList expected = {QStringLiteral("TabStrip1")}, met;
+        for (const char* name : pages[page])
+            expected << QString::fromLatin1(name);
+        expected << QStringLiteral("Command2") << QStringLiteral("Command3");
+        Get<QTabBar>("TabStrip1").setFocus();
+        for (qsizetype n = 0; n < expected.size(); ++n) {
+            met << form->focusWidget()->objectName();
+            QTest::keyClick(form->focusWidget(), Qt::Key_Tab);
+        }
+        EXPECT_EQ(met, expected) << met.join(u' ').toStdString();
+    }
+    int below = 0;
+    for (const char* box : pages[2]) {
+        EXPECT_GT(Get<QWidget>(box).y(), below) << box;
+        below = Get<QWidget>(box).y();
+    }
 }
 
 TEST_F(Options, WithoutADocumentColoursAndFontAreSavedAllTheSame) {

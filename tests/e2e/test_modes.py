@@ -61,7 +61,28 @@ def pixel(desk, x, y):
     return text.split("#")[-1][:6].upper()
 
 
+def engine_is_loaded(desk):
+    with open("/proc/%d/maps" % desk.program.pid, encoding="utf-8") as file:
+        return "WebEngine" in file.read()
+
+
+def test_without_modes_nothing_of_the_engine_is_loaded(desk):
+    desk.run(desk.write("page.htm", b"<P>words</P>"))
+    desk.wait_page("words")
+    desk.key("ctrl+n")
+    desk.wait_text("")
+    assert not engine_is_loaded(desk)
+    assert not desk.widget_text_contains("Modes of the document")
+
+
 if os.path.exists(WEB):
+    def test_with_modes_the_first_document_loads_the_engine(desk):
+        with_modes(desk)
+        desk.run()
+        assert not engine_is_loaded(desk)
+        desk.key("ctrl+n")
+        wait_for("the engine", lambda: engine_is_loaded(desk))
+
     def test_view_shows_the_page_and_design_edits_it(desk):
         with_modes(desk)
         page = (b"<!DOCTYPE HTML PUBLIC \"-//W3C//DTD HTML 4.01//EN\">\r\n<HTML>\r\n<BODY BGCOLOR=\"#20C040\">\r\n"

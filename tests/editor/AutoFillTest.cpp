@@ -123,7 +123,8 @@ TEST(AutoFill, TypingNarrows) {
     };
     for (const auto& [typed, selected] :
          {Row{"a", "ALIGN"}, Row{"l", "ALIGN"}, Row{"T", "ALT"}, Row{"z", "ALT"}, Row{"\b", "ALT"},
-          Row{"\b", "ALIGN"}, Row{"\b", "ALIGN"}, Row{"\b", "ALIGN"}, Row{"lo", "LOOP"}, Row{"opd", "LOOPDELAY"}}) {
+          Row{"\b", "ALIGN"}, Row{"\b", "ALIGN"}, Row{"\b", "ALIGN"}, Row{"lo", "LOOP"},
+          Row{"opd", "LOOPDELAY"}}) {
         frame.Type(typed);
         EXPECT_EQ(frame.SelectedRow(), QString::fromLatin1(selected)) << typed;
     }
@@ -386,6 +387,65 @@ TEST(AutoFill, EscAndRightWithinThePauseShowTheListAsLoadedAnew) {
         EXPECT_EQ(frame.Marked(), QStringLiteral("<img al\r\n|"));
         EXPECT_EQ(frame.List(), nullptr);
     }
+}
+
+TEST(AutoFill, AnAttributeThatIsThereIsOfferedStill) {
+    TypingFrame frame;
+    frame.Type("<IMG");
+    frame.Type(" ");
+    const QStringList rows = frame.Rows();
+    TypingFrame second;
+    second.SetMarked("<IMG SRC=\"a\" ALT=\"b\"|>");
+    second.Type(" ");
+    EXPECT_EQ(second.Rows(), rows);
+    EXPECT_TRUE(rows.contains(QStringLiteral("SRC")));
+}
+
+TEST(AutoFill, OpenDDCountsTheWordFromTheCaretWhateverItsArgument) {
+    for (const bool quoted : {false, true}) {
+        TypingFrame frame;
+        frame.SetText(QStringLiteral("  abc"));
+        frame.Type("d");
+        ASSERT_FALSE(frame.Lists().TypedWord().IsEmpty());
+        frame.window->setFocus();
+        frame.Lists().OpenDD(quoted);
+        EXPECT_TRUE(frame.PausePending());
+        EXPECT_EQ(QApplication::focusWidget(), &frame.Box());
+        EXPECT_TRUE(frame.Lists().TypedWord().IsEmpty());
+        EXPECT_EQ(frame.Lists().WordStart(), 7);
+        EXPECT_TRUE(frame.Flags().DropDownOpen);
+        EXPECT_EQ(frame.List(), nullptr);
+    }
+}
+
+TEST(AutoFill, TheValueListCountsTheWordFromTheSecondQuote) {
+    TypingFrame frame;
+    frame.Type("<img ali\r");
+    EXPECT_EQ(frame.Box().Text(), QStringLiteral("<img ALIGN=\"\""));
+    EXPECT_EQ(frame.Lists().WordStart(), 13);
+    frame.Type("le");
+    EXPECT_EQ(frame.Lists().TypedWord().Length(), 2);
+}
+
+TEST(AutoFill, AnAttributeTakesTheFirstEqualSignBehindIt) {
+    // NOWRAP"" has none of its own: the name then runs on to the next one, and is none that is known.
+    TypingFrame frame;
+    frame.SetMarked("<td| ALIGN=\"x\">");
+    frame.Type(" now\r");
+    EXPECT_EQ(frame.Marked(), QStringLiteral("<td NOWRAP\"|\" ALIGN=\"x\">"));
+    EXPECT_FALSE(frame.PausePending());
+    EXPECT_FALSE(frame.Lists().ValueList());
+}
+
+TEST(AutoFill, EnterOfAValueEndsAsAnEnterThatWasTaken) {
+    // The handler goes on behind the pick, with no key left to handle.
+    TypingFrame frame;
+    frame.Type("<img ali\r");
+    frame.Type("to");
+    int KeyAscii = 13;
+    frame.engine->txtinput_KeyPress(KeyAscii);
+    EXPECT_EQ(KeyAscii, 0);
+    EXPECT_EQ(frame.Marked(), QStringLiteral("<img ALIGN=\"TOP|\""));
 }
 
 TEST(AutoFill, StandsWhereTheLastListWas) {

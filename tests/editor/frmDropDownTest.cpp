@@ -1,6 +1,9 @@
 // The auto-fill list with the keyboard or the mouse in it.
 #include "editor/frmDropDown.h"
 
+#include "editor/AutoFillHooks.h"
+#include "editor/AutoFillTables.h"
+#include "editor/DropDownIcons.h"
 #include "support/TypingFrame.h"
 
 #include <gtest/gtest.h>
@@ -147,6 +150,80 @@ TEST_F(ListTest, BlankAndEscUnload) {
     EXPECT_EQ(QApplication::focusWidget(), &frame.Box());
 }
 
+TEST_F(ListTest, LeavingTheListForgetsNotThatItHeldValues) {
+    // Its own Esc, blank and Backspace clear no more than the list: the next pick counts from one character
+    // further left, as for a value.
+    for (const Qt::Key key : {Qt::Key_Escape, Qt::Key_Space, Qt::Key_Backspace}) {
+        frame.SetText(QString());
+        frame.Type("<img ali\r");
+        frame.Pause();
+        frame.Key(Qt::Key_Down);
+        ASSERT_EQ(QApplication::focusWidget(), frame.ListView1());
+        frame.Key(key);
+        EXPECT_EQ(frame.List(), nullptr);
+        EXPECT_TRUE(frame.Lists().ValueList());
+        EXPECT_EQ(frame.Marked(), QStringLiteral("<img ALIGN=\"|\""));
+        frame.Key(Qt::Key_End);
+        frame.Type(" h\r");
+        EXPECT_EQ(frame.Box().Text(), QStringLiteral("<img ALIGN=\"\"HEIGHT=\"\"h"));
+        EXPECT_FALSE(frame.Lists().ValueList());
+    }
+}
+
+TEST_F(ListTest, ACancelledColourTakenFromTheListWritesNothing) {
+    int asked = 0;
+    frame.State<AutoFillHooks>().PickColorHex = [&asked](QWidget*) {
+        ++asked;
+        return QString();
+    };
+    frame.Type("<font col\r");
+    frame.Pause();
+    frame.Key(Qt::Key_Down);
+    ASSERT_EQ(QApplication::focusWidget(), frame.ListView1());
+    frame.Type("\r");
+    EXPECT_EQ(asked, 1);
+    EXPECT_EQ(frame.Marked(), QStringLiteral("<font COLOR=\"|\""))
+        << "that Enter was the list's, no key of the text";
+    EXPECT_EQ(frame.List(), nullptr);
+    EXPECT_EQ(QApplication::focusWidget(), &frame.Box());
+}
+
+TEST_F(ListTest, RowsShowTheirSmallPictures) {
+    frame.Type("<font col\r");
+    const QListWidget& list = *frame.ListView1();
+    for (int row = 0; row < list.count(); ++row) {
+        const AutoFillRow expected = ListColorValues().at(row);
+        const QImage image = list.item(row)->icon().pixmap(16).toImage();
+        EXPECT_EQ(image.pixelColor(8, 8), SwatchColor(expected.SmallIcon)) << expected.Text.toStdString();
+    }
+}
+
+TEST_F(ListTest, MarksAreDrawnInTheTextsColour) {
+    // On a dark palette they must be light, and on the selected row as its text is.
+    const QPalette before = QGuiApplication::palette();
+    QPalette palette;
+    palette.setColor(QPalette::Text, Qt::yellow);
+    palette.setColor(QPalette::HighlightedText, Qt::magenta);
+    QApplication::setPalette(palette);
+    for (const int index : {1, 3, 4}) {
+        for (const auto& [mode, color] :
+             {std::pair{QIcon::Normal, QColor(Qt::yellow)}, {QIcon::Selected, QColor(Qt::magenta)}}) {
+            const QImage image = ImageList1(index).pixmap(QSize(64, 64), 1, mode).toImage();
+            int drawn = 0, right = 0;
+            for (int y = 0; y < image.height(); ++y) {
+                for (int x = 0; x < image.width(); ++x) {
+                    const QColor pixel = image.pixelColor(x, y);
+                    drawn += pixel.alpha() == 255;
+                    right += pixel.alpha() == 255 && pixel == color;
+                }
+            }
+            EXPECT_GT(drawn, 50) << index;
+            EXPECT_EQ(right, drawn) << index;
+        }
+    }
+    QApplication::setPalette(before);
+}
+
 TEST_F(ListTest, UnloadingByNameClearsTheFlag) {
     frame.Type("<img ");
     EXPECT_TRUE(frame.Flags().DropDownOpen);
@@ -175,6 +252,11 @@ TEST_F(ListTest, IsReadable) {
     EXPECT_EQ(list->role(), QAccessible::List);
     EXPECT_EQ(list->childCount(), 18);
     EXPECT_EQ(list->child(1)->text(QAccessible::Name), QStringLiteral("WIDTH"));
+    EXPECT_TRUE(list->child(0)->state().selected);
+    frame.Type("w");
+    EXPECT_FALSE(list->child(0)->state().selected);
+    EXPECT_TRUE(list->child(1)->state().selected);
+    frame.Type("\b");
     frame.Type("ali\r");
     frame.Pause();
     EXPECT_EQ(frame.ListView1()->accessibleName(), QStringLiteral("Values"));
