@@ -3,13 +3,13 @@
 
 #include "platform/Path.h"
 #include "platform/ProgramFolder.h"
+#include "platform/SettingsFile.h"
 #include "platform/Values.h"
 
 #include <algorithm>
 #include <cmath>
 #include <limits>
 #include <QFile>
-#include <QSettings>
 #include <QStringList>
 
 namespace {
@@ -40,12 +40,12 @@ Settings::~Settings() {
     Sync();
 }
 
-QSettings& Settings::Store(const QString& application) const {
+SettingsFile& Settings::Store(const QString& application) const {
     auto& store = stores_[application];
     if (!store) {
         const QString path = Path::Join(SettingsFolder(), application + QStringLiteral(".ini"));
         KeepPrivate(path);
-        store = std::make_shared<QSettings>(path, QSettings::IniFormat);
+        store = std::make_shared<SettingsFile>(path);
     }
     return *store;
 }
@@ -90,8 +90,8 @@ void Settings::WriteNumber(const SettingsKey& key, double number) {
 bool Settings::Sync() {
     bool written = true;
     for (const auto& store : std::as_const(stores_)) {
-        store->sync();
-        written = written && store->status() != QSettings::AccessError;
+        const bool brought = store->Bring();
+        written = written && brought;
     }
     return written;
 }

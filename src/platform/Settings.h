@@ -3,15 +3,15 @@
 
 #include "platform/SettingsKeys.h"
 
+#include <memory>
 #include <QHash>
 #include <QString>
-#include <memory>
 
-class QSettings;
+class SettingsFile;
 
-/// Reads at the moment of use, writes through. One INI file per application name in SettingsFolder(), mode 0600.
-/// Reading an absent key, or one of a file that can't be read or parsed, gives its default. A write that fails
-/// (full disk, read-only folder) is dropped silently; the old file stays whole.
+/// Reads at the moment of use, writes through. One INI file per application name in SettingsFolder(), mode
+/// 0600. Reading an absent key, or one of a file that can't be read or parsed, gives its default. A write
+/// that fails (full disk, read-only folder) is dropped silently; the old file stays whole.
 class Settings {
   public:
     Settings();
@@ -29,12 +29,12 @@ class Settings {
     void WriteFlag(const SettingsKey& key, bool on);
     void WriteNumber(const SettingsKey& key, double number);
 
-    /// Brings what was written to the disk now; false where that failed. Runs by itself at the end of the event
-    /// and on destruction.
+    /// Brings what was written to the disk now; false where that failed. Runs by itself at the end of the
+    /// event and on destruction.
     bool Sync();
 
   private:
-    QSettings& Store(const QString& application) const;
+    SettingsFile& Store(const QString& application) const;
 
-    mutable QHash<QString, std::shared_ptr<QSettings>> stores_;
+    mutable QHash<QString, std::shared_ptr<SettingsFile>> stores_;
 };

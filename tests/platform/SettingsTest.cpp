@@ -5,12 +5,14 @@
 #include "support/FreshUser.h"
 #include "support/Text.h"
 
+#include <csignal>
 #include <gtest/gtest.h>
 #include <QCoreApplication>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QTemporaryDir>
+#include <sys/resource.h>
 #include <sys/stat.h>
 #include <sys/wait.h>
 #include <unistd.h>
@@ -370,6 +372,55 @@ TEST_F(SettingsTest, FailedWriteLeavesTheOldFileWhole) {
     ASSERT_TRUE(QDir().rename(aside, folder));
     EXPECT_EQ(Content(), before);
     EXPECT_EQ(Stored(Keys::EditorFont), QStringLiteral("Courier"));
+}
+
+/// No file can grow beyond this while it lives: for a larger one that is a disk without room.
+class FullDisk {
+  public:
+    explicit FullDisk(rlim_t room) : signal_(std::signal(SIGXFSZ, SIG_IGN)) {
+        getrlimit(RLIMIT_FSIZE, &before_);
+        rlimit limit = before_;
+        limit.rlim_cur = room;
+        setrlimit(RLIMIT_FSIZE, &limit);
+    }
+    ~FullDisk() {
+        setrlimit(RLIMIT_FSIZE, &before_);
+        std::signal(SIGXFSZ, signal_);
+    }
+
+  private:
+    void (*signal_)(int);
+    rlimit before_ = {};
+};
+
+TEST_F(SettingsTest, FullDiskLeavesTheOldFileWhole) {
+    for (const int length : {100, 5000, 60000}) {
+        FreshUser();
+        {
+            Settings settings;
+            settings.Write(Keys::UserTemplate, QString(length, u'x'));
+            settings.Write(Keys::Web, QStringLiteral("/usr/bin/web"));
+        }
+        const QByteArray before = Content();
+        // The new file ends within its last value, within a long one, at its beginning.
+        for (const qsizetype room : {before.size() + 3, before.size() / 2, qsizetype(1)}) {
+            {
+                const FullDisk disk(static_cast<rlim_t>(room));
+                Settings settings;
+                settings.Write(Keys::FTP, QString(200, u'y'));
+                EXPECT_FALSE(settings.Sync()) << length << ' ' << room;
+                settings.Write(Keys::FTP, QString(300, u'y'));
+                QCoreApplication::processEvents();
+                QCoreApplication::sendPostedEvents();
+            }
+            EXPECT_EQ(Content(), before) << length << ' ' << room;
+            EXPECT_EQ(QDir(SettingsFolder()).entryList(QDir::Files).size(), 1)
+                << "nothing else is left there";
+        }
+        Store(Keys::FTP, QStringLiteral("z"));
+        EXPECT_EQ(Stored(Keys::FTP), QStringLiteral("z")) << "with room again it takes writes again";
+        EXPECT_EQ(Stored(Keys::Web), QStringLiteral("/usr/bin/web"));
+    }
 }
 
 TEST_F(SettingsTest, SymbolicLinkIsFollowed) {
