@@ -177,7 +177,8 @@ void ShowDesign(Frame& frame) {
 void ModeStrip_Click(Frame& frame, const QString& selected) {
     if (!frame.ActiveForm())
         return;
-    // Cleared before the question: opening the file selects "Edit" on the strip, which is a click as well.
+    // Cleared before the question: the answer decides for this visit to the design view, and a further click
+    // is a further question.
     const bool fromDesign = std::exchange(frame.State<EditorState>().ComingFromDesign, false);
     if (selected == editTab && fromDesign && WantsChangesSaved(frame))
         Reopen(frame, &DocumentModes::EditAnsPos);
