@@ -51,6 +51,7 @@ class UserButtonsTest : public testing::Test {
 
 TEST_F(UserButtonsTest, TwoPagesOfFifteenBlankButtons) {
     EXPECT_EQ(strip->objectName(), Text("Picture2"));
+    EXPECT_EQ(strip->accessibleName(), Text("User buttons"));
     ASSERT_EQ(Tabs()->count(), 2);
     EXPECT_EQ(Tabs()->tabText(0), Text("User 1"));
     EXPECT_EQ(Tabs()->tabText(1), Text("User 2"));
