@@ -49,9 +49,8 @@ def test_nonsense_in_the_file_harms_no_page(desk):
     assert desk.setting("Window Options", "FirstTimeAgain") == "2"
 
 
-def test_a_file_of_garbage_is_a_first_run(desk):
-    with open(file_of(desk), "wb") as file:
-        file.write(bytes(range(256)) * 40)
+def starts_as_new(desk):
+    """Starts as for a new user, who is shown the options first, and writes a page."""
     content = b"<P>words</P>"
     path = desk.write("page.htm", content)
     desk.run(path, window="Options")
@@ -59,19 +58,19 @@ def test_a_file_of_garbage_is_a_first_run(desk):
     desk.wait_no_window("Options")
     desk.wait_active("The Tarnwick Pro")
     writes_a_page(desk, path, content)
+
+
+def test_a_file_of_garbage_is_a_first_run(desk):
+    with open(file_of(desk), "wb") as file:
+        file.write(bytes(range(256)) * 40)
+    starts_as_new(desk)
     assert desk.setting("Window Options", "FirstTimeAgain") == "1"
 
 
 def test_a_folder_in_place_of_the_file_is_done_without(desk):
     os.remove(file_of(desk))
     os.makedirs(os.path.join(file_of(desk), "in the way"))
-    content = b"<P>words</P>"
-    path = desk.write("page.htm", content)
-    desk.run(path, window="Options")
-    desk.key("Escape")
-    desk.wait_no_window("Options")
-    desk.wait_active("The Tarnwick Pro")
-    writes_a_page(desk, path, content)
+    starts_as_new(desk)
     assert os.path.isdir(os.path.join(file_of(desk), "in the way"))
 
 
