@@ -136,11 +136,11 @@ void Startup::MoveFrame() {
     // The width alone tells whether a place was stored.
     if (width_ <= 0)
         return;
-    const QSize stored(Twips::ToPixels(width_), Twips::ToPixels(height_));
-    const QSize size = WindowPlace::Possible(stored, Screens()).expandedTo(frame_.minimumSizeHint());
+    const QSize size(Twips::ToPixels(width_), Twips::ToPixels(height_));
     const QPoint corner(Twips::ToPixels(left_), Twips::ToPixels(top_));
     // A place stored with screens that are gone: the window must stay within a person's reach.
-    const QRect place = WindowPlace::Reachable(QRect(corner, size), Screens());
+    const QRect place =
+        WindowPlace::Reachable(QRect(corner, size.expandedTo(frame_.minimumSizeHint())), Screens());
     frame_.move(place.topLeft());
     frame_.resize(place.size());
 }

@@ -15,15 +15,6 @@ bool WithinReach(const QRect& window, const QRect& screen) {
     return grip.height() == gripHeight && grip.width() >= std::min(gripWidth, window.width());
 }
 
-// A window may be larger than the screens that are left; twice as large as all of them together is a size
-// that nobody gave it, and no system can draw what damaged settings may ask for.
-QSize LessThanNonsense(QSize window, const QList<QRect>& screens) {
-    QRect all;
-    for (const QRect& screen : screens)
-        all |= screen;
-    return all.isEmpty() ? window : window.boundedTo(2 * all.size());
-}
-
 } // namespace
 
 QRect WindowPlace::Centred(QSize window, QRect screen) {
@@ -32,7 +23,7 @@ QRect WindowPlace::Centred(QSize window, QRect screen) {
 }
 
 QRect WindowPlace::Reachable(QRect window, const QList<QRect>& screens) {
-    window.setSize(LessThanNonsense(window.size(), screens));
+    window.setSize(Possible(window.size(), screens));
     const auto reaches = [&](const QRect& screen) { return WithinReach(window, screen); };
     if (screens.isEmpty() || std::ranges::any_of(screens, reaches))
         return window;
@@ -49,7 +40,7 @@ QSize WindowPlace::Possible(QSize window, const QList<QRect>& screens) {
     QRect all;
     for (const QRect& screen : screens)
         all |= screen;
-    return screens.isEmpty() ? window : window.boundedTo(all.size() * 2);
+    return all.isEmpty() ? window : window.boundedTo(all.size() * 2);
 }
 
 QList<QRect> WindowPlace::TiledHorizontally(int windows, QSize area) {

@@ -11,9 +11,9 @@ namespace WindowPlace {
 /// whole number.
 QRect Centred(QSize window, QRect screen);
 
-/// The window, moved as little as needed for a person to get hold of its title bar on one of the screens;
-/// where it is already within reach it stays as it is. The first screen takes in a window that is off them
-/// all.
+/// The window in a possible size, moved as little as needed for a person to get hold of its title bar on one
+/// of the screens; where it is already within reach it stays as it is. The first screen takes in a window
+/// that is off them all.
 QRect Reachable(QRect window, const QList<QRect>& screens);
 
 /// The size, cut to what a person could have given a window: twice all the screens together. Beyond it lies
