@@ -1,6 +1,9 @@
 // A page's source text, and how a page edited as it looks becomes source again.
 #include "web/PageSource.h"
 
+#include "web/BodyEnd.h"
+#include "web/PageBlank.h"
+
 #include <QRegularExpression>
 #include <QSet>
 
@@ -37,7 +40,7 @@ class HeadScan {
   private:
     /// False at the end, and at text that is no tag.
     bool SkipBlanks() {
-        while (at_ < text_.size() && text_[at_].isSpace())
+        while (at_ < text_.size() && IsPageBlank(text_[at_]))
             ++at_;
         return at_ < text_.size() && text_[at_] == u'<';
     }
@@ -93,6 +96,26 @@ class HeadScan {
     qsizetype at_ = 0;
 };
 
+/// The position behind all comments, declarations and blanks that a text begins with.
+qsizetype HtmlBegin(QStringView text) {
+    const qsizetype lastClose = text.lastIndexOf(u"-->");
+    qsizetype at = 0;
+    while (at < text.size()) {
+        const QStringView rest = text.sliced(at);
+        qsizetype last = 0;
+        if (rest.startsWith(u"<!--") && lastClose >= at + 4)
+            last = rest.indexOf(u"-->", 4) + 2;
+        else if (rest.startsWith(u"<!") || rest.startsWith(u"<?"))
+            last = rest.indexOf(u'>');
+        else if (!IsPageBlank(rest.front()))
+            last = -1;
+        if (last < 0)
+            return at;
+        at += last + 1;
+    }
+    return at;
+}
+
 /// The line end of the first line; CR LF in a text of one line.
 QString LineEndOf(const QString& text) {
     static const QRegularExpression lineEnd(QStringLiteral("\r\n|\r|\n"));
@@ -115,13 +138,7 @@ void PageSource::FindBody() {
     bodyBegin_ = HeadScan(text_).BodyBegin();
     if (bodyBegin_ < 0)
         return;
-    // The first end tag that nothing but comments and blanks come behind: engines count what else comes there
-    // to the body's content.
-    static const QRegularExpression end(
-        QStringLiteral("</body\\s*+>(?:\\s++|<!--.*?-->)*+(?:</html\\s*+>(?:\\s++|<!--.*?-->)*+)?+\\z"),
-        QRegularExpression::CaseInsensitiveOption | QRegularExpression::DotMatchesEverythingOption);
-    const auto found = end.match(text_, bodyBegin_);
-    bodyEnd_ = found.hasMatch() ? found.capturedStart() : text_.size();
+    bodyEnd_ = ::BodyEnd(text_, bodyBegin_);
 }
 
 QString PageSource::OwnLineEnds(QString text) const {
@@ -135,8 +152,6 @@ QByteArray PageSource::WithBody(const QString& body) const {
 }
 
 QByteArray PageSource::WithDocument(const QString& html) const {
-    static const QRegularExpression beforeHtml(QStringLiteral("\\A(?:\\s+|<!--.*?-->|<[!?][^>]*>)*+"),
-                                               QRegularExpression::DotMatchesEverythingOption);
-    const QString kept = beforeHtml.match(text_).captured();
+    const QString kept = text_.first(HtmlBegin(text_));
     return encoding_.Encode(kept + OwnLineEnds(html + u'\n'));
 }

@@ -72,11 +72,24 @@ TEST(PageSource, KeepsWhatStandsAroundTheBody) {
          "<body>new</body>\r\n</html>\r\n<!-- mine -->\r\n"},
         {"<body>old</body><!-- </body>\n --> </html>", "<body>new</body><!-- </body>\n --> </html>"},
         {"<body>a</body><!-- x -->b</body></html>", "<body>new</body></html>"},
+        {"<body>a</BODY\t>\n</HTML >\n", "<body>new</BODY\t>\n</HTML >\n"},
+        {"<body>a</html></body>", "<body>new</body>"},
+        {"<body>a</body></html></html>", "<body>new"},
+        {"<body>a</body></html></body>", "<body>new</body>"},
+        {"<body>a</body", "<body>new"},
+        {"<body>a</body><!-- open", "<body>new"},
+        {"<body>a</body><!-->", "<body>new"},
+        {"<body>a</body><!-->-->", "<body>new</body><!-->-->"},
+        {"<body>a<!-- </body> -->", "<body>new"},
+        {"<body>a<!-- </body> --></body>", "<body>new</body>"},
+        {"<body>a<!-- </body><!-- -->", "<body>new</body><!-- -->"},
         {"<head><noscript><link href=a.css></noscript></head><body>old",
          "<head><noscript><link href=a.css></noscript></head><body>new"},
         {"<p>old</p>", nullptr},
         {"<p>first<body>old</body>", nullptr},
         {"text<body>old</body>", nullptr},
+        {"\xA0<body>old</body>", nullptr},
+        {"<body>old</body>\xA0", "<body>new"},
         {"<frameset><frame></frameset>", nullptr},
         {"<script>open <body>", nullptr},
         {"<!-- open <body>", nullptr},
@@ -90,6 +103,25 @@ TEST(PageSource, KeepsWhatStandsAroundTheBody) {
             EXPECT_EQ(source.WithBody(QStringLiteral("new")), QByteArray(row.edited)) << row.source;
         }
     }
+}
+
+/// A megabyte of one text, behind a beginning.
+QByteArray Megabyte(const QByteArray& beginning, const QByteArray& text) {
+    constexpr qsizetype size = 1 << 20;
+    return beginning + text.repeated(size / text.size());
+}
+
+TEST(PageSource, IsReadOnceHoweverManyCommentsStayOpen) {
+    const QByteArray head = "<html><body>old";
+    for (const char* text : {"</body><!--", "</body><!-- --><!--</body><!-- -->", "</body><!-- a></html>"}) {
+        const PageSource open(Megabyte(head, text) + "x");
+        EXPECT_EQ(open.WithBody(QStringLiteral("new")), QByteArray("<html><body>new")) << text;
+    }
+    const PageSource closed(Megabyte(head, "</body><!--") + "-->");
+    EXPECT_EQ(closed.BodyEnd(), head.size());
+    const QByteArray openComments = Megabyte({}, "<!-- a>");
+    EXPECT_EQ(PageSource(openComments + "<p>old").WithDocument(QStringLiteral("<html>")),
+              openComments + "<html>\r\n");
 }
 
 TEST(PageSource, LineEndsAreTheFilesOwn) {
@@ -110,6 +142,7 @@ TEST(PageSource, AWholeDocumentKeepsWhatStoodBeforeItsTag) {
          "<!DOCTYPE HTML PUBLIC \"-//W3C//DTD HTML 4.01//EN\"\r\n \"x.dtd\">\r\n<!-- mine -->\r\n"
          "<html><head></head><body>\r\nnew</body></html>\r\n"},
         {"<p>old", "<html><head></head><body>\r\nnew</body></html>\r\n"},
+        {"\n\xA0<p>old", "\n<html><head></head><body>\nnew</body></html>\n"},
         {"\xEF\xBB\xBF<p>old", "\xEF\xBB\xBF<html><head></head><body>\r\nnew</body></html>\r\n"},
     };
     for (const auto& [source, whole] : rows)
