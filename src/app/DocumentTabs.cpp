@@ -19,18 +19,20 @@ DocumentTabs::DocumentTabs(QWidget* parent) : QTabBar(parent) {
 }
 
 void DocumentTabs::Add(const QString& path, const QString& caption) {
-    if (IndexOf(path) >= 0)
-        return;
     const QSignalBlocker quiet(this);
-    QString shown = caption;
-    const int index = addTab(shown.replace(u'&', QStringLiteral("&&")));
-    setTabData(index, path);
-    setTabToolTip(index, path);
+    if (IndexOf(path, Key) < 0) {
+        QString shown = caption;
+        const int index = addTab(shown.replace(u'&', QStringLiteral("&&")));
+        setTabData(index, QStringList{path, path});
+        setTabToolTip(index, path);
+    }
+    const int last = count() - 1;
+    setTabData(last, QStringList{DataOf(last, Key), path});
 }
 
 void DocumentTabs::Remove(const QString& path) {
     const QSignalBlocker quiet(this);
-    if (const int index = IndexOf(path); index >= 0)
+    if (const int index = IndexOf(path, Key); index >= 0)
         removeTab(index);
 }
 
@@ -42,13 +44,13 @@ void DocumentTabs::RemoveAll() {
 
 void DocumentTabs::Select(const QString& path) {
     const QSignalBlocker quiet(this);
-    if (const int index = IndexOf(path); index >= 0)
+    if (const int index = IndexOf(path, TagOfTab); index >= 0)
         setCurrentIndex(index);
 }
 
-int DocumentTabs::IndexOf(const QString& path) const {
+int DocumentTabs::IndexOf(const QString& path, Data which) const {
     for (int index = 0; index < count(); ++index)
-        if (Tag(index) == path)
+        if (DataOf(index, which) == path)
             return index;
     return -1;
 }

@@ -3,16 +3,18 @@
 
 #include <QTabBar>
 
-/// TabStrip2. A tab's key and Tag are the full path of a file, its caption is the bare name. Only what a
-/// person does with mouse or keyboard is a click; tabs that the program adds, takes away or selects make
-/// none.
+/// TabStrip2. A tab is known by its key, the full path of its file; its caption is the bare name. Its Tag is
+/// the path of the window that a click on it brings up: the key, but for what Add tells. Only what a person
+/// does with mouse or keyboard is a click; tabs that the program adds, takes away or selects make none.
 class DocumentTabs final : public QTabBar {
     Q_OBJECT
 
   public:
     explicit DocumentTabs(QWidget* parent = nullptr);
 
-    /// Adds a tab at the end. A key stands once: a path that has a tab keeps the one it has.
+    /// Adds a tab at the end; the last tab's Tag is then the path. A key stands once: a path that has a tab
+    /// keeps the one it has, and still becomes the Tag of the last one, whosever that is. So it goes where a
+    /// document is saved as a file that is open in another window.
     void Add(const QString& path, const QString& caption);
     /// Takes away the tab of that key, if there is one.
     void Remove(const QString& path);
@@ -20,12 +22,16 @@ class DocumentTabs final : public QTabBar {
     /// Selects the first tab whose Tag is the path, if there is one.
     void Select(const QString& path);
     /// The Tag of a tab, counted from 0; empty where there is none.
-    QString Tag(int index) const { return tabData(index).toString(); }
+    QString Tag(int index) const { return DataOf(index, TagOfTab); }
 
   Q_SIGNALS:
     /// A person selected a tab, or pressed the one that was selected already.
     void Click(int index);
 
   private:
-    int IndexOf(const QString& path) const;
+    /// What the strip keeps beside what it shows.
+    enum Data { Key, TagOfTab };
+    QString DataOf(int index, Data which) const { return tabData(index).toStringList().value(which); }
+    /// The first tab whose data hold the path; -1 where there is none.
+    int IndexOf(const QString& path, Data which) const;
 };

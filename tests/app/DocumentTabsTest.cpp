@@ -28,6 +28,7 @@ TEST_F(DocumentTabsTest, TabHasPathForTagAndBareNameForCaption) {
     // Doubled, the ampersand is shown; single, it would underline the blank.
     EXPECT_EQ(tabs.tabText(1), QStringLiteral("b && c.htm"));
     EXPECT_EQ(tabs.Tag(7), QString());
+    EXPECT_EQ(tabs.tabToolTip(1), QStringLiteral("/s/b & c.htm"));
 }
 
 TEST_F(DocumentTabsTest, KeyStandsOnce) {
@@ -36,6 +37,22 @@ TEST_F(DocumentTabsTest, KeyStandsOnce) {
     EXPECT_EQ(tabs.tabText(0), QStringLiteral("a.htm"));
     tabs.Add(QStringLiteral("/s/A.htm"), QStringLiteral("A.htm"));
     EXPECT_EQ(tabs.count(), 3);
+}
+
+TEST_F(DocumentTabsTest, KeyThatIsThereAlreadyBecomesTheTagOfTheLastTab) {
+    tabs.Add(QStringLiteral("/s/a.htm"), QStringLiteral("a.htm"));
+    EXPECT_EQ(tabs.Tag(0), QStringLiteral("/s/a.htm"));
+    EXPECT_EQ(tabs.Tag(1), QStringLiteral("/s/a.htm"));
+    EXPECT_EQ(tabs.tabText(1), QStringLiteral("b && c.htm"));
+    // Selecting goes by the Tag, taking away by the key.
+    tabs.Select(QStringLiteral("/s/b & c.htm"));
+    EXPECT_EQ(tabs.currentIndex(), 0);
+    tabs.setCurrentIndex(1);
+    tabs.Select(QStringLiteral("/s/a.htm"));
+    EXPECT_EQ(tabs.currentIndex(), 0);
+    tabs.Remove(QStringLiteral("/s/b & c.htm"));
+    ASSERT_EQ(tabs.count(), 1);
+    EXPECT_EQ(tabs.tabText(0), QStringLiteral("a.htm"));
 }
 
 TEST_F(DocumentTabsTest, UnknownKeyChangesNothing) {

@@ -49,6 +49,8 @@ class Tarnwick : public FrameTest {
         for (const QString& path : paths)
             urls << QUrl::fromLocalFile(path);
         data.setUrls(urls);
+        // File managers send the paths as words too.
+        data.setText(paths.join(u'\n'));
         Drop(target, data);
     }
     QStringList OpenCaptions() {
@@ -74,6 +76,7 @@ TEST_F(Tarnwick, ActivationGivesTheTextTheFocus) {
              [&] { Q_EMIT qApp->applicationStateChanged(Qt::ApplicationActive); },
              [&] { QTest::mousePress(&Window(), Qt::LeftButton); },
              [&] { QTest::mousePress(&Inside(), Qt::LeftButton, {}, Inside().rect().bottomRight()); },
+             [&] { QTest::mousePress(&Inside(), Qt::RightButton, {}, Inside().rect().bottomRight()); },
          }) {
         strip.setFocus();
         EXPECT_NE(Window().focusWidget(), &document.txtInput());
@@ -102,8 +105,9 @@ TEST_F(Tarnwick, RightButtonOnTheEmptyAreaDropsTheFileMenu) {
     EXPECT_FALSE(mnuFile.isVisible());
     QTest::mouseRelease(&Inside(), Qt::LeftButton);
     EXPECT_FALSE(mnuFile.isVisible());
-    QTest::mouseRelease(&Inside(), Qt::RightButton);
+    QTest::mouseRelease(&Inside(), Qt::RightButton, {}, QPoint(7, 9));
     EXPECT_TRUE(mnuFile.isVisible());
+    EXPECT_EQ(mnuFile.pos(), Inside().mapToGlobal(QPoint(7, 9)));
     mnuFile.hide();
 }
 
@@ -152,6 +156,11 @@ TEST_F(Tarnwick, ClickOnADocumentTabGivesItsWindowTheFocus) {
     run->New();
     click(1);
     EXPECT_EQ(run->Active().Caption(), second);
+    run->Active().showMinimized();
+    run->New();
+    click(1);
+    EXPECT_EQ(run->Active().Caption(), second);
+    EXPECT_FALSE(run->Active().isMinimized()) << "it can be read again";
 }
 
 TEST_F(Tarnwick, TabStripShowsTheDocumentThatHasTheFocus) {
@@ -181,6 +190,33 @@ TEST_F(Tarnwick, ClickOnADocumentTabTakesTheFirstFormOfThatCaption) {
     EXPECT_EQ(QApplication::activeWindow(), &dialog);
     EXPECT_EQ(run->Active().Caption(), QString());
     Window().LoadedForms().Unload(QStringLiteral("frmAny"));
+}
+
+TEST_F(Tarnwick, SaveAsAFileThatIsOpenElsewhereTurnsTheLastTabToThatFile) {
+    const QString first = MakeFile(QStringLiteral("a.htm"), "a");
+    const QString second = MakeFile(QStringLiteral("b.htm"), "b");
+    const QString third = MakeFile(QStringLiteral("c.htm"), "c");
+    for (const QString& path : {first, second, third})
+        Window().OpenDocumentFile(path);
+    frmTemplate& saved = run->Active();
+    run->prompts.saveAnswers = {ScriptedPrompts::Picked(first)};
+    run->Entry("mnuSaveAs").trigger();
+    EXPECT_EQ(run->prompts.asked.size(), 1) << "no word about the other window";
+    EXPECT_EQ(OpenCaptions(), QStringList({first, second, first}));
+    DocumentTabs& tabs = Window().TabStrip2();
+    ASSERT_EQ(tabs.count(), 2);
+    EXPECT_EQ(tabs.tabText(1), QStringLiteral("b.htm"));
+    EXPECT_EQ(tabs.Tag(1), first);
+    // The click finds the window that was opened first.
+    QTest::mouseClick(&tabs, Qt::LeftButton, {}, tabs.tabRect(1).center());
+    EXPECT_EQ(run->Active().Caption(), first);
+    EXPECT_NE(&run->Active(), &saved);
+    // Keys stay: the document behind the last tab takes its own tab along.
+    for (QMdiSubWindow* window : Window().Area().subWindowList())
+        if (auto* document = dynamic_cast<frmTemplate*>(window); document->Caption() == second)
+            document->Unload();
+    ASSERT_EQ(tabs.count(), 1);
+    EXPECT_EQ(tabs.tabText(0), QStringLiteral("a.htm"));
 }
 
 TEST_F(Tarnwick, StatusPanelThreeIsTheProgramsOwn) {
@@ -302,6 +338,17 @@ TEST_F(Tarnwick, ComesToFrontOutOfTheMinimisedState) {
     Window().showMinimized();
     Window().ComeToFront();
     EXPECT_TRUE(Window().isMaximized());
+}
+
+TEST_F(Tarnwick, ComesToFrontOfAnotherWindow) {
+    QWidget other;
+    other.show();
+    other.activateWindow();
+    QCoreApplication::processEvents();
+    ASSERT_EQ(QApplication::activeWindow(), &other);
+    Window().ComeToFront();
+    QCoreApplication::processEvents();
+    EXPECT_EQ(QApplication::activeWindow(), &Window());
 }
 
 TEST_F(Tarnwick, DropsAreTakenFromTheLoadToTheUnload) {
