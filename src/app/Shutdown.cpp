@@ -54,7 +54,8 @@ std::span<const Shutdown::Step> Shutdown::Steps() {
 }
 
 bool Shutdown::Run() {
-    if (!QueryUnload() || !UnloadDocuments())
+    UnloadForms();
+    if (!UnloadDocuments())
         return false;
     for (const Step& step : Steps()) {
         Watch(step.name);
@@ -64,15 +65,14 @@ bool Shutdown::Run() {
     return true;
 }
 
-bool Shutdown::QueryUnload() {
+void Shutdown::UnloadForms() {
     for (const char* form : UnloadedForms()) {
         Watch(form);
         frame_.LoadedForms().Unload(QString::fromLatin1(form));
     }
-    Document* document = frame_.ActiveForm();
-    return !document || document->Unload();
 }
 
+// The active one first; each that goes leaves the next one active.
 bool Shutdown::UnloadDocuments() {
     while (Document* document = frame_.ActiveForm())
         if (!document->Unload())

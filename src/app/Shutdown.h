@@ -32,7 +32,7 @@ class Shutdown {
     std::function<void(const char*)> watch;
 
   private:
-    bool QueryUnload();
+    void UnloadForms();
     bool UnloadDocuments();
     void UnhookWindow();
     void KeepWindowState();

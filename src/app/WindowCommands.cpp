@@ -18,26 +18,21 @@ namespace {
 QList<QMdiSubWindow*> Windows(const QMdiArea& area, bool minimised) {
     QList<QMdiSubWindow*> windows;
     for (QMdiSubWindow* window : area.subWindowList())
-        if (window->isVisible() && window->isMinimized() == minimised)
+        if (window->isMinimized() == minimised)
             windows << window;
     return windows;
 }
 
-// Arranged windows stand side by side: one that fills the area goes back to its normal size first.
-void Restore(const QList<QMdiSubWindow*>& windows) {
-    for (QMdiSubWindow* window : windows)
-        if (window->isMaximized())
-            window->showNormal();
-}
-
 void mnuCascade_Click(QMdiArea& area) {
-    Restore(Windows(area, false));
     area.cascadeSubWindows();
 }
 
 void mnuTile_Click(QMdiArea& area) {
     const QList<QMdiSubWindow*> windows = Windows(area, false);
-    Restore(windows);
+    // They stand side by side: one that fills the area goes back to its normal size first.
+    for (QMdiSubWindow* window : windows)
+        if (window->isMaximized())
+            window->showNormal();
     const QList<QRect> places =
         WindowPlace::TiledHorizontally(static_cast<int>(windows.size()), area.viewport()->size());
     for (qsizetype n = 0; n < windows.size(); ++n)

@@ -71,7 +71,6 @@ frmTemplate::frmTemplate(Frame& frame)
 frmTemplate::~frmTemplate() = default;
 
 void frmTemplate::Form_Load() {
-    SetModified(false);
     auto& editor = frame_.State<EditorState>();
     editor.DropDownOpen = false;
     QString nothing;
