@@ -8,6 +8,7 @@
 #include <QDialog>
 #include <QDir>
 #include <QLabel>
+#include <QMenu>
 #include <QTest>
 
 using namespace std::chrono_literals;
@@ -17,6 +18,8 @@ namespace {
 class AwaitedFiles : public testing::Test {
   protected:
     qsizetype Waiting() { return frame.window->findChildren<AwaitedFile*>().size(); }
+    /// The pause before the second try is longer.
+    bool FirstTryIsOver() { return frame.window->findChild<AwaitedFile*>()->Pause() > 100ms; }
     static QString WaitingFor(const QString& path) { return QStringLiteral("Waiting for ") + path; }
     /// Lets the event loop run until the condition holds; fails the test when it never does.
     template <typename Condition> static void Until(Condition condition) {
@@ -115,6 +118,25 @@ TEST_F(AwaitedFiles, NamesThePathAgainWhileItsWindowIsTheActiveOne) {
     Until([&] { return frame.statuses.last() == WaitingFor(path); });
 }
 
+TEST_F(AwaitedFiles, NamesNoPathWhileAnotherWindowIsTheActiveOne) {
+    TestDocument* other = frame.active;
+    OpenDocumentFile(frame, path);
+    frame.ActivateDocument(*other);
+    frame.statuses.clear();
+    Until([&] { return FirstTryIsOver(); });
+    EXPECT_TRUE(frame.statuses.isEmpty());
+}
+
+TEST_F(AwaitedFiles, AWindowThatIsOnItsWayOutTakesNothingIn) {
+    OpenDocumentFile(frame, path);
+    FilesFrame::Make(QStringLiteral("late.htm"), "x");
+    // As a closed one stands until the event loop lets it go.
+    frame.active->hide();
+    Until([&] { return Waiting() == 0; });
+    EXPECT_EQ(frame.Box().Text(), QString());
+    EXPECT_TRUE(frame.tabs.isEmpty());
+}
+
 TEST_F(AwaitedFiles, WhatWasTypedMeanwhileStillCountsAsChanged) {
     OpenDocumentFile(frame, path);
     frame.Box().SetSelText(QStringLiteral("typed"));
@@ -153,10 +175,21 @@ TEST_F(AwaitedFiles, WaitsUntilAQuestionIsAnswered) {
     QDialog question(frame.Window());
     question.setModal(true);
     question.show();
-    // The first try, with the question up, is over once the pause before the second is on.
-    Until([&] { return frame.window->findChild<AwaitedFile*>()->Pause() > 100ms; });
+    Until([&] { return FirstTryIsOver(); });
     EXPECT_EQ(frame.active->Caption(), QString());
     question.close();
+    Until([&] { return frame.active->Caption() == path; });
+}
+
+TEST_F(AwaitedFiles, WaitsUntilAMenuIsClosed) {
+    OpenDocumentFile(frame, path);
+    FilesFrame::Make(QStringLiteral("late.htm"), "x");
+    QMenu menu(frame.Window());
+    menu.addAction(QStringLiteral("Any"));
+    menu.popup(QPoint(0, 0));
+    Until([&] { return FirstTryIsOver(); });
+    EXPECT_EQ(frame.active->Caption(), QString());
+    menu.close();
     Until([&] { return frame.active->Caption() == path; });
 }
 
@@ -176,12 +209,14 @@ TEST_F(AwaitedFileInTheFrame, ComesInWhileTheUserWorksElsewhere) {
     EXPECT_EQ(waiting.Caption(), QString());
     frmTemplate& working = run.New();
     working.txtInput().SetSelText(QStringLiteral("work"));
+    run.frame->TabStrip2().setFocus();
     FilesFrame::Make(QStringLiteral("late.htm"), "x<B>");
     EXPECT_TRUE(QTest::qWaitFor([&] { return waiting.Caption() == path; }, 20'000));
     EXPECT_EQ(waiting.txtInput().Text(), QStringLiteral("x<B>"));
     EXPECT_FALSE(waiting.Modified());
     EXPECT_EQ(working.txtInput().Text(), QStringLiteral("work"));
     EXPECT_EQ(&run.Active(), &working);
+    EXPECT_EQ(run.frame->focusWidget(), &run.frame->TabStrip2());
     EXPECT_EQ(run.Find<DocumentTabs>("TabStrip2").count(), 1);
     working.SetModified(false);
     EXPECT_TRUE(run.Stop());

@@ -101,10 +101,24 @@ TEST_F(EditCommands, DeleteEmptiesTheSelection) {
     run.Entry("mEdit_5").setEnabled(true);
     run.Entry("mEdit_5").trigger();
     EXPECT_EQ(box.Text(), QStringLiteral("two"));
+    EXPECT_EQ(Clip(), QString()) << "what is deleted is not cut";
+}
+
+TEST_F(EditCommands, DeleteAndSelectAllAskNotWhichControlIsActive) {
+    RichTextBox& box = Text(QStringLiteral("one two"));
+    box.SetSelLength(4);
+    FocusElsewhere();
+    mEdit_Click(*run.frame, 5);
+    EXPECT_EQ(box.Text(), QStringLiteral("two"));
+    run.Entry("mnuSelectAll").trigger();
+    EXPECT_EQ(box.SelText(), QStringLiteral("two"));
+    EXPECT_EQ(run.prompts.beeps, 0);
 }
 
 TEST_F(EditCommands, SelectAllSelectsTheText) {
     RichTextBox& box = Text(QStringLiteral("one\r\ntwo"));
+    box.SetSelStart(2);
+    box.SetSelLength(3);
     run.Entry("mnuSelectAll").trigger();
     EXPECT_EQ(box.SelStart(), 0);
     EXPECT_EQ(box.SelLength(), 8);

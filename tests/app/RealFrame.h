@@ -43,11 +43,7 @@ class ProgramRun {
         return true;
     }
     /// True if the frame went.
-    bool Stop() {
-        const bool stopped = frame->close();
-        store.Sync();
-        return stopped;
-    }
+    bool Stop() { return frame->close(); }
 
     frmTemplate& New() {
         frame->NewDocument();
@@ -75,7 +71,7 @@ class FrameTest : public testing::Test {
         FreshUser();
         Write(Keys::FirstTimeAgain, "1");
     }
-    static void Write(const SettingsKey& key, const char* text) {
+    static void Write(const SettingsKey& key, const QByteArray& text) {
         Settings().Write(key, QString::fromLatin1(text));
     }
     static QString Read(const SettingsKey& key) { return Settings().Read(key); }

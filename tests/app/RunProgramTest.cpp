@@ -2,6 +2,7 @@
 // can't be had.
 #include "app/RunProgram.h"
 
+#include "app/DocumentTabs.h"
 #include "app/frmSplash.h"
 #include "app/RealFrame.h"
 #include "app/SingleInstance.h"
@@ -19,18 +20,23 @@
 
 namespace {
 
-/// Notes the start screens that come to sight, and whether one was painted before the first document came.
+/// Notes the start screens that come to sight, whether they leave the focus where it is, and whether one was
+/// painted before the first document came.
 class SplashWatch : public QObject {
   public:
     SplashWatch() { qApp->installEventFilter(this); }
     QList<QPointer<QWidget>> seen;
+    bool focusLeft = true;
     bool painted = false;
     bool paintedFirst = false;
 
   protected:
     bool eventFilter(QObject* watched, QEvent* event) override {
-        if (auto* splash = qobject_cast<frmSplash*>(watched); splash && event->type() == QEvent::Show)
+        if (auto* splash = qobject_cast<frmSplash*>(watched); splash && event->type() == QEvent::Show) {
             seen << splash;
+            focusLeft &= splash->testAttribute(Qt::WA_ShowWithoutActivating) &&
+                         splash->windowFlags().testFlag(Qt::WindowDoesNotAcceptFocus);
+        }
         painted |= watched->objectName() == QStringLiteral("frmSplash") && event->type() == QEvent::Paint;
         if (watched->objectName() == QStringLiteral("frmTemplate") && event->type() == QEvent::ShowToParent)
             paintedFirst |= painted;
@@ -130,6 +136,17 @@ TEST_F(Program, StartScreenIsGoneForGoodOnceTheFrameIsUp) {
                   }),
               0);
     EXPECT_EQ(watch.seen.size(), 1);
+    EXPECT_TRUE(watch.focusLeft);
+}
+
+TEST_F(Program, WindowsCarryTheProgramsIcon) {
+    QApplication::setWindowIcon(QIcon());
+    EXPECT_EQ(Run(QString(),
+                  [](frmTarnwick& frame) {
+                      EXPECT_FALSE(frame.windowIcon().isNull());
+                      return true;
+                  }),
+              0);
 }
 
 TEST_F(Program, StartScreenIsPaintedBeforeTheLoad) {
@@ -182,6 +199,20 @@ TEST_F(Program, EndOfTheSessionClosesTheFrameUnlessADialogIsUp) {
               0);
 }
 
+TEST_F(Program, FrameThatIsClosedInItsLoadNeverComesUp) {
+    Write(Keys::FirstTimeAgain, "0");
+    mayDismiss = [] {
+        for (QWidget* window : QApplication::topLevelWidgets())
+            if (qobject_cast<frmTarnwick*>(window))
+                window->close();
+        return true;
+    };
+    bool cameUp = false;
+    EXPECT_EQ(Run(QString(), [&](frmTarnwick&) { return cameUp = true; }), 0);
+    EXPECT_FALSE(cameUp);
+    EXPECT_EQ(Read(Keys::FirstTimeAgain), QStringLiteral("1"));
+}
+
 // Later copies
 
 TEST_F(Program, LaterCopyHandsItsPageOverAndTheFrameComesToFront) {
@@ -215,6 +246,39 @@ TEST_F(Program, LaterCopyThatComesWhileTheFirstRunAsksIsHeardAfterwards) {
         Run(QString(),
             [&](frmTarnwick& frame) { return frame.ActiveForm() && frame.ActiveForm()->Caption() == page; }),
         0);
+}
+
+/// Another copy comes by as soon as a start screen is up.
+class EarlyCopy : public QObject {
+  public:
+    explicit EarlyCopy(const QString& page) : page_(page) { qApp->installEventFilter(this); }
+    bool handedOver = false;
+
+  protected:
+    bool eventFilter(QObject* watched, QEvent* event) override {
+        if (!handedOver && qobject_cast<frmSplash*>(watched) && event->type() == QEvent::Show)
+            handedOver = SingleInstance().HandOver(page_);
+        return false;
+    }
+
+  private:
+    QString page_;
+};
+
+TEST_F(Program, LaterCopyThatComesBeforeTheLoadIsHeardBehindIt) {
+    const QString page = MakeFile(QStringLiteral("late.htm"), "late");
+    EarlyCopy early(page);
+    EXPECT_EQ(Run(QString(),
+                  [&](frmTarnwick& frame) {
+                      if (!frame.ActiveForm())
+                          return false;
+                      // Ahead of the load it would have been counted and put into the tabs in vain.
+                      EXPECT_EQ(frame.State<ProgramState>().DocumentCount, 1);
+                      EXPECT_EQ(frame.TabStrip2().count(), 1);
+                      return true;
+                  }),
+              0);
+    EXPECT_TRUE(early.handedOver);
 }
 
 TEST_F(Program, SecondCopyShowsAndWritesNothing) {

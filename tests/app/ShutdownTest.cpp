@@ -3,6 +3,7 @@
 
 #include "app/DocumentTabs.h"
 #include "app/RealFrame.h"
+#include "app/RecentFiles.h"
 #include "app/UserButtons.h"
 #include "builders/BuilderState.h"
 
@@ -78,6 +79,24 @@ TEST_F(ShutdownOf, EveryFormOfTheListIsUnloaded) {
     EXPECT_NE(forms.Find(QStringLiteral("frmElse")), nullptr);
 }
 
+TEST_F(ShutdownOf, TheImageDialogGoesLastWhereverItCameFrom) {
+    ProgramRun run;
+    ASSERT_TRUE(run.Start());
+    Forms& forms = run.frame->LoadedForms();
+    bool stillThere = false;
+    Shutdown shutdown(*run.frame);
+    shutdown.watch = [&](const char* name) {
+        // Behind the forms' own turn.
+        if (QByteArray(name) == "UnhookWindow")
+            forms.Show<QDialog>(QStringLiteral("frmImage"), run.frame.get());
+        if (QByteArray(name) == "UnloadImageDialog")
+            stillThere = forms.Find(QStringLiteral("frmImage")) != nullptr;
+    };
+    EXPECT_TRUE(shutdown.Run());
+    EXPECT_TRUE(stillThere);
+    EXPECT_EQ(forms.Find(QStringLiteral("frmImage")), nullptr);
+}
+
 TEST_F(ShutdownOf, FirstRunLeavesOneFinishedRun) {
     Write(Keys::FirstTimeAgain, "0");
     {
@@ -123,6 +142,53 @@ TEST_F(ShutdownOf, ValuesGoToTheStore) {
     EXPECT_EQ(Read(Keys::FirstBut(29)), QStringLiteral("<X>"));
     EXPECT_EQ(Read(Keys::SecondBut(29)), QStringLiteral("</X>"));
     EXPECT_EQ(Read(Keys::ButCap(29)), QStringLiteral("X"));
+}
+
+TEST_F(ShutdownOf, EveryPlaceOfAListComesInAndGoesOut) {
+    const auto entry = [](const char* what, int n) { return QByteArray(what) + QByteArray::number(n); };
+    const auto color = [](int red, size_t slot) {
+        return QStringLiteral("\\red%1\\green%2\\blue0").arg(red).arg(slot);
+    };
+    for (int n = 0; n < 8; ++n)
+        Write(Keys::MenuArray(n), entry("/in", n));
+    for (int n = 0; n < 30; ++n) {
+        Write(Keys::FirstBut(n), entry("<in", n));
+        Write(Keys::SecondBut(n), entry("</in", n));
+        Write(Keys::ButCap(n), entry("in", n));
+    }
+    for (size_t slot = 0; slot < 6; ++slot)
+        Write(Keys::EdTextColor[slot], color(1, slot).toLatin1());
+    ProgramRun run;
+    ASSERT_TRUE(run.Start());
+    for (int n = 0; n < 8; ++n) {
+        EXPECT_EQ(RecentFiles::Caption(*run.frame, n).toLatin1(), entry("/in", n));
+        EXPECT_TRUE(run.Entry(entry("mnuFileArray_", n)).isVisible()) << n;
+        RecentFiles::SetCaption(*run.frame, n, QString::fromLatin1(entry("/out", n)));
+    }
+    for (int n = 0; n < 30; ++n) {
+        QString& first = run.Editor().FirstBut[static_cast<size_t>(n)];
+        QString& second = run.Editor().SecondBut[static_cast<size_t>(n)];
+        EXPECT_EQ(first.toLatin1(), entry("<in", n));
+        EXPECT_EQ(second.toLatin1(), entry("</in", n));
+        EXPECT_EQ(run.frame->Picture2().Caption(n).toLatin1(), entry("in", n));
+        first = QString::fromLatin1(entry("<out", n));
+        second = QString::fromLatin1(entry("</out", n));
+        run.frame->Picture2().SetCaption(n, QString::fromLatin1(entry("out", n)));
+    }
+    for (size_t slot = 0; slot < 6; ++slot) {
+        EXPECT_EQ(run.Editor().ColorTable[slot], color(1, slot));
+        run.Editor().ColorTable[slot] = color(2, slot);
+    }
+    EXPECT_TRUE(run.Stop());
+    for (int n = 0; n < 8; ++n)
+        EXPECT_EQ(Read(Keys::MenuArray(n)).toLatin1(), entry("/out", n));
+    for (int n = 0; n < 30; ++n) {
+        EXPECT_EQ(Read(Keys::FirstBut(n)).toLatin1(), entry("<out", n));
+        EXPECT_EQ(Read(Keys::SecondBut(n)).toLatin1(), entry("</out", n));
+        EXPECT_EQ(Read(Keys::ButCap(n)).toLatin1(), entry("out", n));
+    }
+    for (size_t slot = 0; slot < 6; ++slot)
+        EXPECT_EQ(Read(Keys::EdTextColor[slot]), color(2, slot));
 }
 
 TEST_F(ShutdownOf, UseDdeIsEmptiedAndTheDeadKeysStayUnwritten) {
@@ -178,9 +244,11 @@ TEST_F(ShutdownOf, GeometrySurvivesManyRunsUnchanged) {
 
 TEST_F(ShutdownOf, MaximisedOrMinimisedFrameKeepsTheOldGeometry) {
     const struct {
-        Qt::WindowState state;
+        Qt::WindowStates state;
         const char* digit;
-    } rows[] = {{Qt::WindowMaximized, "2"}, {Qt::WindowMinimized, "1"}};
+    } rows[] = {{Qt::WindowMaximized, "2"},
+                {Qt::WindowMinimized, "1"},
+                {Qt::WindowMinimized | Qt::WindowMaximized, "1"}};
     for (const auto& row : rows) {
         Write(Keys::MainFormWidth, "9000");
         Write(Keys::MainWindowState, "0");
@@ -306,7 +374,8 @@ TEST_F(ShutdownOf, ApplicationActivationIsHeardFromTheLoadToTheUnload) {
     EXPECT_EQ(focusAfterActivation(), &run.frame->TabStrip2());
     ASSERT_TRUE(run.Start());
     EXPECT_EQ(focusAfterActivation(), &run.Active().txtInput());
-    run.frame->SetHooks(false, false);
+    EXPECT_TRUE(run.Stop());
+    run.New();
     EXPECT_EQ(focusAfterActivation(), &run.frame->TabStrip2());
 }
 

@@ -80,6 +80,8 @@ TEST_F(StartupOf, FreshStoreGivesTheDefaults) {
     EXPECT_TRUE(run.Program().CustomDic.endsWith(QStringLiteral("custom.vtc")));
     EXPECT_EQ(run.frame->State<BuilderState>().LastDir, qEnvironmentVariable("TARNWICK_HOME"));
     EXPECT_FALSE(run.frame->isMaximized());
+    const QRect place(run.frame->pos(), run.frame->size());
+    EXPECT_TRUE(run.frame->screen()->availableGeometry().contains(place)) << place.width();
     EXPECT_FALSE(run.frame->Picture4().isVisible());
     EXPECT_FALSE(run.frame->Picture2().isVisible());
 }
@@ -139,18 +141,24 @@ TEST_F(StartupOf, ValueThatFailsToConvertIsPassedOver) {
     EXPECT_FALSE(run.frame->isMaximized());
 }
 
-TEST_F(StartupOf, StripsShowOnlyAtExactlyOne) {
+TEST_F(StartupOf, EachStripShowsOnlyWhereItsOwnSettingIsExactlyOne) {
     const struct {
         const char* stored;
         bool shown;
     } rows[] = {{"0", false}, {"1", true}, {"2", false}, {"-1", false}, {"True", false}, {"1.0", true}};
     for (const auto& row : rows) {
         Write(Keys::UseMSIE, row.stored);
+        Write(Keys::ShowUserButtons, row.shown ? "0" : "1");
+        ProgramRun modes;
+        ASSERT_TRUE(modes.Start());
+        EXPECT_EQ(modes.frame->Picture4().isVisible(), row.shown) << row.stored;
+        EXPECT_EQ(modes.frame->Picture2().isVisible(), !row.shown) << row.stored;
+        Write(Keys::UseMSIE, row.shown ? "0" : "1");
         Write(Keys::ShowUserButtons, row.stored);
-        ProgramRun run;
-        ASSERT_TRUE(run.Start());
-        EXPECT_EQ(run.frame->Picture4().isVisible(), row.shown) << row.stored;
-        EXPECT_EQ(run.frame->Picture2().isVisible(), row.shown) << row.stored;
+        ProgramRun buttons;
+        ASSERT_TRUE(buttons.Start());
+        EXPECT_EQ(buttons.frame->Picture4().isVisible(), !row.shown) << row.stored;
+        EXPECT_EQ(buttons.frame->Picture2().isVisible(), row.shown) << row.stored;
     }
 }
 
@@ -162,12 +170,21 @@ TEST_F(StartupOf, StoredGeometryMovesTheFrame) {
     EXPECT_EQ(run.frame->pos(), QPoint(30, 20));
 }
 
-TEST_F(StartupOf, FrameIsCentredWithoutAWidth) {
-    WriteGeometry("7500", "0", "450", "300");
-    ProgramRun run;
-    ASSERT_TRUE(run.Start());
-    EXPECT_EQ(run.frame->pos(), Centre(*run.frame));
-    EXPECT_NE(run.frame->height(), 500);
+TEST_F(StartupOf, TheWidthAloneTellsWhetherAPlaceWasStored) {
+    const struct {
+        const char *height, *width;
+        bool moved;
+    } rows[] = {
+        {"7500", "0", false},  {"7500", "-9000", false}, {"7500", "", false},
+        {"7500", "0.5", true}, {"0", "9000", true},
+    };
+    for (const auto& row : rows) {
+        WriteGeometry(row.height, row.width, "450", "300");
+        ProgramRun run;
+        ASSERT_TRUE(run.Start());
+        EXPECT_EQ(run.frame->pos(), row.moved ? QPoint(30, 20) : Centre(*run.frame)) << row.width;
+        EXPECT_EQ(run.frame->height() == 500, row.moved && QByteArray(row.height) == "7500") << row.width;
+    }
 }
 
 TEST_F(StartupOf, FrameStoredOffAllScreensComesWithinReach) {
@@ -183,7 +200,8 @@ TEST_F(StartupOf, OnlyTheMaximisedStateComesBack) {
     const struct {
         const char* stored;
         bool maximised;
-    } rows[] = {{"0", false}, {"1", false}, {"2", true}, {"2.0", true}, {"3", false}};
+    } rows[] = {{"0", false},   {"1", false},   {"2", true},  {"2.0", true},
+                {"1.6", false}, {"2.4", false}, {"3", false}, {"-2", false}};
     for (const auto& row : rows) {
         const auto run = With(Keys::MainWindowState, row.stored);
         EXPECT_EQ(run->frame->isMaximized(), row.maximised) << row.stored;
@@ -265,8 +283,30 @@ TEST_F(StartupOf, UserButtonsGetTheirCaptionsAndTags) {
 }
 
 TEST_F(StartupOf, OptionsComeOnTheFirstRunOnly) {
-    EXPECT_EQ(With(Keys::FirstTimeAgain, "0")->optionsShown, 1);
-    EXPECT_EQ(With(Keys::FirstTimeAgain, "1")->optionsShown, 0);
+    const struct {
+        const char* stored;
+        int runs;
+    } rows[] = {
+        // Halves go to the even number, as wherever a text becomes a whole number.
+        {"0", 0},
+        {"1", 1},
+        {"2", 2},
+        {"-1", -1},
+        {"0.5", 0},
+        {"0.6", 1},
+        {"1.5", 2},
+        {"2.5", 2},
+        {"-1.6", -2},
+        // What no count can hold leaves it at the start value.
+        {"2147483648", 0},
+        {"-2147483649", 0},
+        {"-2147483648", -2147483647 - 1},
+    };
+    for (const auto& row : rows) {
+        const auto run = With(Keys::FirstTimeAgain, row.stored);
+        EXPECT_EQ(run->Program().FirstTimeAgain, row.runs) << row.stored;
+        EXPECT_EQ(run->optionsShown, row.runs == 0 ? 1 : 0) << row.stored;
+    }
 }
 
 TEST_F(StartupOf, TheLoadWaitsForTheOptionsDialog) {

@@ -3,6 +3,7 @@
 
 #include "app/RealFrame.h"
 
+#include <QDialog>
 #include <QMenu>
 
 namespace {
@@ -43,12 +44,15 @@ TEST_F(WindowCommands, TileFillsTheAreaInRows) {
     run.New();
     run.New();
     run.New().showMinimized();
+    run.frame->ActivateDocument(dynamic_cast<frmTemplate&>(*run.frame->Area().subWindowList()[1]));
+    run.Active().showMaximized();
     run.Entry("mnuTile").trigger();
     const QSize area = run.frame->Area().viewport()->size();
     const auto windows = run.frame->Area().subWindowList();
     EXPECT_EQ(windows[0]->geometry(), QRect(0, 0, area.width(), area.height() / 2));
     EXPECT_EQ(windows[1]->geometry().top(), area.height() / 2);
     EXPECT_EQ(windows[1]->width(), area.width());
+    EXPECT_FALSE(windows[1]->isMaximized());
     EXPECT_TRUE(windows[2]->isMinimized());
 }
 
@@ -87,6 +91,25 @@ TEST_F(WindowCommands, ListNamesTheWindowsAtTheMenusEnd) {
     run.Active().Unload();
     EXPECT_TRUE(List().isEmpty());
     EXPECT_EQ(run.Find<QMenu>("mnuWindow").actions().size(), entries);
+}
+
+TEST_F(WindowCommands, ListMarksTheActiveDocumentUnderADialogToo) {
+    run.New();
+    run.New();
+    QDialog dialog(run.frame.get());
+    dialog.show();
+    dialog.activateWindow();
+    QCoreApplication::processEvents();
+    EXPECT_EQ(List(), QStringList({QStringLiteral("&1 "), QStringLiteral("&2  *")}));
+}
+
+TEST_F(WindowCommands, ListHasDigitKeysForNineWindows) {
+    for (int n = 1; n <= 10; ++n)
+        run.New();
+    const QStringList list = List();
+    ASSERT_EQ(list.size(), 10);
+    EXPECT_EQ(list[8], QStringLiteral("&9 "));
+    EXPECT_EQ(list[9], QStringLiteral("10  *"));
 }
 
 TEST_F(WindowCommands, ListEntryActivatesItsWindow) {

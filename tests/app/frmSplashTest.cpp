@@ -4,6 +4,7 @@
 #include "app/RealFrame.h"
 
 #include <QLabel>
+#include <QScreen>
 
 namespace {
 
@@ -39,6 +40,19 @@ TEST_F(Splash, ClickOnFormPictureOrMessageUnloadsIt) {
 TEST_F(Splash, ClickOnTheVersionDoesNothing) {
     QTest::mouseClick(&Label(Show(), "lblVersion"), Qt::LeftButton);
     EXPECT_TRUE(Loaded());
+}
+
+TEST_F(Splash, ButtonLetGoOutsideIsNoClick) {
+    frmSplash& splash = Show();
+    QTest::mousePress(&splash, Qt::LeftButton, {}, QPoint(2, 2));
+    QTest::mouseRelease(&splash, Qt::LeftButton, {}, QPoint(-2, 2));
+    EXPECT_TRUE(Loaded());
+}
+
+TEST_F(Splash, StandsInTheMiddleOfTheScreen) {
+    const frmSplash& splash = Show();
+    const QPoint off = splash.geometry().center() - splash.screen()->geometry().center();
+    EXPECT_LE(off.manhattanLength(), 2) << off.x() << ' ' << off.y();
 }
 
 TEST_F(Splash, KeyUnloadsIt) {

@@ -185,6 +185,30 @@ TEST_F(frmTemplateOf, BlackIsAppliedAtActivationAlone) {
     EXPECT_EQ(document.txtInput().BackColor(), 0);
 }
 
+TEST_F(frmTemplateOf, BackgroundBelowZeroIsNotAppliedAtLoad) {
+    Fresh();
+    run->Editor().Background2 = -1;
+    frmTemplate document(*run->frame);
+    document.txtInput().SetBackColor(255);
+    document.Form_Load();
+    EXPECT_EQ(document.txtInput().BackColor(), 255);
+}
+
+TEST_F(frmTemplateOf, FocusOfTheWindowIsTheTexts) {
+    frmTemplate& document = Fresh();
+    run->frame->TabStrip2().setFocus();
+    ASSERT_NE(run->frame->focusWidget(), &document.txtInput());
+    document.widget()->setFocus();
+    EXPECT_EQ(run->frame->focusWidget(), &document.txtInput());
+}
+
+TEST_F(frmTemplateOf, NewWindowsStandInSteps) {
+    const QPoint first = Fresh().pos();
+    const QPoint second = run->New().pos();
+    EXPECT_GT(second.x(), first.x());
+    EXPECT_GT(second.y(), first.y());
+}
+
 TEST_F(frmTemplateOf, ActivationColoursAndFocuses) {
     frmTemplate& first = Fresh();
     run->New();
@@ -197,6 +221,7 @@ TEST_F(frmTemplateOf, ActivationColoursAndFocuses) {
 
 TEST_F(frmTemplateOf, WindowTakesTheStateOfTheTemplate) {
     EXPECT_TRUE(With(Keys::TemplateWindowState, "2").isMaximized());
+    EXPECT_TRUE(With(Keys::TemplateWindowState, "2.0").isMaximized());
     EXPECT_FALSE(With(Keys::TemplateWindowState, "0").isMaximized());
     frmTemplate& notMinimised = With(Keys::TemplateWindowState, "1");
     EXPECT_FALSE(notMinimised.isMinimized());
@@ -377,11 +402,14 @@ TEST_F(frmTemplateOf, CancelStillTakesTheListDown) {
 
 TEST_F(frmTemplateOf, LastWindowClosedDecidesHowTheNextOpens) {
     const struct {
-        Qt::WindowState state;
+        Qt::WindowStates state;
         const char* digit;
         bool nextMaximised;
-    } rows[] = {
-        {Qt::WindowMaximized, "2", true}, {Qt::WindowNoState, "0", false}, {Qt::WindowMinimized, "1", false}};
+    } rows[] = {{Qt::WindowMaximized, "2", true},
+                {Qt::WindowNoState, "0", false},
+                {Qt::WindowMinimized, "1", false},
+                {Qt::WindowMaximized, "2", true},
+                {Qt::WindowMinimized | Qt::WindowMaximized, "1", false}};
     Fresh();
     EXPECT_TRUE(run->Active().Unload());
     for (const auto& row : rows) {
@@ -402,6 +430,25 @@ TEST_F(frmTemplateOf, LastOfThreeMaximisedWindowsStoresTheirState) {
     while (run->frame->ActiveForm())
         ASSERT_TRUE(run->Active().Unload());
     EXPECT_EQ(run->Program().TemplateWindowState, QStringLiteral("2"));
+}
+
+TEST_F(frmTemplateOf, MinimisedWindowStaysSoWhenAMaximisedOneGoes) {
+    frmTemplate& icon = Fresh();
+    icon.showMinimized();
+    frmTemplate& large = run->New();
+    large.showMaximized();
+    ASSERT_TRUE(icon.isMinimized());
+    EXPECT_TRUE(large.Unload());
+    EXPECT_EQ(run->frame->ActiveForm(), static_cast<Document*>(&icon));
+    EXPECT_TRUE(icon.isMinimized());
+    EXPECT_FALSE(icon.isMaximized());
+}
+
+TEST_F(frmTemplateOf, ClosedWindowBringsUpNoList) {
+    QTimer& timer = Fresh().Timer1();
+    timer.start();
+    EXPECT_TRUE(run->Active().Unload());
+    EXPECT_FALSE(timer.isActive());
 }
 
 TEST_F(frmTemplateOf, ClosedWindowIsGoneAtOnceForEveryone) {
