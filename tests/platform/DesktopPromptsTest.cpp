@@ -34,6 +34,9 @@ template <typename T> class WhenUp : public QObject {
                 return;
             done_ = true;
             act(*dialog);
+            // A check that gave up half way leaves nobody to answer it.
+            if (testing::Test::HasFatalFailure())
+                dialog->reject();
         });
         timer_.start(0);
     }
@@ -201,17 +204,19 @@ TEST_F(DesktopPromptsTest, OpenDialogHasFiltersFolderAndPanelAndTellsTheSelectio
         ASSERT_NE(list, nullptr);
         EXPECT_GT(panel->mapTo(&dialog, QPoint()).x(), list->mapTo(&dialog, QPoint()).x());
         ASSERT_TRUE(QTest::qWaitFor([&] { return list->model()->rowCount(list->rootIndex()) == 3; }));
-        list->setCurrentIndex(list->model()->index(1, 0, list->rootIndex()));
-        dialog.selectFile(TestFolder() + QStringLiteral("/a.gif"));
+        // As a click on it does: while the name field has the focus, no program may choose a name.
+        list->setFocus();
+        const auto found = list->model()->match(list->model()->index(0, 0, list->rootIndex()),
+                                                Qt::DisplayRole, QStringLiteral("a.gif"));
+        ASSERT_EQ(found.size(), 1);
+        list->setCurrentIndex(found.front());
         QTest::mouseClick(dialog.findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Open),
                           Qt::LeftButton);
     });
     const FileAnswer answer = prompts.OpenFile(&owner, request);
     EXPECT_EQ(answer.folder, TestFolder() + u'/');
     EXPECT_EQ(answer.names, QStringList{QStringLiteral("a.gif")});
-    EXPECT_FALSE(selected.isEmpty());
-    for (const QString& path : selected)
-        EXPECT_TRUE(path.startsWith(TestFolder() + u'/')) << path.toStdString();
+    EXPECT_EQ(selected, QStringList{TestFolder() + QStringLiteral("/a.gif")});
     EXPECT_EQ(panel->parentWidget(), &home) << "the panel goes back";
     EXPECT_FALSE(panel->isVisible());
 }

@@ -11,10 +11,22 @@ QTemporaryDir& Root() {
     return root;
 }
 
+/// A folder for the settings that none has used before. QSettings remembers by its path what a file could not
+/// take: the next user would find it there.
+void FreshSettings() {
+    static int users = 0;
+    const auto path = [] { return Root().filePath(QStringLiteral("config%1").arg(users)); };
+    QDir(path()).removeRecursively();
+    ++users;
+    QDir().mkpath(path());
+    qputenv("XDG_CONFIG_HOME", QFile::encodeName(path()));
+}
+
 } // namespace
 
 void FreshUser() {
-    for (const char* name : {"config", "data", "runtime", "home", "files"}) {
+    FreshSettings();
+    for (const char* name : {"data", "runtime", "home", "files"}) {
         const QString path = Root().filePath(QString::fromLatin1(name));
         QDir(path).removeRecursively();
         QDir().mkpath(path);
@@ -24,7 +36,6 @@ void FreshUser() {
     const auto set = [](const char* variable, const char* name) {
         qputenv(variable, QFile::encodeName(Root().filePath(QString::fromLatin1(name))));
     };
-    set("XDG_CONFIG_HOME", "config");
     set("XDG_DATA_HOME", "data");
     set("XDG_RUNTIME_DIR", "runtime");
     set("TARNWICK_HOME", "home");
