@@ -44,6 +44,7 @@ SettingsFile& Settings::Store(const QString& application) const {
     auto& store = stores_[application];
     if (!store) {
         const QString path = Path::Join(SettingsFolder(), application + QStringLiteral(".ini"));
+        SettingsFile::TidyUp(path);
         KeepPrivate(path);
         store = std::make_shared<SettingsFile>(path);
     }

@@ -1,57 +1,35 @@
 // One file of the settings store, which stays whole on a disk that is full.
 #include "platform/SettingsFile.h"
 
-#include <filesystem>
-#include <QCoreApplication>
+#include "platform/SecondName.h"
+
 #include <QEvent>
 #include <QFile>
-#include <system_error>
 
 namespace {
 
-namespace fs = std::filesystem;
-
-/// A second name for the file, for as long as this lives. None where the folder takes no new names: then no
-/// new file can replace the old one either.
-class SecondName {
-  public:
-    explicit SecondName(const QString& path) {
-        std::error_code failed;
-        // A symbolic link stands for its file.
-        file_ = fs::canonical(QFile::encodeName(path).toStdString(), failed);
-        if (failed)
-            return;
-        name_ = file_;
-        name_ += ".old" + std::to_string(QCoreApplication::applicationPid());
-        fs::remove(name_, failed);
-        fs::create_hard_link(file_, name_, failed);
-        holds_ = !failed;
+/// Each value has a line of its own, and each line its end. -1 for a file that was cut off, or can't be read.
+qsizetype CountValues(const QString& path) {
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly))
+        return -1;
+    qsizetype values = 0;
+    while (!file.atEnd()) {
+        const QByteArray line = file.readLine();
+        if (!line.endsWith('\n'))
+            return -1;
+        values += !line.startsWith('[') && line.contains('=');
     }
-    ~SecondName() {
-        std::error_code ignored;
-        if (holds_)
-            fs::remove(name_, ignored);
-    }
-    SecondName(const SecondName&) = delete;
-    SecondName& operator=(const SecondName&) = delete;
-
-    /// Whether another file has taken the first name meanwhile.
-    bool IsReplaced() const {
-        std::error_code failed;
-        return holds_ && !fs::equivalent(file_, name_, failed);
-    }
-    void PutBack() {
-        std::error_code failed;
-        fs::rename(name_, file_, failed);
-        holds_ = static_cast<bool>(failed);
-    }
-
-  private:
-    fs::path file_, name_;
-    bool holds_ = false;
-};
+    return values;
+}
 
 } // namespace
+
+void SettingsFile::TidyUp(const QString& path) {
+    for (SecondName& old : SecondName::LeftFor(path))
+        if (old.IsReplaced() && CountValues(path) < CountValues(old.Path()))
+            old.PutBack();
+}
 
 bool SettingsFile::Bring() {
     SecondName old(fileName());
@@ -63,19 +41,8 @@ bool SettingsFile::Bring() {
     return status() != AccessError;
 }
 
-/// Each value has a line of its own, and each line its end.
 bool SettingsFile::IsWhole() const {
-    QFile file(fileName());
-    if (!file.open(QIODevice::ReadOnly))
-        return false;
-    qsizetype values = 0;
-    while (!file.atEnd()) {
-        const QByteArray line = file.readLine();
-        if (!line.endsWith('\n'))
-            return false;
-        values += !line.startsWith('[') && line.contains('=');
-    }
-    return values >= allKeys().size();
+    return CountValues(fileName()) >= allKeys().size();
 }
 
 bool SettingsFile::event(QEvent* event) {

@@ -11,6 +11,10 @@ class SettingsFile final : public QSettings {
     explicit SettingsFile(const QString& path) : QSettings(path, QSettings::IniFormat) {}
     ~SettingsFile() override { Bring(); }
 
+    /// Settles what a program that was killed while it wrote has left, before the file is read. No value is
+    /// ever taken out of the settings: a file with fewer than the old one is a part of one.
+    static void TidyUp(const QString& path);
+
     /// Brings what was written to the disk; false where that failed: the old file then stands as it was.
     bool Bring();
 

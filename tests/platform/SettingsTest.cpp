@@ -423,6 +423,106 @@ TEST_F(SettingsTest, FullDiskLeavesTheOldFileWhole) {
     }
 }
 
+QStringList SecondNames(const QString& folder = SettingsFolder()) {
+    return QDir(folder).entryList({QStringLiteral("*.old*")}, QDir::Files);
+}
+
+/// Writes in a process of its own that is killed when its new file has grown to this size.
+void WriteAndBeKilled(qsizetype size) {
+    const pid_t child = ::fork();
+    if (child == 0) {
+        const FullDisk disk(static_cast<rlim_t>(size));
+        std::signal(SIGXFSZ, SIG_DFL);
+        constexpr rlimit noCore = {};
+        setrlimit(RLIMIT_CORE, &noCore);
+        Settings settings;
+        settings.Write(Keys::EditorFont, QStringLiteral("Helvetica"));
+        settings.Sync();
+        ::_exit(0);
+    }
+    int status = 0;
+    ASSERT_EQ(::waitpid(child, &status, 0), child);
+    ASSERT_TRUE(WIFSIGNALED(status)) << "killed in the middle of its write";
+    EXPECT_EQ(SecondNames().size(), 1) << "the old file still had its second name";
+}
+
+TEST_F(SettingsTest, ProgramKilledWhileItWritesLeavesTheOldFileAndNoSecondName) {
+    Store(Keys::UserTemplate, QString(5000, u'x'));
+    Store(Keys::EditorFont, QStringLiteral("Courier"));
+    WriteAndBeKilled(1000);
+    EXPECT_EQ(Stored(Keys::EditorFont), QStringLiteral("Courier"));
+    EXPECT_EQ(SecondNames(), QStringList());
+    Store(Keys::EditorFont, QStringLiteral("Times"));
+    EXPECT_EQ(Stored(Keys::EditorFont), QStringLiteral("Times")) << "it takes writes again";
+    EXPECT_EQ(QFile::permissions(File()), OnlyTheUser);
+}
+
+struct LeftRow {
+    const char* name; ///< what is behind the file's own name; "#" stands for a process that has ended
+    QByteArray held;  ///< what the second name holds
+    QByteArray file;  ///< what the settings file holds
+    bool isLeft;      ///< whether the second name stays
+    const char* font; ///< what the settings then say
+};
+
+/// The number of a process that was there and is there no more.
+QString EndedProcess() {
+    const pid_t child = ::fork();
+    if (child == 0)
+        ::_exit(0);
+    ::waitpid(child, nullptr, 0);
+    return QString::number(child);
+}
+
+TEST_F(SettingsTest, SecondNamesOfEndedProgramsAreSettledAtTheNextStart) {
+    const QByteArray old = "[Window%20Options]\nEditorFont=Old\nEditorFontSize=12\n";
+    const QByteArray whole = "[Window%20Options]\nEditorFont=New\nEditorFontSize=12\nUseMSIE=1\n";
+    const QByteArray same = "the same file under both names";
+    const QByteArray none = "no such file";
+    const LeftRow rows[] = {
+        {".old#", old, same, false, "Old"},
+        {".old#", old, none, false, "Old"},
+        {".old#", old, whole, false, "New"},
+        {".old#", old, "[Window%20Options]\nEditorFont=New\nEditorFontS", false, "Old"},
+        {".old#", old, "[Window%20Options]\nEditorFont=New\n", false, "Old"},
+        {".old#", old, "[Window%20Options]\nEditorFont=N", false, "Old"},
+        {".old#", old, "\n", false, "Old"},
+        {".old#", "[Window%20Options]\nEditorFont=Ol", whole, false, "New"},
+        {".old1", old, whole, true, "New"}, // a process that lives
+        {".old", old, whole, true, "New"},
+        {".old-1", old, whole, true, "New"},
+        {".older", old, whole, true, "New"},
+        {".old#.txt", old, whole, true, "New"},
+    };
+    for (const LeftRow& row : rows) {
+        SCOPED_TRACE(row.name + row.file.toStdString());
+        FreshUser();
+        QString name = QString::fromLatin1(row.name);
+        name = File() + name.replace(u'#', EndedProcess());
+        WriteFile(row.held);
+        ASSERT_EQ(::link(QFile::encodeName(File()).constData(), QFile::encodeName(name).constData()), 0);
+        if (row.file != same)
+            QFile::remove(File());
+        if (row.file != same && row.file != none)
+            WriteFile(row.file);
+        EXPECT_EQ(Stored(Keys::EditorFont), QString::fromLatin1(row.font));
+        EXPECT_EQ(QFileInfo::exists(name), row.isLeft);
+        EXPECT_EQ(QFile::permissions(File()), OnlyTheUser);
+    }
+}
+
+TEST_F(SettingsTest, SecondNamesAreSettledBesideTheFileOfALink) {
+    const QString real = TestFolder() + QStringLiteral("/real.ini");
+    Store(Keys::EditorFont, QStringLiteral("Courier"));
+    ASSERT_TRUE(QFile::rename(File(), real));
+    ASSERT_TRUE(QFile::link(real, File()));
+    ASSERT_TRUE(QFile::copy(real, real + QStringLiteral(".old") + EndedProcess()));
+    WriteFile("\n");
+    EXPECT_EQ(Stored(Keys::EditorFont), QStringLiteral("Courier"));
+    EXPECT_TRUE(QFileInfo(File()).isSymLink());
+    EXPECT_EQ(SecondNames(TestFolder()), QStringList());
+}
+
 TEST_F(SettingsTest, SymbolicLinkIsFollowed) {
     const QString real = TestFolder() + QStringLiteral("/real.ini");
     QFile(real).open(QIODevice::WriteOnly);
