@@ -6,16 +6,20 @@
 #include "platform/Path.h"
 
 #include <algorithm>
+#include <QAbstractItemView>
 #include <QApplication>
 #include <QCloseEvent>
 #include <QColorDialog>
 #include <QDir>
 #include <QFileDialog>
+#include <QFileInfo>
 #include <QGridLayout>
 #include <QInputDialog>
 #include <QKeyEvent>
+#include <QLineEdit>
 #include <QMessageBox>
 #include <QPointer>
+#include <QRegularExpression>
 #include <QUrl>
 #include <utility>
 
@@ -132,15 +136,51 @@ void SetUpFilters(QFileDialog& dialog, const FileRequest& request) {
     dialog.selectNameFilter(filters[index - 1]);
 }
 
-FileAnswer AnswerOf(const QFileDialog& dialog) {
-    FileAnswer answer;
-    for (const QString& file : dialog.selectedFiles()) {
-        const QString path = QDir::toNativeSeparators(file);
-        if (answer.folder.isEmpty())
-            answer.folder = Path::Folder(path);
-        answer.names += Path::FileName(path);
+/// Several names typed in quotes. Qt gives those that it finds selected in its list, so that one which does
+/// not exist would be lost beside one that does.
+QStringList QuotedFiles(const QFileDialog& dialog) {
+    static const QRegularExpression quoted(QStringLiteral("\\A\\s*+(?:\"[^\"]++\"\\s*+)++\\z"));
+    const auto* field = dialog.findChild<QLineEdit*>(QStringLiteral("fileNameEdit"));
+    if (!field || !quoted.match(field->text()).hasMatch())
+        return {};
+    const QStringList parts = field->text().split(u'"');
+    QStringList files;
+    for (qsizetype i = 1; i < parts.size(); i += 2) {
+        const QString file = QDir::cleanPath(dialog.directory().absoluteFilePath(parts[i]));
+        if (!QFileInfo(file).isDir())
+            files += file;
     }
+    return files;
+}
+
+/// Typed names may lie in several folders: the answer's folder is one that all of them are in or below.
+FileAnswer AnswerOf(const QFileDialog& dialog) {
+    const QStringList quoted = QuotedFiles(dialog);
+    QStringList paths;
+    for (const QString& file : quoted.isEmpty() ? dialog.selectedFiles() : quoted)
+        paths += QDir::toNativeSeparators(file);
+    FileAnswer answer;
+    if (!paths.isEmpty())
+        answer.folder = Path::Folder(paths.first());
+    for (const QString& path : std::as_const(paths))
+        while (!path.startsWith(answer.folder))
+            answer.folder = Path::Folder(answer.folder.chopped(1));
+    for (const QString& path : std::as_const(paths))
+        answer.names += path.sliced(answer.folder.size());
     return answer;
+}
+
+/// Qt's own dialog gives several files only where each exists, and one that does not only where it gives one.
+/// So it is told to give one, and its lists to let several be selected. A dialog of the desktop's own, which
+/// has no such lists, goes by its own rules.
+void LetSeveralBeNamed(QFileDialog& dialog) {
+    const auto lists = {dialog.findChild<QAbstractItemView*>(QStringLiteral("listView")),
+                        dialog.findChild<QAbstractItemView*>(QStringLiteral("treeView"))};
+    const bool hasLists = std::ranges::all_of(lists, [](auto* list) { return list != nullptr; });
+    dialog.setFileMode(hasLists ? QFileDialog::AnyFile : QFileDialog::ExistingFiles);
+    for (QAbstractItemView* list : lists)
+        if (list)
+            list->setSelectionMode(QAbstractItemView::ExtendedSelection);
 }
 
 FileAnswer Run(QFileDialog& dialog, const FileRequest& request) {
@@ -212,8 +252,10 @@ std::optional<ColorNumber> DesktopPrompts::ChooseColor(QWidget* owner, QByteArra
 FileAnswer DesktopPrompts::OpenFile(QWidget* owner, const FileRequest& request) {
     QFileDialog dialog(owner);
     dialog.setAcceptMode(QFileDialog::AcceptOpen);
-    if (request.multiSelect)
+    if (request.multiSelect && request.mustExist)
         dialog.setFileMode(QFileDialog::ExistingFiles);
+    else if (request.multiSelect)
+        LetSeveralBeNamed(dialog);
     else
         dialog.setFileMode(request.mustExist ? QFileDialog::ExistingFile : QFileDialog::AnyFile);
     return Run(dialog, request);

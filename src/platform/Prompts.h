@@ -32,7 +32,7 @@ struct FileRequest {
 
 struct FileAnswer {
     QString folder;    ///< ends in a separator; empty when cancelled
-    QStringList names; ///< bare names; empty when cancelled
+    QStringList names; ///< in it, or below it where several folders were typed; empty when cancelled
     bool Cancelled() const { return names.isEmpty(); }
 };
 

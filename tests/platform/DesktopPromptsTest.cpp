@@ -47,6 +47,24 @@ template <typename T> class WhenUp : public QObject {
     bool done_ = false;
 };
 
+/// Counts the boxes by which a file dialog refuses a name, and puts them away.
+class Refusals : public QObject {
+  public:
+    Refusals() {
+        connect(&timer_, &QTimer::timeout, this, [this] {
+            if (auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget())) {
+                ++count;
+                box->reject();
+            }
+        });
+        timer_.start(0);
+    }
+    int count = 0;
+
+  private:
+    QTimer timer_;
+};
+
 void Write(const QString& name) {
     QFile file(TestFolder() + u'/' + name);
     ASSERT_TRUE(file.open(QIODevice::WriteOnly));
@@ -221,22 +239,109 @@ TEST_F(DesktopPromptsTest, OpenDialogHasFiltersFolderAndPanelAndTellsTheSelectio
     EXPECT_FALSE(panel->isVisible());
 }
 
-TEST_F(DesktopPromptsTest, SeveralFilesComeWithTheirFolder) {
-    Write(QStringLiteral("a.htm"));
-    Write(QStringLiteral("b.htm"));
+struct NamesRow {
+    const char* typed; ///< into the name field, by the keys
+    const char* folder;
+    QStringList names;
+};
+
+TEST_F(DesktopPromptsTest, FilesAreNamedByTheKeysWhetherTheyExistOrNot) {
+    const NamesRow rows[] = {
+        {"\"a.htm\" \"b.htm\"", "/", {QStringLiteral("a.htm"), QStringLiteral("b.htm")}},
+        {"new.htm", "/", {QStringLiteral("new.htm")}},
+        {"\"a.htm\" \"new.htm\"", "/", {QStringLiteral("a.htm"), QStringLiteral("new.htm")}},
+        {"\"new.htm\" \"b.htm\"", "/", {QStringLiteral("new.htm"), QStringLiteral("b.htm")}},
+        {"sub/new.htm", "/sub/", {QStringLiteral("new.htm")}},
+        {"\"sub/new.htm\" \"b.htm\"", "/", {QStringLiteral("sub/new.htm"), QStringLiteral("b.htm")}},
+    };
+    for (const NamesRow& row : rows) {
+        SCOPED_TRACE(row.typed);
+        FreshUser();
+        Write(QStringLiteral("a.htm"));
+        Write(QStringLiteral("b.htm"));
+        QDir(TestFolder()).mkdir(QStringLiteral("sub"));
+        FileRequest request;
+        request.folder = TestFolder();
+        request.multiSelect = true;
+        const Refusals refusals;
+        WhenUp<QFileDialog> act([&](QFileDialog& dialog) {
+            auto* list = dialog.findChild<QListView*>(QStringLiteral("listView"));
+            ASSERT_TRUE(QTest::qWaitFor([&] { return list->model()->rowCount(list->rootIndex()) == 3; }));
+            auto* name = dialog.findChild<QLineEdit*>(QStringLiteral("fileNameEdit"));
+            ASSERT_TRUE(QTest::qWaitFor([&] { return name->hasFocus(); }));
+            QTest::keyClicks(name, QString::fromLatin1(row.typed));
+            // The dialog takes Enter once it has looked at the folder; one that refuses a name stays up.
+            EXPECT_TRUE(QTest::qWaitFor([&] {
+                QTest::keyClick(name, Qt::Key_Return);
+                return !dialog.isVisible();
+            }));
+            if (dialog.isVisible())
+                dialog.reject();
+        });
+        const FileAnswer answer = prompts.OpenFile(&owner, request);
+        EXPECT_EQ(answer.folder, TestFolder() + QString::fromLatin1(row.folder));
+        EXPECT_EQ(answer.names, row.names);
+        EXPECT_EQ(refusals.count, 0);
+    }
+}
+
+TEST_F(DesktopPromptsTest, FolderIsEnteredAndAnEmptyNameIsNone) {
+    QDir(TestFolder()).mkdir(QStringLiteral("sub"));
     FileRequest request;
     request.folder = TestFolder();
     request.multiSelect = true;
     WhenUp<QFileDialog> act([&](QFileDialog& dialog) {
-        EXPECT_EQ(dialog.fileMode(), QFileDialog::ExistingFiles);
-        dialog.findChild<QLineEdit*>(QStringLiteral("fileNameEdit"))
-            ->setText(QStringLiteral("\"a.htm\" \"b.htm\""));
-        QTest::mouseClick(dialog.findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Open),
-                          Qt::LeftButton);
+        auto* name = dialog.findChild<QLineEdit*>(QStringLiteral("fileNameEdit"));
+        QTest::keyClick(name, Qt::Key_Return);
+        EXPECT_TRUE(dialog.isVisible());
+        QTest::keyClicks(name, QStringLiteral("sub"));
+        QTest::keyClick(name, Qt::Key_Return);
+        EXPECT_TRUE(dialog.isVisible());
+        EXPECT_EQ(dialog.directory().absolutePath(), TestFolder() + QStringLiteral("/sub"));
+        dialog.reject();
     });
-    const FileAnswer answer = prompts.OpenFile(&owner, request);
-    EXPECT_EQ(answer.folder, TestFolder() + u'/');
-    EXPECT_EQ(answer.names, (QStringList{QStringLiteral("a.htm"), QStringLiteral("b.htm")}));
+    EXPECT_TRUE(prompts.OpenFile(&owner, request).Cancelled());
+}
+
+TEST_F(DesktopPromptsTest, SeveralFilesAreSelectedInTheList) {
+    Write(QStringLiteral("a.htm"));
+    Write(QStringLiteral("b.htm"));
+    for (const bool mustExist : {false, true}) {
+        FileRequest request;
+        request.folder = TestFolder();
+        request.multiSelect = true;
+        request.mustExist = mustExist;
+        WhenUp<QFileDialog> act([&](QFileDialog& dialog) {
+            auto* list = dialog.findChild<QListView*>(QStringLiteral("listView"));
+            ASSERT_TRUE(QTest::qWaitFor([&] { return list->model()->rowCount(list->rootIndex()) == 2; }));
+            list->setFocus();
+            list->setCurrentIndex(list->model()->index(0, 0, list->rootIndex()));
+            QTest::keyClick(list, Qt::Key_Down, Qt::ShiftModifier);
+            QTest::mouseClick(dialog.findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Open),
+                              Qt::LeftButton);
+        });
+        EXPECT_EQ(prompts.OpenFile(&owner, request).names,
+                  (QStringList{QStringLiteral("a.htm"), QStringLiteral("b.htm")}));
+    }
+}
+
+TEST_F(DesktopPromptsTest, FileThatMustExistIsNotTypedOtherwise) {
+    Write(QStringLiteral("a.htm"));
+    for (const bool multiSelect : {false, true}) {
+        FileRequest request;
+        request.folder = TestFolder();
+        request.mustExist = true;
+        request.multiSelect = multiSelect;
+        const Refusals refusals;
+        WhenUp<QFileDialog> act([&](QFileDialog& dialog) {
+            auto* name = dialog.findChild<QLineEdit*>(QStringLiteral("fileNameEdit"));
+            QTest::keyClicks(name, QStringLiteral("new.htm"));
+            QTest::keyClick(name, Qt::Key_Return);
+            EXPECT_TRUE(dialog.isVisible());
+            dialog.reject();
+        });
+        EXPECT_TRUE(prompts.OpenFile(&owner, request).Cancelled());
+    }
 }
 
 TEST_F(DesktopPromptsTest, CancelledDialogAnswersNothing) {
