@@ -25,7 +25,9 @@ void Check(const RtfText& read) {
         covered += run.length;
     }
     Demand(covered == read.text.size());
-    for (const QChar c : read.text)
+    const QString text = QString::fromUtf8(read.text);
+    Demand(text.toUtf8() == read.text);
+    for (const QChar c : text)
         Demand(Cp1252::ToCode(c) >= 0);
 }
 
@@ -46,6 +48,6 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     const RtfText back = ReadRtf(
         QStringLiteral("{{\\colortbl ;\\red255;}\\cf1 ") + escaped + QLatin1Char('}'), RawLineEnds::Keep);
     Check(back);
-    Demand(back.text == rtf);
+    Demand(QString::fromUtf8(back.text) == rtf);
     return 0;
 }

@@ -64,14 +64,18 @@ class Model {
         if (open <= 0 || open >= caret || text.indexOf(u'>', open - 1) + 1 < caret)
             return false;
         QString tag = text.mid(open - 1, caret - open + 1) + u'>';
-        const QString color = TagColorCode(tag);
+        const QStringView color = TagColorCode(tag);
         tag.replace(QStringLiteral("\r\n"), QStringLiteral("\\par "));
         const RtfText written = ReadRtf(RtfHeader(frame) + color + tag + u'}', RawLineEnds::Keep);
         std::vector<ColorNumber> writtenColors;
-        for (const RtfRun& run : written.runs)
-            writtenColors.insert(writtenColors.end(), static_cast<size_t>(run.length),
+        qsizetype from = 0;
+        for (const RtfRun& run : written.runs) {
+            const QString stretch = QString::fromUtf8(written.text.sliced(from, run.length));
+            writtenColors.insert(writtenColors.end(), static_cast<size_t>(stretch.size()),
                                  std::max(run.color, 0));
-        Replace(open - 1, caret - open + 1 + length, written.text, writtenColors);
+            from += run.length;
+        }
+        Replace(open - 1, caret - open + 1 + length, QString::fromUtf8(written.text), writtenColors);
         return true;
     }
 };

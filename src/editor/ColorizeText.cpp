@@ -10,7 +10,7 @@
 
 namespace {
 
-const QString textWord = QStringLiteral("\\cf1 ");
+constexpr QStringView textWord = u"\\cf1 ";
 
 /// Keeps the user's keys out of the control for as long as it lives.
 class InputOff {
@@ -28,7 +28,7 @@ class InputOff {
 class Pieces {
   public:
     Pieces(QString& buffer, bool colored) : buffer_(buffer), colored_(colored) {}
-    void Add(QStringView piece, const QString& colorWord) {
+    void Add(QStringView piece, QStringView colorWord) {
         if (colored_)
             GatherPiece(buffer_, piece, colorWord);
         else
@@ -79,6 +79,7 @@ void ColorizeText(Frame& frame, QString& text, bool& keepDocument, bool caretToT
     if (!document)
         return;
     RichTextBox& txtInput = document->txtInput();
+    const RichTextBox::PaintHold hold(txtInput);
     if (!keepDocument)
         txtInput.SetText(QString());
     const InputOff off(txtInput);
@@ -99,9 +100,10 @@ void ColorizeText(Frame& frame, QString& text, bool& keepDocument, bool caretToT
     }
     // The colour word travels inside the last piece. An unclosed "<" left last at 0: then that is the whole
     // text.
-    QString tail = colored ? textWord : plain + textWord;
+    QString tail = plain;
+    tail += textWord;
     tail += QStringView(text).mid(last);
-    WriteColoredText(frame, tail, QString(), false);
+    WriteColoredText(frame, tail, {}, false);
     if (caretToTop)
         txtInput.SetSelStart(0);
 }

@@ -170,7 +170,7 @@ bool TypingEngine::CloseTag() {
         return false;
     // Not escaped: a backslash or a brace in a typed tag goes into the stream as it stands.
     QString tag = text.TextRange(open, caret - open) + u'>';
-    const QString color = TagColorCode(tag);
+    const QStringView color = TagColorCode(tag);
     const RichTextBox::PaintHold hold(text);
     text.SetSelStart(open);
     // A selection is replaced, as any typed character replaces it.

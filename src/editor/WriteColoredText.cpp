@@ -7,7 +7,9 @@
 #include "platform/RichTextBox.h"
 #include "platform/Settings.h"
 
-#include <QVarLengthArray>
+#include <algorithm>
+#include <array>
+#include <iterator>
 #include <string_view>
 #include <utility>
 
@@ -15,38 +17,73 @@ namespace {
 
 struct ColorRule {
     std::string_view found;
-    const char* word;
+    QStringView word;
 };
 
-// The first hit decides, wherever in the tag it stands: no tag name is parsed.
+// The first row that is found decides, wherever in the tag it stands: no tag name is parsed.
 constexpr ColorRule rules[] = {
-    {"embed", "\\cf5 "},  {"img", "\\cf4 "}, {"href", "\\cf3 "}, {"meta", "\\cf6 "},
-    {"a name", "\\cf3 "}, {"/a", "\\cf3 "},  {"!--", "\\cf6 "},
+    {"embed", u"\\cf5 "},  {"img", u"\\cf4 "}, {"href", u"\\cf3 "}, {"meta", u"\\cf6 "},
+    {"a name", u"\\cf3 "}, {"/a", u"\\cf3 "},  {"!--", u"\\cf6 "},
 };
 
-/// Puts a backslash before every such character. One pass however many there are: replacing them in place
-/// would move the rest of the text again and again, and a script is made of braces.
+/// No character outside ASCII has a lower form within it.
+constexpr char16_t Lower(QChar c) {
+    const char16_t unit = c.unicode();
+    return unit >= u'A' && unit <= u'Z' ? unit + 32 : unit;
+}
+
+/// For each ASCII character the rows, one bit each, whose text begins with it: most characters of a tag begin
+/// none.
+constexpr auto beginnings = [] {
+    std::array<unsigned, 128> rows{};
+    for (std::size_t row = 0; row < std::size(rules); ++row) {
+        for (std::size_t c = 0; c < rows.size(); ++c) {
+            if (Lower(static_cast<char16_t>(c)) == static_cast<char16_t>(rules[row].found.front()))
+                rows[c] |= 1U << row;
+        }
+    }
+    return rows;
+}();
+
+bool StartsWith(QStringView text, std::string_view lower) {
+    if (text.size() < static_cast<qsizetype>(lower.size()))
+        return false;
+    const auto same = [](char a, QChar b) { return static_cast<char16_t>(a) == Lower(b); };
+    return std::equal(lower.begin(), lower.end(), text.begin(), same);
+}
+
+/// Puts a backslash before every such character. One pass from the end however many there are: replacing them
+/// one by one would move the rest of the text again and again, and a script is made of braces.
 void Escape(QString& text, QChar character) {
     // Mostly there is none, and a look for one is many times as fast as a count.
     if (!text.contains(character))
         return;
-    QString escaped(text.size() + text.count(character), Qt::Uninitialized);
-    QChar* to = escaped.data();
-    for (const QChar c : std::as_const(text)) {
-        if (c == character)
-            *to++ = u'\\';
-        *to++ = c;
+    const qsizetype size = text.size();
+    text.resize(size + text.count(character));
+    QChar* to = text.data() + text.size();
+    const QChar* from = text.constData() + size;
+    while (from != to) {
+        *--to = *--from;
+        if (*from == character)
+            *--to = u'\\';
     }
-    text = std::move(escaped);
+}
+
+/// The gathered pieces as one RTF document, in the buffer's own memory: a page of many megabytes stands in
+/// it.
+QString TakeDocument(Frame& frame, EditorState& state) {
+    const QString header = RtfHeader(frame);
+    QString rtf = std::exchange(state.RtfBuffer, QString());
+    const qsizetype size = rtf.size();
+    rtf.resize(header.size() + size + 1);
+    std::copy_backward(rtf.cbegin(), rtf.cbegin() + size, rtf.end() - 1);
+    std::copy(header.begin(), header.end(), rtf.begin());
+    rtf.back() = u'}';
+    return rtf;
 }
 
 void Flush(Frame& frame, EditorState& state, RichTextBox& txtInput) {
-    QString rtf = RtfHeader(frame);
-    rtf.reserve(rtf.size() + state.RtfBuffer.size() + 1);
-    rtf += state.RtfBuffer;
-    rtf += QLatin1Char('}');
-    // A page of many megabytes stands in both now: let go of the one that is done with.
-    state.RtfBuffer = QString();
+    const QString rtf = TakeDocument(frame, state);
     {
         const RichTextBox::PaintHold hold(txtInput);
         txtInput.SetSelRTF(rtf);
@@ -67,21 +104,18 @@ QString RtfHeader(Frame& frame) {
     return header + QLatin1Char('}');
 }
 
-QString TagColorCode(QStringView tag) {
-    // No character outside ASCII has a lower form within it, so bytes are enough to search in.
-    QVarLengthArray<char, 512> lower(tag.size());
+QStringView TagColorCode(QStringView tag) {
+    // One walk through the tag for all rows: what is found moves the row that decides up.
+    std::size_t row = std::size(rules);
     for (qsizetype i = 0; i < tag.size(); ++i) {
         const char16_t c = tag[i].unicode();
-        lower[i] = c >= u'A' && c <= u'Z' ? static_cast<char>(c + 32)
-                   : c < 128              ? static_cast<char>(c)
-                                          : '\x80';
+        const unsigned rows = c < beginnings.size() ? beginnings[c] : 0;
+        for (std::size_t better = 0; better < row && rows >> better != 0; ++better) {
+            if ((rows >> better & 1) != 0 && StartsWith(tag.sliced(i), rules[better].found))
+                row = better;
+        }
     }
-    const std::string_view text(lower.constData(), static_cast<size_t>(lower.size()));
-    for (const ColorRule& rule : rules) {
-        if (text.find(rule.found) != std::string_view::npos)
-            return QString::fromLatin1(rule.word);
-    }
-    return QStringLiteral("\\cf2 ");
+    return row < std::size(rules) ? rules[row].word : QStringView(u"\\cf2 ");
 }
 
 void EscapeBackslashes(QString& text) {
@@ -97,26 +131,31 @@ void EscapeCloseBraces(QString& text) {
 }
 
 void GatherPiece(QString& buffer, QStringView text, QStringView colorWord) {
-    buffer += colorWord;
-    qsizetype done = 0;
-    for (qsizetype end = text.indexOf(u'\r'); end >= 0; end = text.indexOf(u'\r', end + 1)) {
-        if (end + 1 == text.size() || text[end + 1] != u'\n')
-            continue;
-        buffer += text.sliced(done, end - done);
-        buffer += QLatin1StringView("\\par ");
-        done = end + 2;
+    const QStringView lineEnd = u"\\par ";
+    // Room for the worst, a text of nothing but line ends: a page is thousands of pieces, and one step of
+    // growing and shrinking for each is cheaper than to grow by every part of it.
+    const qsizetype start = buffer.size();
+    buffer.resize(start + colorWord.size() + text.size() / 2 * lineEnd.size() + 1);
+    QChar* to = std::copy(colorWord.begin(), colorWord.end(), buffer.data() + start);
+    for (auto at = text.begin(); at != text.end(); ++at) {
+        if (*at == u'\r' && at + 1 != text.end() && at[1] == u'\n') {
+            to = std::copy(lineEnd.begin(), lineEnd.end(), to);
+            ++at;
+        } else {
+            *to++ = *at;
+        }
     }
-    buffer += text.sliced(done);
+    buffer.truncate(to - buffer.constData());
 }
 
-void WriteColoredText(Frame& frame, QString& text, const QString& colorWord, bool resetOnly) {
+void WriteColoredText(Frame& frame, QString& text, QStringView colorWord, bool resetOnly) {
     Document* document = frame.ActiveForm();
     if (!document)
         return;
     WriteColoredText(frame, *document, text, colorWord, resetOnly);
 }
 
-void WriteColoredText(Frame& frame, Document& document, QString& text, const QString& colorWord,
+void WriteColoredText(Frame& frame, Document& document, QString& text, QStringView colorWord,
                       bool resetOnly) {
     if (frame.Store().ReadNumber(Keys::ColoredTags) == 0) {
         document.txtInput().SetSelText(text);

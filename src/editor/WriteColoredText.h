@@ -10,19 +10,18 @@ class Frame;
 /// document. With ColoredTags at 0 it assigns the text to SelText instead, and changes nothing of it. Else
 /// every CR LF in text has become "\par " after the call. resetOnly empties the buffer and writes nothing.
 /// Without an active document it does nothing.
-void WriteColoredText(Frame& frame, QString& text, const QString& colorWord, bool resetOnly);
+void WriteColoredText(Frame& frame, QString& text, QStringView colorWord, bool resetOnly);
 
 /// The same on a given document: a window that is being loaded resets the buffer through its own control,
 /// before it is the active one.
-void WriteColoredText(Frame& frame, Document& document, QString& text, const QString& colorWord,
-                      bool resetOnly);
+void WriteColoredText(Frame& frame, Document& document, QString& text, QStringView colorWord, bool resetOnly);
 
 /// Puts a piece at the buffer's end: its colour word, then the text with "\par " for each CR LF.
 void GatherPiece(QString& buffer, QStringView text, QStringView colorWord);
 
 /// The colour word, "\cf2 " to "\cf6 ", of a piece of tag text: by substring of the whole text, in a fixed
 /// order.
-QString TagColorCode(QStringView tag);
+QStringView TagColorCode(QStringView tag);
 
 /// "{{\colortbl ;…;}": the head of every RTF document, from the current colour table.
 QString RtfHeader(Frame& frame);

@@ -34,6 +34,10 @@ namespace Cp1252 {
 
 QString FromBytes(QByteArrayView bytes) {
     QString text = QString::fromLatin1(bytes);
+    // Counted, since that goes many bytes at a time, as a search for the first does not.
+    const auto inMiddle = [](char byte) { return (byte & 0xE0) == 0x80; };
+    if (std::count_if(bytes.begin(), bytes.end(), inMiddle) == 0)
+        return text;
     for (QChar& character : text) {
         if (!IsPlain(character.unicode()))
             character = FromCode(character.unicode());

@@ -34,9 +34,9 @@ RichTextBox::RichTextBox(QWidget* parent)
 {
     // Found before that of the base class, since it goes by the name of the derived class.
     RichTextAccessible::Install();
-    SetUp();
     ApplyStyles();
     ApplyPalette();
+    SetUp();
     // The control tells of a change before it happens: telling of it afterwards makes the base class count
     // all characters for assistive technology at each key.
     connect(this, &QsciScintillaBase::SCN_MODIFIED, this,
@@ -59,15 +59,16 @@ void RichTextBox::SetUp() {
     Sci(SCI_USEPOPUP, 0);
     Sci(SCI_SETMULTIPLESELECTION, 0);
     Sci(SCI_SETMOUSESELECTIONRECTANGULARSWITCH, 0);
-    for (int margin = 0; margin < 5; ++margin)
-        Sci(SCI_SETMARGINWIDTHN, margin, 0);
+    Sci(SCI_SETMARGINS, 0);
     Sci(SCI_SETWRAPMODE, SC_WRAP_WORD);
-    Sci(SCI_SETSCROLLWIDTH, 1);
     Sci(SCI_SETSCROLLWIDTHTRACKING, 1);
     Sci(SCI_SETENDATLASTLINE, 1);
     Sci(SCI_SETTABWIDTH, 8);
     Sci(SCI_SETLAYOUTCACHE, SC_CACHE_PAGE);
     Sci(SCI_SETIDLESTYLING, SC_IDLESTYLING_NONE);
+    // Last of all, since it is the one call that loads the fonts: what changes the look behind it would make
+    // them load twice.
+    Sci(SCI_SETSCROLLWIDTH, 1);
     setAttribute(Qt::WA_InputMethodEnabled);
     setAccessibleName(tr("Text"));
 }
@@ -109,8 +110,7 @@ void RichTextBox::SetText(const QString& text) {
 }
 
 void RichTextBox::GoToStart() {
-    Sci(SCI_GOTOPOS, 0);
-    Sci(SCI_CHOOSECARETX);
+    MoveCaret(0);
     caretMovedByEdit_ = false;
 }
 
@@ -143,8 +143,7 @@ void RichTextBox::SetSelStart(int position) {
     if (position < 0)
         return;
     const Settling settling(*this);
-    Sci(SCI_GOTOPOS, ByteFromChar(std::min(position, TextLength())));
-    Sci(SCI_CHOOSECARETX);
+    MoveCaret(ByteFromChar(std::min(position, TextLength())));
 }
 
 int RichTextBox::SelLength() const {
@@ -283,8 +282,11 @@ RichTextBox::PaintHold::PaintHold(RichTextBox& box) : box_(box) {
 }
 
 RichTextBox::PaintHold::~PaintHold() {
-    if (--box_.holds_ == 0)
-        box_.setUpdatesEnabled(true);
+    if (--box_.holds_ > 0)
+        return;
+    if (std::exchange(box_.caretMovedInHold_, false))
+        box_.ShowCaret();
+    box_.setUpdatesEnabled(true);
 }
 
 void RichTextBox::Replace(ByteRange range, const QByteArray& text, const StyleRuns& styles) {
@@ -299,8 +301,7 @@ void RichTextBox::Replace(ByteRange range, const QByteArray& text, const StyleRu
         SendScintilla(SCI_REPLACETARGET, static_cast<unsigned long>(text.size()), text.constData());
     }
     TakeIncoming();
-    Sci(SCI_GOTOPOS, range.start + text.size());
-    Sci(SCI_CHOOSECARETX);
+    MoveCaret(range.start + static_cast<int>(text.size()));
 }
 
 void RichTextBox::ReplaceSelection(const QByteArray& text) {

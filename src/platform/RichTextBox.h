@@ -149,7 +149,9 @@ class RichTextBox : public QsciScintillaBase {
     /// ends become the document's.
     void InsertForeign(const QString& text);
 
-    /// Painting waits while a hold lives: what others know as hiding the control during a write.
+    /// Painting waits while a hold lives: what others know as hiding the control during a write. So does
+    /// scrolling: only where the caret stands at the end is brought into view, since each look at a place
+    /// lays its lines out.
     class PaintHold {
       public:
         explicit PaintHold(RichTextBox& box);
@@ -252,10 +254,15 @@ class RichTextBox : public QsciScintillaBase {
     int CharFromByte(int byte) const;
     int ByteFromChar(int position) const;
     QByteArray Bytes(int start, int end) const;
+    /// The same without a copy; for as long as nothing is asked of the base class that changes the text.
+    QByteArrayView BytesInPlace(int start, int end) const;
     QString TextOf(ByteRange range) const;
     QPoint PixelOfByte(long byte) const;
     ByteRange Selection() const;
     void Select(int anchorByte, int caretByte);
+    /// Takes the selection away.
+    void MoveCaret(int byte);
+    void ShowCaret();
 
     int StyleFor(ColorNumber color);
     int StyleAt(int byte) const;
@@ -266,7 +273,7 @@ class RichTextBox : public QsciScintillaBase {
 
     void Settle();
     void TakeIncoming();
-    void CountInsertion(int start, const QByteArray& text);
+    void CountInsertion(int start, QByteArrayView text);
     void CountDeletion(int start, int length);
     void NoteSeam(long left, long right);
     void HoldTypingStyle();
@@ -316,6 +323,7 @@ class RichTextBox : public QsciScintillaBase {
     RawLineEnds rawLineEnds_;
     bool enabled_ = true;
     int holds_ = 0;
+    bool caretMovedInHold_ = false;
     QString preedit_;
     QPointF lastMouse_;
 

@@ -53,8 +53,14 @@ QByteArray RichTextBox::Bytes(int start, int end) const {
     return bytes;
 }
 
+QByteArrayView RichTextBox::BytesInPlace(int start, int end) const {
+    if (end <= start)
+        return QByteArrayView();
+    return {reinterpret_cast<const char*>(Sci(SCI_GETRANGEPOINTER, start, end - start)), end - start};
+}
+
 QString RichTextBox::TextOf(ByteRange range) const {
-    return QString::fromUtf8(Bytes(range.start, range.end));
+    return QString::fromUtf8(BytesInPlace(range.start, range.end));
 }
 
 RichTextBox::ByteRange RichTextBox::Selection() const {
@@ -62,7 +68,21 @@ RichTextBox::ByteRange RichTextBox::Selection() const {
 }
 
 void RichTextBox::Select(int anchorByte, int caretByte) {
-    Sci(SCI_SETSEL, anchorByte, caretByte);
+    Sci(SCI_SETEMPTYSELECTION, anchorByte);
+    Sci(SCI_SETCURRENTPOS, caretByte);
+    ShowCaret();
+}
+
+void RichTextBox::MoveCaret(int byte) {
+    Sci(SCI_SETEMPTYSELECTION, byte);
+    ShowCaret();
+}
+
+void RichTextBox::ShowCaret() {
+    caretMovedInHold_ = holds_ > 0;
+    if (caretMovedInHold_)
+        return;
+    Sci(SCI_SCROLLCARET);
     Sci(SCI_CHOOSECARETX);
 }
 

@@ -3,18 +3,6 @@
 
 #include "platform/RtfReader.h"
 
-namespace {
-
-/// In bytes of UTF-8. Every character of a document is one of at most three.
-int EncodedLength(QStringView text) {
-    int length = 0;
-    for (const QChar c : text)
-        length += c.unicode() < 0x80 ? 1 : c.unicode() < 0x800 ? 2 : 3;
-    return length;
-}
-
-} // namespace
-
 void RichTextBox::SetSelRTF(const QString& rtf) {
     const Settling settling(*this);
     ReplaceByRtf(Selection(), rtf);
@@ -36,14 +24,10 @@ QString RichTextBox::TextRTF() const {
 
 void RichTextBox::ReplaceByRtf(ByteRange range, const QString& rtf) {
     const RtfText content = ReadRtf(rtf, rawLineEnds_);
-    const QByteArray bytes = content.text.toUtf8();
     StyleRuns styles;
-    qsizetype from = 0;
-    for (const RtfRun& run : content.runs) {
-        styles.Append(EncodedLength(QStringView(content.text).mid(from, run.length)), StyleFor(run.color));
-        from += run.length;
-    }
-    Replace(range, bytes, styles);
+    for (const RtfRun& run : content.runs)
+        styles.Append(run.length, StyleFor(run.color));
+    Replace(range, content.text, styles);
     typingStyle_.reset();
 }
 

@@ -6,7 +6,7 @@
 
 namespace {
 
-int Characters(const QByteArray& utf8) {
+int Characters(QByteArrayView utf8) {
     const auto starts = [](char byte) { return (byte & 0xc0) != 0x80; };
     return static_cast<int>(std::count_if(utf8.begin(), utf8.end(), starts));
 }
@@ -90,7 +90,7 @@ void RichTextBox::TakeIncoming() {
     if (!incoming_)
         return;
     const Incoming incoming = *std::exchange(incoming_, std::nullopt);
-    const QByteArray text = Bytes(incoming.start, incoming.start + incoming.length);
+    const QByteArrayView text = BytesInPlace(incoming.start, incoming.start + incoming.length);
     CountInsertion(incoming.start, text);
     if (HasAssistants())
         untold_.push_back({true, CharFromByte(incoming.start), QString::fromUtf8(text)});
@@ -100,7 +100,7 @@ void RichTextBox::TakeIncoming() {
         SetStyles(incoming.start, styles);
 }
 
-void RichTextBox::CountInsertion(int start, const QByteArray& text) {
+void RichTextBox::CountInsertion(int start, QByteArrayView text) {
     length_ += Characters(text);
     const long before = Sci(SCI_GETCHARAT, start - 1);
     const long behind = Sci(SCI_GETCHARAT, start + static_cast<int>(text.size()));
@@ -111,7 +111,7 @@ void RichTextBox::CountInsertion(int start, const QByteArray& text) {
 
 void RichTextBox::CountDeletion(int start, int length) {
     const int end = start + length;
-    length_ -= IsAscii() ? length : Characters(Bytes(start, end));
+    length_ -= IsAscii() ? length : Characters(BytesInPlace(start, end));
     const long before = Sci(SCI_GETCHARAT, start - 1);
     const long behind = Sci(SCI_GETCHARAT, end);
     NoteSeam(before, behind);

@@ -4,6 +4,7 @@
 #include "platform/Cp1252.h"
 
 #include <algorithm>
+#include <array>
 #include <optional>
 #include <utility>
 
@@ -40,18 +41,43 @@ struct ControlWord {
     std::optional<int> number;
 };
 
+/// The bytes that are read so far, with room ahead: a page comes in thousands of short pieces, and growing
+/// for each would be most of the work.
+class Utf8Text {
+  public:
+    /// Room for so many bytes behind the text. What is written there counts once End has moved.
+    char* Room(qsizetype size) {
+        if (bytes_.size() - used_ < size)
+            bytes_.resize(std::max(used_ + size, 2 * bytes_.size()));
+        return bytes_.data() + used_;
+    }
+    void End(const char* end) { used_ = end - bytes_.constData(); }
+    void Append(QByteArrayView text) { End(std::copy(text.begin(), text.end(), Room(text.size()))); }
+    QByteArray Take() {
+        bytes_.truncate(used_);
+        return std::move(bytes_);
+    }
+
+  private:
+    QByteArray bytes_;
+    qsizetype used_ = 0;
+};
+
 class Reader {
   public:
     Reader(const QString& rtf, RawLineEnds lineEnds)
         : rtf_(rtf), keepLineEnds_(lineEnds == RawLineEnds::Keep) {
-        out_.text.reserve(rtf.size());
+        text_.Room(rtf.size());
+        for (const char c : {'\\', '{', '}'})
+            special_[static_cast<std::size_t>(c)] = true;
+        special_['\r'] = special_['\n'] = !keepLineEnds_;
     }
 
     RtfText Read() {
         while (pos_ < rtf_.size() && !ended_)
             Step();
         EndSurrogate();
-        return std::move(out_);
+        return {text_.Take(), std::move(runs_)};
     }
 
   private:
@@ -86,25 +112,7 @@ class Reader {
         groups_.pop_back();
     }
 
-    bool IsSpecial(QChar c) const {
-        return c == u'\\' || c == u'{' || c == u'}' || (!keepLineEnds_ && (c == u'\r' || c == u'\n'));
-    }
-
-    /// The end of the plain text that starts here: a text is mostly that, so this is where the time goes.
-    qsizetype EndOfPlain() const {
-        const QChar* const start = rtf_.constData();
-        const QChar* const end = start + rtf_.size();
-        const QChar* at = start + pos_;
-        // All special characters but line ends stand at or above the backslash.
-        if (keepLineEnds_) {
-            while (at != end && (*at < u'\\' || !IsSpecial(*at)))
-                ++at;
-        } else {
-            while (at != end && !IsSpecial(*at))
-                ++at;
-        }
-        return at - start;
-    }
+    bool IsSpecial(QChar c) const { return c < u'\x80' && special_[c.unicode()]; }
 
     void ReadPlain() {
         if (!keepLineEnds_ && (rtf_[pos_] == u'\r' || rtf_[pos_] == u'\n')) {
@@ -116,13 +124,32 @@ class Reader {
             ++pos_;
             return;
         }
+        if (state_.target == GroupState::Target::Text && highSurrogate_.isNull() && rtf_[pos_] < u'\x80') {
+            CopyAscii();
+            return;
+        }
         const qsizetype start = pos_;
-        pos_ = EndOfPlain();
+        while (pos_ < rtf_.size() && !IsSpecial(rtf_[pos_]))
+            ++pos_;
         const QStringView piece = QStringView(rtf_).mid(start, pos_ - start);
         if (state_.target == GroupState::Target::ColorTable)
             ReadTableText(piece);
         else
             Put(piece);
+    }
+
+    /// A text is mostly this, so here is where the time goes: each character is looked at and copied in one
+    /// step, as one byte, up to the next that means something or takes more than a byte.
+    void CopyAscii() {
+        const QChar* const from = rtf_.constData() + pos_;
+        const QChar* const end = rtf_.constData() + rtf_.size();
+        char* to = text_.Room(end - from);
+        const QChar* at = from;
+        for (; at != end && *at < u'\x80' && !special_[at->unicode()]; ++at)
+            *to++ = static_cast<char>(at->unicode());
+        text_.End(to);
+        pos_ += at - from;
+        CountRun(static_cast<int>(at - from));
     }
 
     void ReadControl() {
@@ -159,7 +186,7 @@ class Reader {
         if (rtf_[pos_] == u'\r' && pos_ + 1 < rtf_.size() && rtf_[pos_ + 1] == u'\n')
             ++pos_;
         ++pos_;
-        Put(u"\r\n");
+        PutAscii("\r\n");
     }
 
     void ReadHex() {
@@ -197,9 +224,9 @@ class Reader {
         }
         EndSurrogate();
         if (word.name == u"par" || word.name == u"line")
-            Put(u"\r\n");
+            PutAscii("\r\n");
         else if (word.name == u"tab")
-            Put(u"\t");
+            PutAscii("\t");
         else if (word.name == u"cf")
             state_.color = TableColor(word.number.value_or(0));
         else if (word.name == u"uc")
@@ -277,10 +304,10 @@ class Reader {
     void PutOne(QChar c) {
         if (skip_ > 0) {
             --skip_;
-        } else if (c < u'\x80' && state_.target == GroupState::Target::Text && highSurrogate_.isNull()) {
+        } else if (c < u'\x80') {
             // A script is made of escaped braces: they go the short way.
-            out_.text += c;
-            CountRun(1);
+            const auto byte = static_cast<char>(c.unicode());
+            PutAscii(QByteArrayView(&byte, 1));
         } else {
             Put(QStringView(&c, 1));
         }
@@ -290,26 +317,30 @@ class Reader {
         if (state_.target != GroupState::Target::Text || piece.isEmpty())
             return;
         EndSurrogate();
-        const qsizetype before = out_.text.size();
-        const bool fits = std::all_of(piece.begin(), piece.end(),
-                                      [](QChar c) { return c.unicode() < 0x80 || Cp1252::ToCode(c) >= 0; });
-        if (fits)
-            out_.text += piece;
-        else
-            out_.text += Cp1252::Accept(piece);
-        CountRun(static_cast<int>(out_.text.size() - before));
+        const QByteArray bytes = Cp1252::Accept(piece).toUtf8();
+        text_.Append(bytes);
+        CountRun(static_cast<int>(bytes.size()));
     }
 
-    /// The last characters of the text are in the colour that holds now.
+    void PutAscii(QByteArrayView piece) {
+        if (state_.target != GroupState::Target::Text)
+            return;
+        EndSurrogate();
+        text_.Append(piece);
+        CountRun(static_cast<int>(piece.size()));
+    }
+
+    /// The last bytes of the text are in the colour that holds now.
     void CountRun(int length) {
-        if (!out_.runs.empty() && out_.runs.back().color == state_.color)
-            out_.runs.back().length += length;
+        if (!runs_.empty() && runs_.back().color == state_.color)
+            runs_.back().length += length;
         else
-            out_.runs.push_back({length, state_.color});
+            runs_.push_back({length, state_.color});
     }
 
     const QString& rtf_;
     const bool keepLineEnds_;
+    std::array<bool, 128> special_{}; ///< the characters that end a stretch of plain text
     qsizetype pos_ = 0;
     bool ended_ = false;
     bool groupStart_ = false; ///< nothing but \* stands between the last opening brace and here
@@ -319,7 +350,8 @@ class Reader {
     std::optional<ColorNumber> entry_;
     int skip_ = 0;
     QChar highSurrogate_;
-    RtfText out_;
+    Utf8Text text_;
+    std::vector<RtfRun> runs_;
 };
 
 } // namespace

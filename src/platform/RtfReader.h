@@ -3,17 +3,18 @@
 
 #include "platform/RichTextBox.h"
 
+#include <QByteArray>
 #include <QString>
 #include <vector>
 
 struct RtfRun {
-    int length;        ///< in characters
+    int length;        ///< in bytes
     ColorNumber color; ///< -1 for the empty entry of the colour table: the control's own text colour
     bool operator==(const RtfRun&) const = default;
 };
 
 struct RtfText {
-    QString text;             ///< characters of code page 1252 only
+    QByteArray text;          ///< UTF-8, as the text control holds it; characters of code page 1252 only
     std::vector<RtfRun> runs; ///< cover the text without a gap; neighbours differ in colour, none is empty
 };
 

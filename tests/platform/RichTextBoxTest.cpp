@@ -238,4 +238,29 @@ TEST_F(RichTextBoxTest, PaintingWaitsWhileAHoldLives) {
     EXPECT_TRUE(box.updatesEnabled());
 }
 
+TEST_F(RichTextBoxTest, ScrollingWaitsForTheEndOfAHoldAndGoesToTheCaretsLastPlace) {
+    const QString page = u"line\r\n"_s.repeated(500);
+    const auto inView = [&] { return box.viewport()->rect().contains(box.CaretPixel()); };
+    box.SetText(page);
+    const int first = box.PositionAt(QPoint(1, 1));
+    {
+        const RichTextBox::PaintHold hold(box);
+        box.SetSelStart(box.TextLength());
+        EXPECT_FALSE(inView());
+        box.SetSelLength(0);
+        EXPECT_EQ(box.PositionAt(QPoint(1, 1)), first) << "nothing moves during the hold";
+    }
+    EXPECT_TRUE(inView());
+    EXPECT_EQ(box.SelStart(), box.TextLength());
+    {
+        const RichTextBox::PaintHold hold(box);
+        box.SetSelText(page);
+        box.SetSelStart(0);
+    }
+    EXPECT_EQ(box.PositionAt(QPoint(1, 1)), first);
+    EXPECT_EQ(box.SelStart(), 0);
+    { const RichTextBox::PaintHold hold(box); }
+    EXPECT_EQ(box.PositionAt(QPoint(1, 1)), first);
+}
+
 } // namespace

@@ -28,7 +28,7 @@ class RtfReaderTest : public testing::TestWithParam<Row> {};
 TEST_P(RtfReaderTest, Reads) {
     const Row& row = GetParam();
     const RtfText read = ReadRtf(row.rtf, row.lineEnds);
-    EXPECT_EQ(read.text, row.text);
+    EXPECT_EQ(QString::fromUtf8(read.text), row.text);
     ASSERT_EQ(read.runs.size(), row.runs.size());
     for (std::size_t i = 0; i < row.runs.size(); ++i) {
         EXPECT_EQ(read.runs[i].length, row.runs[i].length) << "run " << i;
@@ -92,23 +92,23 @@ const Row rows[] = {
     {"tab, word and raw", table + S("a\\tab b\tc}"), keep, S("a\tb\tc"), {{5, -1}}},
     {"escapes", table + S("\\\\ \\{ \\}}"), keep, S("\\ { }"), {{5, -1}}},
     {"escapes in colour", table + S("\\cf1 a\\{\\cf2 \\}\\}b}"), keep, S("a{}}b"), {{2, first}, {3, red}}},
-    {"escape in a fallback", table + S("\\uc2\\u8364\\{\\}\\{}"), keep, S("€{"), {{2, -1}}},
+    {"escape in a fallback", table + S("\\uc2\\u8364\\{\\}\\{}"), keep, S("€{"), {{4, -1}}},
     {"escape in a group that holds no text", S("{\\rtf1{\\*\\x \\{}\\{}"), keep, S("{"), {{1, -1}}},
     {"escape behind half a pair", table + S("\\uc0\\u-10179\\{}"), keep, S("&#55357;{"), {{9, -1}}},
-    {"hex", table + S("\\'e9\\'80\\'41}"), keep, S("é€A"), {{3, -1}}},
+    {"hex", table + S("\\'e9\\'80\\'41}"), keep, S("é€A"), {{6, -1}}},
     {"hex that is none", table + S("\\'zz}"), keep, S("zz"), {{2, -1}}},
-    {"hex at the end", table + S("a\\'e9"), keep, S("aé"), {{2, -1}}},
+    {"hex at the end", table + S("a\\'e9"), keep, S("aé"), {{3, -1}}},
     {"half a hex at the end", table + S("a\\'e"), keep, S("ae"), {{2, -1}}},
-    {"unicode inside the code page", table + S("\\u8364?x}"), keep, S("€x"), {{2, -1}}},
+    {"unicode inside the code page", table + S("\\u8364?x}"), keep, S("€x"), {{4, -1}}},
     {"unicode outside the code page", table + S("\\u9731?x}"), keep, S("&#9731;x"), {{8, -1}}},
     {"unicode as a negative number", table + S("\\u-3913?x}"), keep, S("&#61623;x"), {{9, -1}}},
-    {"unicode with a fallback in hex", table + S("\\u8364\\'80x}"), keep, S("€x"), {{2, -1}}},
+    {"unicode with a fallback in hex", table + S("\\u8364\\'80x}"), keep, S("€x"), {{4, -1}}},
     {"unicode with another fallback length",
      table + S("\\uc2\\u8364??x\\uc0\\u8364y}"),
      keep,
      S("€x€y"),
-     {{4, -1}}},
-    {"fallback ends with its group", table + S("{\\u8364}x}"), keep, S("€x"), {{2, -1}}},
+     {{8, -1}}},
+    {"fallback ends with its group", table + S("{\\u8364}x}"), keep, S("€x"), {{4, -1}}},
     {"surrogate pair is one character",
      table + S("\\u-10179?\\u-8704?x}"),
      keep,
@@ -134,7 +134,7 @@ const Row rows[] = {
     {"a backslash at the end", table + S("a\\"), keep, S("a"), {{1, -1}}},
     {"a colour word at the end", table + S("a\\cf2"), keep, S("a"), {{1, -1}}},
     {"text without any group", S("plain"), keep, S("plain"), {{5, -1}}},
-    {"characters above 127 as they stand", table + S("é€Ÿ}"), keep, S("é€Ÿ"), {{3, -1}}},
+    {"characters above 127 as they stand", table + S("é€Ÿ}"), keep, S("é€Ÿ"), {{7, -1}}},
     {"characters from outside the code page", table + S("a☃b}"), keep, S("a&#9731;b"), {{9, -1}}},
     {"a number without an end", table + S("\\cf99999999999999999999 a}"), keep, S("a"), {{1, -1}}},
 };
@@ -156,6 +156,23 @@ TEST(RtfReader, RunsCoverALongTextWithoutAGap) {
     }
     EXPECT_EQ(covered, read.text.size());
     EXPECT_EQ(read.runs.size(), 5000U);
+}
+
+TEST(RtfReader, ATextMayBecomeLongerThanItsRtf) {
+    // A character of three bytes, one of one, and a reference longer than the word it stands for.
+    for (const char* piece : {"€", "€a", "☃", "\\u9731", "a\\u9731\\'e9"}) {
+        QString rtf = table + QStringLiteral("\\uc0\\cf2 ");
+        for (int i = 0; i < 1000; ++i)
+            rtf += S(piece);
+        const RtfText read = ReadRtf(rtf, keep);
+        QString expected = S(piece);
+        expected.replace(S("☃"), S("&#9731;"))
+            .replace(S("\\u9731"), S("&#9731;"))
+            .replace(S("\\'e9"), S("é"));
+        EXPECT_EQ(QString::fromUtf8(read.text), expected.repeated(1000)) << piece;
+        ASSERT_EQ(read.runs.size(), 1U);
+        EXPECT_EQ(read.runs[0].length, read.text.size());
+    }
 }
 
 } // namespace
