@@ -1,8 +1,8 @@
 // Program-wide values of the application shell, named after their settings keys.
 #pragma once
 
-#include <QString>
 #include <array>
+#include <QString>
 
 struct ProgramState {
     /// Number of open document windows.
@@ -23,8 +23,6 @@ struct ProgramState {
     bool LocalFTP = true;
     /// Recent files, index 0 the newest.
     std::array<QString, 8> MenuArray;
-    QString StandardDic;
-    QString CustomDic;
     /// The find dialog's start tab: 1 find, 2 replace, 3 many files.
     int FindMode = 1;
 };

@@ -8,6 +8,7 @@
 #include "builders/BuilderState.h"
 #include "editor/Document.h"
 #include "editor/EditorState.h"
+#include "editor/SpellChecker.h"
 #include "platform/Settings.h"
 #include "platform/Twips.h"
 #include "platform/Values.h"
@@ -102,9 +103,8 @@ void Shutdown::WriteFirstTimeAgain() {
 }
 
 void Shutdown::WriteDictionaries() {
-    const auto& program = frame_.State<ProgramState>();
-    frame_.Store().Write(Keys::StandardDic(), program.StandardDic);
-    frame_.Store().Write(Keys::CustomDic(), program.CustomDic);
+    frame_.Store().Write(Keys::StandardDic(), frame_.VSSpell1().StandardDic);
+    frame_.Store().Write(Keys::CustomDic(), frame_.VSSpell1().CustomDic);
 }
 
 void Shutdown::WriteTextColors() {

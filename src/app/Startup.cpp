@@ -10,6 +10,7 @@
 #include "app/WindowPlace.h"
 #include "builders/BuilderState.h"
 #include "editor/EditorState.h"
+#include "editor/SpellChecker.h"
 #include "platform/Path.h"
 #include "platform/Settings.h"
 #include "platform/Twips.h"
@@ -146,9 +147,8 @@ void Startup::MoveFrame() {
 }
 
 void Startup::ReadDictionaries() {
-    auto& program = frame_.State<ProgramState>();
-    program.StandardDic = Text(Keys::StandardDic());
-    program.CustomDic = Text(Keys::CustomDic());
+    frame_.VSSpell1().StandardDic = Text(Keys::StandardDic());
+    frame_.VSSpell1().CustomDic = Text(Keys::CustomDic());
 }
 
 void Startup::ReadEditorValues() {

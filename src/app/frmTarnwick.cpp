@@ -26,6 +26,7 @@
 #include "builders/EditTag.h"
 #include "builders/MenuTagCommands.h"
 #include "editor/Modes.h"
+#include "editor/SpellChecker.h"
 #include "platform/RichTextBox.h"
 
 #include <QApplication>
@@ -63,8 +64,10 @@ QWidget* Strip(const QString& name, QWidget* content) {
 
 frmTarnwick::frmTarnwick(Settings& store, Prompts& ask)
     : store_(store), ask_(ask), forms_(new Forms(this)), area_(new QMdiArea(this)),
-      tabStrip2_(new DocumentTabs(this)), tabStrip3_(new QTabBar(this)), statusBar_(new StatusBar(this)) {
+      tabStrip2_(new DocumentTabs(this)), tabStrip3_(new QTabBar(this)), statusBar_(new StatusBar(this)),
+      vsSpell1_(new SpellChecker(this)) {
     setObjectName(u"frmTarnwick"_s);
+    vsSpell1_->setObjectName(u"VSSpell1"_s);
     setContextMenuPolicy(Qt::NoContextMenu);
     forms_->Add(this);
     FillCommands();
@@ -314,8 +317,8 @@ bool frmTarnwick::event(QEvent* event) {
         if (auto* document = qobject_cast<frmTemplate*>(area_->currentSubWindow()))
             document->TakeBackground();
         FocusDocument();
-        // A document that was opened before the frame was on the screen is none of the area's active ones yet, and
-        // the area wakes up behind this event.
+        // A document that was opened before the frame was on the screen is none of the area's active ones
+        // yet, and the area wakes up behind this event.
         QMetaObject::invokeMethod(this, &frmTarnwick::WakeDocument, Qt::QueuedConnection);
     }
     // Whatever came while a modal dialog was up.

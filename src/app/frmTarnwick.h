@@ -16,6 +16,7 @@ class QMdiArea;
 class QMdiSubWindow;
 class QTabBar;
 class Settings;
+class SpellChecker;
 class StatusBar;
 class ToolbarHolder;
 class UserButtons;
@@ -52,6 +53,7 @@ class frmTarnwick final : public QMainWindow, public Frame {
     DocumentTabs& TabStrip2() { return *tabStrip2_; }
     UserButtons& Picture2() { return *picture2_; }
     QWidget& Picture4() { return *picture4_; }
+    SpellChecker& VSSpell1() { return *vsSpell1_; }
 
     /// What another copy of the program, or a drop, brings: opens each path in turn, pending events between.
     /// While a modal dialog is up they wait for its end.
@@ -98,6 +100,7 @@ class frmTarnwick final : public QMainWindow, public Frame {
     UserButtons* picture2_ = nullptr;
     QWidget* picture4_ = nullptr;
     StatusBar* statusBar_;
+    SpellChecker* vsSpell1_;
     QStringList arrivals_;
     FileDrop* fileDrop_ = nullptr;
     bool activationHook_ = false;

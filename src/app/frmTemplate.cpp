@@ -76,7 +76,7 @@ void frmTemplate::Form_Load() {
     QString nothing;
     // Through its own control: with colouring off the call empties a selection, and the active one is still
     // another document's.
-    WriteColoredText(frame_, *this, nothing, QString(), true);
+    WriteColoredText(frame_, *this, nothing, {}, true);
     editor.DropDownFollowsCaret = true;
     ReadSettings();
     ++frame_.State<ProgramState>().DocumentCount;

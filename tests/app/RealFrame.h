@@ -54,6 +54,7 @@ class ProgramRun {
     template <typename Widget> Widget& Find(const char* name) {
         return *frame->findChild<Widget*>(QString::fromLatin1(name));
     }
+    QObject& VSSpell1() { return *frame->findChild<QObject*>(QStringLiteral("VSSpell1")); }
     ProgramState& Program() { return frame->State<ProgramState>(); }
     EditorState& Editor() { return frame->State<EditorState>(); }
 

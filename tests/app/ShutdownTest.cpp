@@ -121,8 +121,8 @@ TEST_F(ShutdownOf, ValuesGoToTheStore) {
     run.Program().TemplateWindowState = QStringLiteral("0");
     run.Program().ReloadFlag = true;
     run.Program().TheOpenFile = QStringLiteral("/o.htm");
-    run.Program().StandardDic = QStringLiteral("/s.dic");
-    run.Program().CustomDic = QStringLiteral("/c.dic");
+    run.VSSpell1().setProperty("StandardDic", QStringLiteral("/s.dic"));
+    run.VSSpell1().setProperty("CustomDic", QStringLiteral("/c.dic"));
     run.frame->State<BuilderState>().LastDir = QStringLiteral("/site");
     run.Editor().FirstBut[29] = QStringLiteral("<X>");
     run.Editor().SecondBut[29] = QStringLiteral("</X>");

@@ -76,8 +76,8 @@ TEST_F(StartupOf, FreshStoreGivesTheDefaults) {
     EXPECT_TRUE(run.Editor().UseAutoFill);
     EXPECT_EQ(run.Editor().Background2, 16777215);
     EXPECT_EQ(run.Editor().ColorTable[4], QStringLiteral("\\red255\\green127\\blue0"));
-    EXPECT_TRUE(run.Program().StandardDic.endsWith(QStringLiteral("american.vtd")));
-    EXPECT_TRUE(run.Program().CustomDic.endsWith(QStringLiteral("custom.vtc")));
+    EXPECT_TRUE(run.VSSpell1().property("StandardDic").toString().endsWith(QStringLiteral("american.vtd")));
+    EXPECT_TRUE(run.VSSpell1().property("CustomDic").toString().endsWith(QStringLiteral("custom.vtc")));
     EXPECT_EQ(run.frame->State<BuilderState>().LastDir, qEnvironmentVariable("TARNWICK_HOME"));
     EXPECT_FALSE(run.frame->isMaximized());
     const QRect place(run.frame->pos(), run.frame->size());
@@ -117,8 +117,8 @@ TEST_F(StartupOf, ValuesComeFromTheStore) {
     EXPECT_FALSE(run.Program().LocalPreview);
     EXPECT_FALSE(run.Program().LocalFTP);
     EXPECT_FALSE(run.Editor().UseAutoFill);
-    EXPECT_EQ(run.Program().StandardDic, QStringLiteral("/a.dic"));
-    EXPECT_EQ(run.Program().CustomDic, QStringLiteral("/b.dic"));
+    EXPECT_EQ(run.VSSpell1().property("StandardDic").toString(), QStringLiteral("/a.dic"));
+    EXPECT_EQ(run.VSSpell1().property("CustomDic").toString(), QStringLiteral("/b.dic"));
 }
 
 TEST_F(StartupOf, AutoFillIsOnForAnyNumberButZero) {
