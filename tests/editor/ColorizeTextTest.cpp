@@ -34,6 +34,7 @@ TEST_P(StreamTest, OneAssignment) {
     EXPECT_TRUE(frame.State<EditorState>().RtfBuffer.isEmpty());
     EXPECT_FALSE(frame.Box().enabledDuringWrite);
     EXPECT_TRUE(frame.Box().Enabled());
+    EXPECT_TRUE(frame.statuses.isEmpty()) << "the status bar is the caller's";
 }
 
 INSTANTIATE_TEST_SUITE_P(
@@ -42,6 +43,9 @@ INSTANTIATE_TEST_SUITE_P(
         StreamRow{"worked", "<B>x</B>", "\\cf1 \\cf2 <B>\\cf1 x\\cf2 </B>\\cf1 }", "<B>x</B>"},
         StreamRow{"empty", "", "\\cf1 }", ""}, StreamRow{"plain", "abc", "\\cf1 abc}", "abc"},
         StreamRow{"inner_open", "<a <b>c", "\\cf1 \\cf2 <a <b>\\cf1 c}", "<a <b>c"},
+        StreamRow{"tag_behind_inner_open", "<a <b><I>c", "\\cf1 \\cf2 <a <b>\\cf1 \\cf2 <I>\\cf1 c}",
+                  "<a <b><I>c"},
+        StreamRow{"empty_tag", "<>x<B>", "\\cf1 \\cf2 <>\\cf1 x\\cf2 <B>\\cf1 }", "<>x<B>"},
         StreamRow{"comment_ends_at_first_close", "<!-- a > b -->", "\\cf1 \\cf6 <!-- a >\\cf1  b -->}",
                   "<!-- a > b -->"},
         StreamRow{"quotes_are_not_seen", "<a title=\">\">", "\\cf1 \\cf2 <a title=\">\\cf1 \">}",
@@ -124,6 +128,29 @@ TEST_F(ColorizeTextTest, CaretToTopWithColoringOff) {
     frame.Store().Write(Keys::ColoredTags, QStringLiteral("0"));
     ColorizeText(frame, QStringLiteral("<B>"), false, true);
     EXPECT_EQ(frame.Box().SelStart(), 0);
+}
+
+TEST_F(ColorizeTextTest, WithColoringOffATextWithoutATagIsTheSameOnePiece) {
+    frame.Store().Write(Keys::ColoredTags, QStringLiteral("0"));
+    frame.SetText(QStringLiteral("[]"));
+    frame.Box().SetSelStart(1);
+    QString text = QStringLiteral("a{\r\n");
+    bool keepDocument = true;
+    ColorizeText(frame, text, keepDocument, true);
+    EXPECT_FALSE(keepDocument);
+    EXPECT_EQ(text, QStringLiteral("a\\{\r\n")) << "line ends stay as they are";
+    EXPECT_EQ(frame.Box().Text(), QStringLiteral("[a\\{\r\n]"));
+    EXPECT_EQ(frame.Box().SelStart(), 6);
+}
+
+TEST_F(ColorizeTextTest, TheCaretGoesToTheTopBeforeTheKeysAreLetIn) {
+    QList<bool> enabled;
+    QObject::connect(frame.active->input, &RichTextBox::SelChange, frame.active, [&] {
+        if (frame.Box().SelStart() == 0)
+            enabled << frame.Box().Enabled();
+    });
+    ColorizeText(frame, QStringLiteral("<B>"), true, true);
+    EXPECT_EQ(enabled, QList<bool>{false});
 }
 
 TEST_F(ColorizeTextTest, AnEmptyKeptTextWritesTheWordAlone) {

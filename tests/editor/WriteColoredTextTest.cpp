@@ -107,8 +107,10 @@ TEST_F(WriteColoredTextTest, ResetEmptiesTheBufferAndWritesNothing) {
     frame.Box().SetSelStart(0);
     frame.Box().SetSelLength(2);
     state.RtfBuffer = QStringLiteral("rest");
-    QString text;
-    WriteColoredText(frame, text, QString(), true);
+    state.RtfFlushNow = true;
+    QString text = QStringLiteral("x\r\n");
+    WriteColoredText(frame, text, QStringLiteral("\\cf2 "), true);
+    EXPECT_EQ(text, QStringLiteral("x\r\n"));
     EXPECT_TRUE(state.RtfBuffer.isEmpty());
     EXPECT_EQ(frame.Box().Text(), QStringLiteral("abc"));
     EXPECT_TRUE(frame.Box().streams.isEmpty());
@@ -155,6 +157,15 @@ TEST_F(WriteColoredTextTest, WhatIsTypedNextHasTheTextColor) {
     EXPECT_EQ(frame.Box().ColorAt(0), 16711680);
     frame.Box().SetSelText(QStringLiteral("x"));
     EXPECT_EQ(frame.Box().ColorAt(3), 12345);
+}
+
+TEST_F(WriteColoredTextTest, WithoutAUsableTextColorWhatIsTypedNextIsBlack) {
+    state.RtfFlushNow = true;
+    Write(QStringLiteral("<B>"), "\\cf2 ");
+    EXPECT_EQ(frame.Box().SelColor(), 0) << "never stored";
+    frame.Store().Write(Keys::TextColor[0], QStringLiteral("no number"));
+    Write(QStringLiteral("<I>"), "\\cf2 ");
+    EXPECT_EQ(frame.Box().SelColor(), 0) << "no number counts as 0";
 }
 
 TEST_F(WriteColoredTextTest, TheTableIsReadAtEachWriteAndTextAlreadyThereKeepsItsColor) {

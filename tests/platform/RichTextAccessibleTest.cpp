@@ -62,6 +62,8 @@ TEST_F(RichTextAccessibleTest, ItIsAnEditableTextOfItsOwn) {
     EXPECT_TRUE(one->state().editable);
     ASSERT_NE(text, nullptr);
     ASSERT_NE(one->editableTextInterface(), nullptr);
+    const RichTextBox unnamed;
+    EXPECT_EQ(unnamed.accessibleName(), u"Text"_s) << "until its window gives it another";
 }
 
 TEST_F(RichTextAccessibleTest, DerivedControlsHaveItToo) {

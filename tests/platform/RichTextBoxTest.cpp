@@ -100,6 +100,10 @@ TEST_F(RichTextBoxTest, AssigningSelStartTakesTheSelectionAway) {
     Select(0, 3);
     box.SetSelStart(0);
     EXPECT_EQ(box.SelLength(), 0);
+    Select(1, 2);
+    box.SetSelLength(0);
+    EXPECT_EQ(box.SelStart(), 1) << "a length of none leaves the caret at the selection's start";
+    EXPECT_EQ(box.SelLength(), 0);
 }
 
 TEST_F(RichTextBoxTest, TheCaretStandsBehindTheSelection) {
@@ -129,6 +133,9 @@ TEST_F(RichTextBoxTest, LinesEndWithAnyOfTheThreeEnds) {
     EXPECT_EQ(box.LineStart(4), 3);
     EXPECT_EQ(box.NextLineStart(4), 5);
     EXPECT_EQ(box.NextLineStart(99), 12);
+    box.SetText(u"\na"_s);
+    EXPECT_EQ(box.GetLineFromChar(0), 0);
+    EXPECT_EQ(box.GetLineFromChar(1), 1);
 }
 
 TEST_F(RichTextBoxTest, LineEndIsThatOfTheFirstLine) {
@@ -223,6 +230,10 @@ TEST_F(RichTextBoxTest, FocusIsTold) {
     QApplication::sendEvent(&box, &out);
     QApplication::sendEvent(&box, &in);
     EXPECT_EQ(told, (QStringList{u"lost"_s, u"got"_s}));
+    box.clearFocus();
+    ASSERT_NE(box.focusWidget(), &box);
+    box.SetFocus();
+    EXPECT_EQ(box.focusWidget(), &box);
 }
 
 TEST_F(RichTextBoxTest, PaintingWaitsWhileAHoldLives) {

@@ -2,6 +2,7 @@
 #include "platform/RichTextFixture.h"
 
 #include <functional>
+#include <QScrollBar>
 
 namespace {
 
@@ -96,6 +97,10 @@ TEST_F(RichTextColorsTest, TextTakesTheColorInFrontOfTheCaret) {
     EXPECT_EQ(box.SelColor(), red) << "at the start that of the character behind the caret";
     box.SetText(QString());
     EXPECT_EQ(box.SelColor(), 0) << "in an empty text the control's own";
+    Put(u"ab"_s, u"rr"_s);
+    box.SetSelColor(blue);
+    box.SetText(QString());
+    EXPECT_EQ(box.SelColor(), 0) << "whatever was chosen elsewhere";
 }
 
 TEST_F(RichTextColorsTest, ReplacedTextKeepsTheColorOfTheSelectionsStart) {
@@ -223,6 +228,14 @@ TEST_F(RichTextColorsTest, TheSelectionHasTheDesktopsColors) {
     box.setPalette(other);
     EXPECT_GT(backgroundPixels(QColor(1, 99, 33)), 20);
     EXPECT_EQ(backgroundPixels(desktop), 0);
+    QFont large = box.Font();
+    large.setPointSize(40);
+    box.SetFont(large);
+    box.SetText(u"MMMM"_s);
+    Select(0, 4);
+    other.setColor(QPalette::HighlightedText, QColor(200, 7, 100));
+    box.setPalette(other);
+    EXPECT_GT(backgroundPixels(QColor(200, 7, 100)), 20) << "the letters too";
 }
 
 TEST_F(RichTextColorsTest, CaretStandsOutFromTheBackground) {
@@ -240,6 +253,52 @@ TEST_F(RichTextColorsTest, ANewFontKeepsTheColors) {
     const long style = box.SendScintilla(QsciScintillaBase::SCI_GETSTYLEAT, 0);
     EXPECT_EQ(box.SendScintilla(QsciScintillaBase::SCI_STYLEGETFORE, style), red);
     EXPECT_EQ(box.SendScintilla(QsciScintillaBase::SCI_STYLEGETSIZE, style), 20);
+}
+
+TEST_F(RichTextColorsTest, TheFontIsTheOneOfAllText) {
+    const auto style = [&](unsigned int message, int number = QsciScintillaBase::STYLE_DEFAULT) {
+        return box.SendScintilla(message, number);
+    };
+    const auto family = [&] {
+        QByteArray name(100, '\0');
+        box.SendScintilla(QsciScintillaBase::SCI_STYLEGETFONT, 0UL, name.data());
+        return QString::fromUtf8(name.constData());
+    };
+    EXPECT_EQ(box.Font(), QFont(u"Arial"_s, 10));
+    EXPECT_EQ(family(), u"Arial"_s);
+    EXPECT_EQ(style(QsciScintillaBase::SCI_STYLEGETSIZEFRACTIONAL), 1000);
+    QFont font(u"Courier"_s);
+    font.setPointSizeF(9.5);
+    font.setBold(true);
+    font.setItalic(true);
+    font.setUnderline(true);
+    box.SetFont(font);
+    EXPECT_EQ(family(), u"Courier"_s);
+    EXPECT_EQ(style(QsciScintillaBase::SCI_STYLEGETSIZEFRACTIONAL), 950);
+    EXPECT_TRUE(style(QsciScintillaBase::SCI_STYLEGETBOLD, 0));
+    EXPECT_TRUE(style(QsciScintillaBase::SCI_STYLEGETITALIC, 0));
+    EXPECT_TRUE(style(QsciScintillaBase::SCI_STYLEGETUNDERLINE, 0));
+    QFont inPixels(u"Courier"_s);
+    inPixels.setPixelSize(30);
+    box.SetFont(inPixels);
+    EXPECT_EQ(style(QsciScintillaBase::SCI_STYLEGETSIZEFRACTIONAL), 1000) << "a size in points or none";
+    EXPECT_FALSE(style(QsciScintillaBase::SCI_STYLEGETBOLD, 0));
+}
+
+TEST_F(RichTextColorsTest, TheTextBeginsAtTheControlsEdge) {
+    box.SetText(u"a"_s);
+    box.grab();
+    EXPECT_LT(box.CharacterRect(0).left(), 3) << "a margin would stand in between";
+}
+
+TEST_F(RichTextColorsTest, TheScrollBarGoesAsFarAsTheLongestLine) {
+    box.SetRightMargin(65000);
+    box.SetText(u"short"_s);
+    box.grab();
+    EXPECT_EQ(box.horizontalScrollBar()->maximum(), 0);
+    box.SetText(QString(1000, u'm'));
+    box.grab();
+    EXPECT_GE(box.horizontalScrollBar()->maximum() + box.viewport()->width(), box.CharacterRect(999).right());
 }
 
 TEST_F(RichTextColorsTest, RightMarginSwitchesWrapping) {

@@ -3,6 +3,8 @@
 
 #include "platform/RichTextKeys.h"
 
+#include <functional>
+
 namespace {
 
 using namespace Qt::StringLiterals;
@@ -177,6 +179,46 @@ TEST_F(RichTextKeysTest, MovingUpAndDownKeepsTheColumn) {
     EXPECT_EQ(box.SelStart(), box.LineStart(15) + 5);
     Press(Qt::Key_PageUp);
     EXPECT_EQ(box.SelStart(), 5);
+}
+
+/// Whatever last put the caret where it stands, Down goes on from its own column.
+TEST_F(RichTextKeysTest, MovingDownStartsFromTheColumnWhereTheCaretWasPut) {
+    const QString lines = u"abcdefgh\r\nabcdefgh"_s;
+    const std::pair<const char*, std::function<void()>> rows[] = {
+        {"0 text", [&] { box.SetText(lines); }},
+        {"0 whole text as RTF", [&] { box.SetTextRTF(u"{abcdefgh\\par abcdefgh}"_s); }},
+        {"3 caret", [&] { box.SetSelStart(3); }},
+        {"4 selection", [&] { Select(2, 2); }},
+        {"6 search", [&] { box.Find(u"ef"_s, 0); }},
+        {"2 assignment",
+         [&] {
+             Select(0, 8);
+             box.SetSelText(u"xy"_s);
+         }},
+        {"3 colours",
+         [&] {
+             Select(0, 8);
+             box.SetSelRTF(u"{xyz}"_s);
+         }},
+        {"5 typing",
+         [&] {
+             box.SetSelStart(4);
+             Type("x");
+         }},
+        {"1 deleting",
+         [&] {
+             box.SetSelStart(2);
+             Press(Qt::Key_Backspace);
+         }},
+    };
+    for (const auto& [name, put] : rows) {
+        box.SetText(lines);
+        Press(Qt::Key_End);
+        put();
+        Press(Qt::Key_Down);
+        EXPECT_EQ(box.SelStart() - box.LineStart(box.SelStart()), name[0] - '0') << name;
+        EXPECT_EQ(box.GetLineFromChar(box.SelStart()), 1) << name;
+    }
 }
 
 TEST_F(RichTextKeysTest, DeletingTakesALineEndWhole) {
