@@ -1,5 +1,6 @@
 """Writes a page by hand: keys, menu mnemonics, toolbar clicks, user buttons, input boxes; and previews it."""
 import os
+import subprocess
 import sys
 from driver import main, read, wait_for
 
@@ -49,6 +50,32 @@ def test_writes_a_small_page(desk):
     desk.wait_text('<A NAME= "top"></A>')
     assert save_as(desk, "page.htm") == (b'<H1>Title</H1>\r\n<B>bold</B>\r\n<BLOCKQUOTE>big</BLOCKQUOTE>\r\n&#160;caf&eacute;\r\n'
                                          b'<DIV>own</DIV>\r\n<A NAME= "top"></A>\r\n')
+
+
+def test_dead_and_compose_keys_write_their_letters(desk):
+    subprocess.run(["setxkbmap", "-layout", "us", "-variant", "altgr-intl", "-option", "compose:menu"], env=desk.env,
+                   check=True)
+    desk.run(desk.write("one.htm", b"."))
+    desk.wait_page(".")
+    desk.key("dead_acute", "e", "dead_diaeresis", "shift+u", "Multi_key", "s", "s")
+    desk.wait_text("&eacute;&Uuml;&szlig;.")
+    desk.key("dead_acute", "space")  # the accent alone
+    desk.wait_text("&eacute;&Uuml;&szlig;'.")
+    desk.key("Multi_key", "less", "3")
+    desk.wait_text("&#9829;.")
+    desk.key("ctrl+z")
+    wait_for("one letter taken back", lambda: "&#9829;" not in desk.text())
+
+
+def test_dead_keys_write_the_letter_itself_where_the_option_is_off(desk):
+    desk.settings("Window Options", FirstTimeAgain=1, ConvertChar=0)
+    path = desk.write("one.htm", b".")
+    desk.run(path)
+    desk.wait_page(".")
+    desk.key("dead_acute", "e")
+    desk.wait_text("\u00e9.")
+    desk.key("ctrl+s")
+    wait_for("the saved letter", lambda: read(path) == b"\xe9.\r\n")
 
 
 def test_undo_and_cut_and_paste_by_the_keys_of_the_desktop(desk):
