@@ -144,8 +144,10 @@ Outcome Replace(const QString& path, QByteArrayView content) {
         file.cancelWriting();
         return Outcome::Failed;
     }
+    // The content is on the disk: what fails now is the name. It may be in the way itself (a mount of its
+    // own), or too long for one beside it.
     if (!file.commit())
-        return file.error() == QFileDevice::RenameError ? Outcome::NotReplaceable : Outcome::Failed;
+        return Outcome::NotReplaceable;
     FlushFolder(path);
     return Outcome::Written;
 }

@@ -11,6 +11,7 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QTemporaryDir>
 #include <sched.h>
 #include <sys/mount.h>
 #include <sys/resource.h>
@@ -221,6 +222,99 @@ TEST_F(WholeFileTest, AWritableFileInAFolderThatIsNotIsWritten) {
     EXPECT_EQ(Status(path).st_ino, before);
     EXPECT_EQ(Mode(path), 0666u);
     EXPECT_EQ(Listing(), QStringList{QStringLiteral("a.htm")});
+}
+
+/// A folder below which other users get as far as its mode lets them.
+class OpenFolder {
+  public:
+    explicit OpenFolder(mode_t mode) {
+        EXPECT_EQ(::chmod(QFile::encodeName(folder_.path()).constData(), mode), 0);
+    }
+    QString Make(const char* name, const QByteArray& content, mode_t mode) const {
+        const QString path = folder_.filePath(QString::fromLatin1(name));
+        QFile file(path);
+        EXPECT_TRUE(file.open(QIODevice::WriteOnly));
+        file.write(content);
+        file.close();
+        EXPECT_EQ(::chmod(QFile::encodeName(path).constData(), mode), 0);
+        return path;
+    }
+    QStringList Listing() const {
+        return QDir(folder_.path()).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot);
+    }
+
+  private:
+    QTemporaryDir folder_;
+};
+
+TEST_F(WholeFileTest, AFileOfSomeoneElseIsWrittenInPlaceAndStaysTheirs) {
+    if (::getuid() != 0)
+        GTEST_SKIP() << "may not become another user here";
+    // With the sticky bit not even a rename over it is allowed.
+    for (const mode_t mode : {0777u, 01777u}) {
+        const OpenFolder folder(mode);
+        const QString path = folder.Make("a.htm", "the old text, longer", 0666);
+        const ino_t before = Status(path).st_ino;
+        EXPECT_EQ(AsNobody([&] { return WholeFile::Write(path, "new"); }), 1);
+        EXPECT_EQ(Content(path), "new");
+        EXPECT_EQ(Status(path).st_ino, before);
+        EXPECT_EQ(Status(path).st_uid, ::getuid());
+        EXPECT_EQ(folder.Listing(), QStringList{QStringLiteral("a.htm")});
+    }
+}
+
+TEST_F(WholeFileTest, AReadOnlyFileInOnesOwnFolderStaysAsItWas) {
+    if (::getuid() != 0)
+        GTEST_SKIP() << "may not become another user here";
+    const OpenFolder folder(0777);
+    const QString path = folder.Make("a.htm", "old", 0444);
+    ASSERT_EQ(::chown(Encoded(path).constData(), nobody, nobody), 0);
+    EXPECT_EQ(AsNobody([&] { return WholeFile::Write(path, "new"); }), 0);
+    EXPECT_EQ(Content(path), "old");
+    ASSERT_EQ(::chmod(Encoded(path).constData(), 0644), 0);
+    const ino_t before = Status(path).st_ino;
+    EXPECT_EQ(AsNobody([&] { return WholeFile::Write(path, "new"); }), 1);
+    EXPECT_EQ(Content(path), "new");
+    EXPECT_NE(Status(path).st_ino, before) << "by rename";
+    EXPECT_EQ(folder.Listing(), QStringList{QStringLiteral("a.htm")});
+}
+
+TEST_F(WholeFileTest, ANameTooLongForAFileBesideItIsWrittenInPlace) {
+    const QByteArray name(250, 'n');
+    const QString path = At(name.constData());
+    const QByteArray large(100'000, 'x');
+    EXPECT_EQ(WithSizeLimit(10'000, [&] { return WholeFile::Write(path, large); }), 0);
+    EXPECT_THAT(Listing(), IsEmpty());
+    EXPECT_TRUE(WholeFile::Write(path, "new"));
+    EXPECT_EQ(Content(path), "new");
+    EXPECT_TRUE(WholeFile::Write(path, "newer"));
+    EXPECT_EQ(Content(path), "newer");
+    EXPECT_EQ(Listing().size(), 1);
+}
+
+TEST_F(WholeFileTest, AFileThatIsAMountOfItsOwnIsWrittenInPlace) {
+    const QString path = Make("a.htm", "below");
+    const QString mounted = Make("b.htm", "the old text");
+    const int answer = InChild([&] {
+        if (::unshare(CLONE_NEWNS) != 0 || ::mount("none", "/", nullptr, MS_REC | MS_PRIVATE, nullptr) != 0 ||
+            ::mount(Encoded(mounted).constData(), Encoded(path).constData(), nullptr, MS_BIND, nullptr) != 0)
+            return cannotTell;
+        return WholeFile::Write(path, "new") && Content(path) == "new" ? 1 : 0;
+    });
+    if (answer == cannotTell)
+        GTEST_SKIP() << "may not mount here";
+    EXPECT_EQ(answer, 1);
+    EXPECT_EQ(Content(mounted), "new");
+    EXPECT_EQ(Content(path), "below");
+    EXPECT_EQ(Listing().size(), 2);
+}
+
+TEST_F(WholeFileTest, AFileTooLargeForADocumentIsNotRead) {
+    const QString path = Make("a.htm", "");
+    // A file of holes: it takes no room on the disk.
+    ASSERT_EQ(::truncate(Encoded(path).constData(), off_t{1} << 32), 0);
+    EXPECT_EQ(WholeFile::Size(path), qint64{1} << 32);
+    EXPECT_EQ(WholeFile::Read(path), std::nullopt);
 }
 
 TEST_F(WholeFileTest, AFolderThatTakesNoFilesTakesNoNewOne) {
