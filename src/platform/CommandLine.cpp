@@ -6,7 +6,7 @@
 
 QString CommandLine(const QStringList& arguments, const QString& workingFolder) {
     const QString whole = arguments.join(u' ');
-    if (whole.isEmpty() || QDir::isAbsolutePath(whole))
+    if (QDir::isAbsolutePath(whole))
         return whole;
     // A shell hands over names relative to where it stands; documents are known by their full path.
     const QString full = QDir::cleanPath(QDir(workingFolder).absoluteFilePath(whole));

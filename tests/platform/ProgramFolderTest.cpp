@@ -25,6 +25,9 @@ TEST(ProgramFolder, EnvironmentNamesItAndItIsMade) {
     EXPECT_EQ(InProgramFolder(QStringLiteral("send.out")), home + QStringLiteral("/send.out"));
     qputenv("TARNWICK_HOME", QFile::encodeName(home + u'/'));
     EXPECT_EQ(ProgramFolder(), home) << "no separator at its end";
+    qputenv("TARNWICK_HOME", QFile::encodeName(home + QStringLiteral("/far/below")));
+    EXPECT_EQ(ProgramFolder(), home + QStringLiteral("/far/below"));
+    EXPECT_TRUE(QFileInfo(home + QStringLiteral("/far/below")).isDir());
     FreshUser();
 }
 
