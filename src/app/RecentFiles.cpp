@@ -56,7 +56,6 @@ void AddToRecentFiles(Frame& frame) {
         if (RecentFiles::Caption(frame, n) == path)
             return;
     }
-    ShowSeparator(frame);
     for (int n = RecentFiles::Count - 1; n > 0; --n)
         RecentFiles::SetCaption(frame, n, RecentFiles::Caption(frame, n - 1));
     RecentFiles::SetCaption(frame, 0, path);

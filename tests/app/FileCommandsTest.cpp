@@ -178,12 +178,28 @@ TEST_F(FileCommands, SaveAsAsksForAnHtmlFileInTheLastFolder) {
 
 TEST_F(FileCommands, SaveAsCancelledChangesNothing) {
     const QString path = Edited("old", QStringLiteral("new"));
-    frame.prompts.saveAnswers = {ScriptedPrompts::Cancelled()};
+    for (const FileAnswer& none : {ScriptedPrompts::Cancelled(), FileAnswer{Folder(), {QString()}}}) {
+        frame.prompts.saveAnswers = {none};
+        frame.Run("mnuSaveAs");
+        EXPECT_EQ(FilesFrame::Content(path), "old");
+        EXPECT_EQ(frame.active->Caption(), path);
+        EXPECT_TRUE(frame.active->Modified());
+        EXPECT_EQ(LastDir(), QString());
+    }
+}
+
+TEST_F(FileCommands, DocumentThatGoesWhileItsDialogIsUpIsNotMissed) {
+    frame.prompts.whileOpen = [&](const FileRequest&) { frame.CloseDocument(); };
+    const QString written = FilesFrame::At(QStringLiteral("n.htm"));
+    frame.prompts.saveAnswers = {ScriptedPrompts::Picked(written)};
     frame.Run("mnuSaveAs");
-    EXPECT_EQ(FilesFrame::Content(path), "old");
-    EXPECT_EQ(frame.active->Caption(), path);
-    EXPECT_TRUE(frame.active->Modified());
+    EXPECT_FALSE(QFileInfo::exists(written));
     EXPECT_EQ(LastDir(), QString());
+    frame.NewDocument();
+    frame.prompts.openAnswers = {ScriptedPrompts::Picked(FilesFrame::Make(QStringLiteral("i.htm"), "x"))};
+    frame.Run("mnuInsertContents");
+    EXPECT_EQ(frame.prompts.asked.size(), 2);
+    EXPECT_EQ(frame.forms->Count(), 0);
 }
 
 TEST_F(FileCommands, SaveAsMovesTheDocumentToItsNewFile) {
@@ -274,6 +290,9 @@ TEST_F(FileCommands, SaveAsThatFailsMovesOnButKeepsTheFlag) {
         EXPECT_EQ(LastDir(), FilesFrame::At(QStringLiteral("gone/")));
         EXPECT_TRUE(frame.prompts.Messages().isEmpty());
         EXPECT_EQ(FilesFrame::Content(FilesFrame::At(QStringLiteral("a.htm"))), "old");
+        // The name is the one on the disk, and there is none.
+        EXPECT_EQ(frame.tabs, QStringList{path});
+        EXPECT_EQ(frame.tabCaptions, QStringList{QString()});
     }
 }
 

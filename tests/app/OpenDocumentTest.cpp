@@ -220,6 +220,15 @@ TEST_F(RecentFile, ThatIsGoneOrEmptyIsNotFound) {
     }
 }
 
+TEST_F(RecentFile, ThatIsOpenButGoneIsNotFound) {
+    const QString path = FilesFrame::Make(QStringLiteral("a.htm"), "x");
+    Click(path);
+    QFile::remove(path);
+    Click(path);
+    EXPECT_TRUE(frame.prompts.Messages().value(0).startsWith(QStringLiteral("The file you selected")));
+    EXPECT_EQ(frame.prompts.asked.size(), 1);
+}
+
 TEST_F(RecentFile, ThatIsOpenIsRefused) {
     const QString path = FilesFrame::Make(QStringLiteral("a.htm"), "x");
     Click(path);

@@ -114,6 +114,32 @@ TEST_F(Skeletons, AnEmptyTemplateLeavesTheDocumentEmpty) {
     frame.prompts.messageAnswers = {MsgAnswer::Yes};
     frame.Run("mnuUserTemplate");
     EXPECT_EQ(frame.Box().Text(), QString());
+    EXPECT_TRUE(frame.Box().streams.isEmpty()) << "there is nothing to colour";
+}
+
+TEST_F(Skeletons, ATemplateWithoutATagShowsNoColourWordWithTheColoursOff) {
+    frame.Store().Write(Keys::ColoredTags, QStringLiteral("0"));
+    const std::pair<const char*, const char*> rows[] = {{"words {x}", "words \\{x\\}"},
+                                                        {"<B>words", "<B>\\cf1 words"}};
+    for (const auto& [page, shown] : rows) {
+        Template() = QString::fromLatin1(page);
+        frame.SetText(QString());
+        frame.Run("mnuUserTemplate");
+        EXPECT_EQ(frame.Box().Text(), QString::fromLatin1(shown));
+    }
+}
+
+TEST_F(Skeletons, ATextOfBlanksAndLineEndsIsAText) {
+    for (const char* text : {" ", "\r\n", "\t"}) {
+        for (const char* command : {"mnuDefault", "mnuUserTemplate"}) {
+            frame.prompts.asked.clear();
+            frame.SetText(QString::fromLatin1(text));
+            frame.prompts.messageAnswers = {MsgAnswer::No};
+            frame.Run(command);
+            EXPECT_EQ(frame.prompts.Messages(), QStringList{question}) << command;
+            EXPECT_EQ(frame.Box().Text(), QString::fromLatin1(text)) << command;
+        }
+    }
 }
 
 TEST_F(Skeletons, WithNoDocumentOnlySavingATemplateSaysSo) {
