@@ -5,10 +5,12 @@
 #include "support/Text.h"
 
 #include <gtest/gtest.h>
+#include <QDateTime>
 #include <QDir>
 #include <QFile>
 #include <QLocalSocket>
 #include <QSignalSpy>
+#include <QTest>
 
 namespace {
 
@@ -101,6 +103,16 @@ TEST_F(SingleInstanceTest, LockOfADeadProcessIsReplaced) {
     EXPECT_TRUE(SingleInstance().IsFirst());
 }
 
+TEST_F(SingleInstanceTest, LockOfALivingProcessHoldsHoweverOldItIs) {
+    SingleInstance first;
+    QFile lock(FileOf(".lock"));
+    ASSERT_TRUE(lock.open(QIODevice::ReadWrite));
+    ASSERT_TRUE(
+        lock.setFileTime(QDateTime::currentDateTime().addYears(-1), QFileDevice::FileModificationTime));
+    lock.close();
+    EXPECT_FALSE(SingleInstance().IsFirst());
+}
+
 TEST_F(SingleInstanceTest, SocketIsClosedToOthers) {
     SingleInstance first;
     const auto mode = QFile::permissions(FileOf(".socket"));
@@ -133,6 +145,22 @@ TEST_F(SingleInstanceTest, WhatIsNoCopyOfOursIsNotHeard) {
     ASSERT_TRUE(arrived.wait(5000));
     EXPECT_EQ(arrived.size(), 1);
     EXPECT_EQ(arrived[0][0].toString(), QStringLiteral("x"));
+}
+
+TEST_F(SingleInstanceTest, WhatIsLongerThanAnyCommandLineIsNotHeard) {
+    constexpr qint64 megabyte = 1 << 20;
+    SingleInstance first;
+    QSignalSpy arrived(&first, &SingleInstance::Arrived);
+    QLocalSocket stranger;
+    stranger.connectToServer(FileOf(".socket"));
+    ASSERT_TRUE(stranger.waitForConnected(5000));
+    stranger.write("tarnwick 1\n" + QByteArray(6 * megabyte, 'x'));
+    ASSERT_TRUE(QTest::qWaitFor([&] { return stranger.bytesToWrite() < 2 * megabyte; }, 20'000));
+    stranger.abort();
+    EXPECT_TRUE(SingleInstance().HandOver(QStringLiteral("x")));
+    ASSERT_TRUE(arrived.wait(5000));
+    EXPECT_EQ(arrived.size(), 1);
+    EXPECT_EQ(arrived[0][0].toString().left(9), QStringLiteral("x"));
 }
 
 } // namespace

@@ -9,6 +9,7 @@
 
 #include <QDialog>
 #include <QDragEnterEvent>
+#include <QDragMoveEvent>
 #include <QDropEvent>
 #include <QLabel>
 #include <QMenu>
@@ -33,12 +34,19 @@ class Tarnwick : public FrameTest {
                               Qt::NoModifier);
         enter.ignore();
         QCoreApplication::sendEvent(&target, &enter);
+        QDragMoveEvent move(QPoint(6, 6), Qt::CopyAction | Qt::MoveAction, &data, Qt::LeftButton,
+                            Qt::NoModifier);
+        move.ignore();
+        QCoreApplication::sendEvent(&target, &move);
+        EXPECT_EQ(move.isAccepted(), enter.isAccepted());
         return enter.isAccepted();
     }
     static void Drop(QWidget& target, const QMimeData& data) {
         ASSERT_TRUE(TakesDrop(target, data));
         QDropEvent drop(QPointF(5, 5), Qt::CopyAction | Qt::MoveAction, &data, Qt::LeftButton,
                         Qt::NoModifier);
+        // Whatever the other side would like to do with its files.
+        drop.setDropAction(Qt::MoveAction);
         QCoreApplication::sendEvent(&target, &drop);
         EXPECT_EQ(drop.dropAction(), Qt::CopyAction);
     }
@@ -224,6 +232,29 @@ TEST_F(Tarnwick, StatusPanelThreeIsTheProgramsOwn) {
     EXPECT_EQ(run->Find<QLabel>("Panel3").text(), QStringLiteral("Line 7"));
 }
 
+/// What a label showed each time it was painted.
+class PaintedTexts : public QObject {
+  public:
+    explicit PaintedTexts(QLabel& label) : label_(label) { label.installEventFilter(this); }
+    QStringList texts;
+
+  protected:
+    bool eventFilter(QObject*, QEvent* event) override {
+        if (event->type() == QEvent::Paint)
+            texts << label_.text();
+        return false;
+    }
+
+  private:
+    QLabel& label_;
+};
+
+TEST_F(Tarnwick, StatusPanelThreeIsPaintedBeforeAPageIsColoured) {
+    const PaintedTexts painted(run->Find<QLabel>("Panel3"));
+    Window().OpenDocumentFile(MakeFile(QStringLiteral("a.htm"), "<B>a"));
+    EXPECT_EQ(painted.texts.count(QStringLiteral("Coloring HTML tags, please wait . . . ")), 1);
+}
+
 TEST_F(Tarnwick, StatusPanelThreeIsEmptyBehindAnOpeningUntilTheCaretMoves) {
     auto& panel = run->Find<QLabel>("Panel3");
     Window().OpenDocumentFile(MakeFile(QStringLiteral("a.htm"), "<B>a\r\nb\r\nc"));
@@ -298,6 +329,9 @@ TEST_F(Tarnwick, FilesDroppedOnATextAreOpenedAndTextIsLeftToIt) {
     QMimeData text;
     text.setText(QStringLiteral("words"));
     EXPECT_FALSE(TakesDrop(Window(), text));
+    QMimeData far;
+    far.setUrls({QUrl(QStringLiteral("http://example.org/a.htm"))});
+    EXPECT_FALSE(TakesDrop(Window(), far));
 }
 
 TEST_F(Tarnwick, PendingEventsRunBetweenDroppedFiles) {
