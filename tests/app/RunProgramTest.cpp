@@ -233,6 +233,23 @@ TEST_F(Program, LaterCopyHandsItsPageOverAndTheFrameComesToFront) {
               0);
 }
 
+TEST_F(Program, LaterCopyWithoutAPageOpensNone) {
+    bool handedOver = false;
+    EXPECT_EQ(Run(QString(),
+                  [&](frmTarnwick& frame) {
+                      if (!handedOver) {
+                          frame.showMinimized();
+                          handedOver = SingleInstance().HandOver(QString());
+                      }
+                      if (arrived == 0)
+                          return false;
+                      EXPECT_FALSE(frame.isMinimized());
+                      EXPECT_EQ(frame.ActiveForm(), nullptr);
+                      return true;
+                  }),
+              0);
+}
+
 TEST_F(Program, LaterCopyThatComesWhileTheFirstRunAsksIsHeardAfterwards) {
     Write(Keys::FirstTimeAgain, "0");
     const QString page = MakeFile(QStringLiteral("late.htm"), "late");

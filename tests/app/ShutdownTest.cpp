@@ -6,6 +6,7 @@
 #include "app/RecentFiles.h"
 #include "app/UserButtons.h"
 #include "builders/BuilderState.h"
+#include "platform/ProgramFolder.h"
 
 #include <QDialog>
 #include <QSettings>
@@ -142,6 +143,15 @@ TEST_F(ShutdownOf, ValuesGoToTheStore) {
     EXPECT_EQ(Read(Keys::FirstBut(29)), QStringLiteral("<X>"));
     EXPECT_EQ(Read(Keys::SecondBut(29)), QStringLiteral("</X>"));
     EXPECT_EQ(Read(Keys::ButCap(29)), QStringLiteral("X"));
+}
+
+TEST_F(ShutdownOf, SettingsAreOnTheDiskOnceTheFrameIsGone) {
+    ProgramRun run;
+    ASSERT_TRUE(run.Start());
+    EXPECT_TRUE(run.Stop());
+    QFile file(SettingsFolder() + QStringLiteral("/The Tarnwick.ini"));
+    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+    EXPECT_TRUE(file.readAll().contains("FirstTimeAgain=2"));
 }
 
 TEST_F(ShutdownOf, EveryPlaceOfAListComesInAndGoesOut) {
