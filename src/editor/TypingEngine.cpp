@@ -66,8 +66,8 @@ void TypingEngine::ShowLinePosition() {
 
 void TypingEngine::txtInput_GotFocus() {
     ShowLinePosition();
-    if (const Document* active = frame_.ActiveForm())
-        frame_.SelectDocumentTab(active->Caption());
+    // By a click the text has the focus before its window is the active one.
+    frame_.SelectDocumentTab(document_.Caption());
 }
 
 void TypingEngine::txtInput_DblClick() {

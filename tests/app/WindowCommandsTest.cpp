@@ -1,6 +1,7 @@
 // The Window menu: cascade, tile, line up, and the list of windows.
 #include "app/WindowCommands.h"
 
+#include "app/DocumentTabs.h"
 #include "app/RealFrame.h"
 
 #include <QDialog>
@@ -54,6 +55,27 @@ TEST_F(WindowCommands, TileFillsTheAreaInRows) {
     EXPECT_EQ(windows[1]->width(), area.width());
     EXPECT_FALSE(windows[1]->isMaximized());
     EXPECT_TRUE(windows[2]->isMinimized());
+}
+
+TEST_F(WindowCommands, ClickIntoATiledDocumentSelectsItsTab) {
+    for (const QString& name : {QStringLiteral("a.htm"), QStringLiteral("b.htm")}) {
+        const QString path = TestFolder() + u'/' + name;
+        QFile file(path);
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+        file.write("text");
+        file.close();
+        run.frame->OpenDocumentFile(path);
+    }
+    run.Entry("mnuTile").trigger();
+    const auto windows = run.frame->Area().subWindowList();
+    auto& strip = run.frame->TabStrip2();
+    for (const int index : {0, 1, 0}) {
+        QWidget* text = dynamic_cast<frmTemplate&>(*windows[index]).txtInput().viewport();
+        QTest::mouseClick(text, Qt::LeftButton, {}, QPoint(20, 10));
+        EXPECT_EQ(run.frame->Area().currentSubWindow(), windows[index]);
+        EXPECT_EQ(strip.currentIndex(), index);
+        EXPECT_EQ(strip.Tag(strip.currentIndex()), run.Active().Caption());
+    }
 }
 
 TEST_F(WindowCommands, ArrangeIconsLinesUpMinimisedWindows) {
