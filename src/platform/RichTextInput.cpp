@@ -200,8 +200,6 @@ void RichTextBox::Type(const QByteArray& text) {
 }
 
 void RichTextBox::Cut() {
-    if (Selection().Empty())
-        return;
     Sci(SCI_CUT);
 }
 

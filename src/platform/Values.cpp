@@ -81,12 +81,9 @@ int WholeVal(QStringView text) {
 }
 
 std::optional<double> ToNumber(QStringView text) {
-    const QString trimmed = Trim(text.toString());
-    // "nan" and "inf" are words here, not numbers.
-    if (trimmed.isEmpty() || trimmed.back().isLetter() || trimmed.contains(u'n', Qt::CaseInsensitive))
-        return std::nullopt;
     bool ok = false;
-    const double value = trimmed.toDouble(&ok);
+    const double value = Trim(text.toString()).toDouble(&ok);
+    // "nan" and "inf" are words here, not numbers.
     if (!ok || !std::isfinite(value))
         return std::nullopt;
     return value;

@@ -29,6 +29,7 @@ class WatchedBox final : public RichTextBox {
         } else if (event.type() == QAccessible::TextSelectionChanged) {
             const auto& selection = static_cast<QAccessibleTextSelectionEvent&>(event);
             told_ << u"selection %1 %2"_s.arg(selection.selectionStart()).arg(selection.selectionEnd());
+            EXPECT_EQ(selection.cursorPosition(), CaretPosition());
         }
     }
 
@@ -60,6 +61,8 @@ TEST_F(RichTextAccessibleTest, ItIsAnEditableTextOfItsOwn) {
     EXPECT_EQ(one->text(QAccessible::Name), u"Page text"_s);
     EXPECT_TRUE(one->state().multiLine);
     EXPECT_TRUE(one->state().editable);
+    EXPECT_TRUE(one->state().selectableText);
+    EXPECT_TRUE(one->state().focusable);
     ASSERT_NE(text, nullptr);
     ASSERT_NE(one->editableTextInterface(), nullptr);
     const RichTextBox unnamed;
@@ -92,6 +95,13 @@ TEST_F(RichTextAccessibleTest, TextCaretAndSelectionCountCharacters) {
     EXPECT_EQ(text->cursorPosition(), 3);
     text->addSelection(0, 2);
     EXPECT_EQ(box.SelText(), u"é€"_s);
+    text->selection(1, &start, &end);
+    EXPECT_EQ(std::pair(start, end), std::pair(0, 0)) << "there is one selection at most";
+    text->removeSelection(1);
+    text->setSelection(1, 3, 4);
+    EXPECT_EQ(box.SelText(), u"é€"_s);
+    text->setSelection(0, 3, 4);
+    EXPECT_EQ(text->selectionCount(), 1);
 }
 
 TEST_F(RichTextAccessibleTest, TextIsReadByCharacterWordAndLine) {
@@ -103,15 +113,29 @@ TEST_F(RichTextAccessibleTest, TextIsReadByCharacterWordAndLine) {
     EXPECT_EQ(At(5, QAccessible::LineBoundary), u"one twö\r\n"_s);
     EXPECT_EQ(end, 9);
     EXPECT_EQ(At(-1, QAccessible::LineBoundary), u"three"_s);
-    box.SetSelStart(0);
-    EXPECT_EQ(At(-2, QAccessible::WordBoundary), u"one"_s);
+    box.SetSelStart(5);
+    EXPECT_EQ(At(-2, QAccessible::WordBoundary), u"twö"_s);
+    EXPECT_EQ(text->textBeforeOffset(2, QAccessible::CharBoundary, &start, &end), u"n"_s);
+    EXPECT_EQ(text->textAfterOffset(1, QAccessible::CharBoundary, &start, &end), u"e"_s);
     EXPECT_EQ(At(3, QAccessible::NoBoundary), box.Text());
     EXPECT_EQ(text->textAfterOffset(1, QAccessible::WordBoundary, &start, &end), u"twö"_s);
     EXPECT_EQ(text->textBeforeOffset(5, QAccessible::WordBoundary, &start, &end), u"one"_s);
     EXPECT_EQ(text->textAfterOffset(1, QAccessible::LineBoundary, &start, &end), u"three"_s);
     EXPECT_EQ(text->textBeforeOffset(10, QAccessible::LineBoundary, &start, &end), u"one twö\r\n"_s);
     EXPECT_EQ(text->textBeforeOffset(0, QAccessible::LineBoundary, &start, &end), QString());
+    EXPECT_EQ(std::pair(start, end), std::pair(0, 0));
     EXPECT_EQ(text->textAfterOffset(13, QAccessible::LineBoundary, &start, &end), QString());
+    EXPECT_EQ(std::pair(start, end), std::pair(14, 14));
+}
+
+TEST_F(RichTextAccessibleTest, WordsAreFoundAnywhereInALongLine) {
+    box.SetText(u"abc def "_s.repeated(500));
+    for (const int word : {0, 512, 2000, 3992}) {
+        EXPECT_EQ(At(word + 1, QAccessible::WordBoundary), u"abc"_s) << word;
+        EXPECT_EQ(std::pair(start, end), std::pair(word, word + 3));
+        EXPECT_EQ(text->textAfterOffset(word, QAccessible::WordBoundary, &start, &end), u"def"_s) << word;
+        EXPECT_EQ(std::pair(start, end), std::pair(word + 4, word + 7));
+    }
 }
 
 TEST_F(RichTextAccessibleTest, CharactersHaveTheirPlaceOnTheScreen) {
@@ -131,6 +155,9 @@ TEST_F(RichTextAccessibleTest, ColorsAreToldWithTheirStretch) {
     EXPECT_TRUE(attributes.contains(u"color:rgb(255,0,0);"_s)) << attributes.toStdString();
     EXPECT_EQ(start, 1);
     EXPECT_EQ(end, 3);
+    Select(0, 1);
+    box.SetSelColor(0x03f201);
+    EXPECT_TRUE(text->attributes(0, &start, &end).contains(u"color:rgb(1,242,3);"_s));
 }
 
 TEST_F(RichTextAccessibleTest, TextIsEditedFromOutside) {
@@ -171,6 +198,10 @@ TEST(RichTextAccessible, ChangesAndCaretAreToldWhenTheyAreDone) {
               (QStringList{u"removed 0 éx"_s, u"inserted 0 €"_s, u"selection 1 1"_s, u"caret 1"_s}));
     watched.SetSelLength(1);
     EXPECT_EQ(watched.Told(), (QStringList{u"selection 1 2"_s, u"caret 2"_s}));
+    watched.SetSelStart(1);
+    watched.Told();
+    QTest::keyClick(&watched, Qt::Key_Delete);
+    EXPECT_EQ(watched.Told(), QStringList{u"removed 1 a"_s}) << "the caret stays";
 }
 
 } // namespace

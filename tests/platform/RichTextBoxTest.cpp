@@ -26,6 +26,11 @@ TEST_F(RichTextBoxTest, TextIsWhatWasAssignedAndTheCaretIsAtItsStart) {
     EXPECT_EQ(box.TextLength(), text.size());
     EXPECT_EQ(box.SelStart(), 0);
     EXPECT_EQ(box.SelLength(), 0);
+    Press(Qt::Key_A, Qt::ControlModifier);
+    const QString rtf = box.SelRTF();
+    box.SetSelText(QString());
+    box.SetSelRTF(rtf);
+    EXPECT_EQ(box.Text(), text) << "as RTF too, down to the byte 0 and the end-of-text byte";
 }
 
 TEST_F(RichTextBoxTest, PositionsCountCharactersWhateverTheyAre) {
@@ -239,6 +244,7 @@ TEST_F(RichTextBoxTest, FocusIsTold) {
 TEST_F(RichTextBoxTest, PaintingWaitsWhileAHoldLives) {
     {
         const RichTextBox::PaintHold outer(box);
+        EXPECT_FALSE(box.updatesEnabled());
         {
             const RichTextBox::PaintHold inner(box);
             EXPECT_FALSE(box.updatesEnabled());

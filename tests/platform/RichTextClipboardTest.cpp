@@ -2,6 +2,7 @@
 #include "platform/RichTextFixture.h"
 
 #include <QClipboard>
+#include <QMimeData>
 
 namespace {
 
@@ -50,6 +51,19 @@ TEST_F(RichTextClipboardTest, PasteTakesTheDocumentsLineEndsAndCharacters) {
         EXPECT_EQ(box.Text(),
                   u"a%1"_s.arg(end) + u"1%12%13%14 &#9731; é é &#128512;"_s.replace(u"%1"_s, end));
     }
+}
+
+TEST_F(RichTextClipboardTest, AClipboardWithoutTextPastesNothing) {
+    box.SetText(u"abc"_s);
+    Select(1, 1);
+    Signalled();
+    auto* picture = new QMimeData;
+    picture->setImageData(QImage(2, 2, QImage::Format_RGB32));
+    QApplication::clipboard()->setMimeData(picture);
+    Press(Qt::Key_V, Qt::ControlModifier);
+    EXPECT_EQ(box.Text(), u"abc"_s);
+    EXPECT_EQ(box.SelText(), u"b"_s);
+    EXPECT_EQ(Signalled(), QStringList());
 }
 
 TEST_F(RichTextClipboardTest, PasteIsOneStepInTheColorAtTheCaret) {

@@ -49,13 +49,22 @@ TEST_F(RichTextColorsTest, RtfThatHoldsNothingDeletesTheSelection) {
 }
 
 TEST_F(RichTextColorsTest, SelRtfReadsBackWhatItGives) {
-    Put(u"a\\{é}\r\n€\nx"_s, u"krgbrrgkbb"_s);
-    Select(0, 10);
-    const QString rtf = box.SelRTF();
-    box.SetText(QString());
-    box.SetSelRTF(rtf);
-    EXPECT_EQ(box.Text(), u"a\\{é}\r\n€\nx"_s);
-    EXPECT_EQ(Colors(), u"krgbrrgkbb"_s);
+    for (const RawLineEnds mode : {RawLineEnds::Keep, RawLineEnds::Skip}) {
+        box.SetRawLineEndMode(mode);
+        Put(u"a\\{é}\r\n€\nx"_s, u"krgbrrgkbb"_s);
+        Select(0, 10);
+        const QString rtf = box.SelRTF();
+        Select(3, 5);
+        const QString part = box.SelRTF();
+        box.SetText(QString());
+        box.SetSelRTF(rtf);
+        EXPECT_EQ(box.Text(), u"a\\{é}\r\n€\nx"_s);
+        EXPECT_EQ(Colors(), u"krgbrrgkbb"_s);
+        box.SetText(QString());
+        box.SetSelRTF(part);
+        EXPECT_EQ(box.Text(), u"é}\r\n€"_s);
+        EXPECT_EQ(Colors(), u"brrgk"_s);
+    }
 }
 
 TEST_F(RichTextColorsTest, TextRtfIsTheWholeTextWhateverIsSelected) {
@@ -128,6 +137,15 @@ TEST_F(RichTextColorsTest, ColorAtTheCaretHoldsUntilTheCaretMovesAway) {
     EXPECT_EQ(box.SelColor(), blue) << "gone once the caret moved";
 }
 
+TEST_F(RichTextColorsTest, ColorsWrittenTakeThePlaceOfTheOneAtTheCaret) {
+    Put(u"ab"_s, u"gg"_s);
+    box.SetSelColor(blue);
+    box.SetSelRTF(table + u"\\cf1 x}"_s);
+    EXPECT_EQ(box.SelColor(), red);
+    Type("y");
+    EXPECT_EQ(Colors(), u"ggrr"_s);
+}
+
 TEST_F(RichTextColorsTest, AssigningTheTextWritesInTheColorAtTheCaret) {
     Put(u"abc"_s, u"rgb"_s);
     box.SetSelStart(2);
@@ -158,6 +176,76 @@ TEST_F(RichTextColorsTest, HundredsOfColorsEndInTheNearestOne) {
     EXPECT_EQ(last % 7, 0);
     EXPECT_LE(last, 247 * 7);
     EXPECT_GT(last, 0);
+}
+
+TEST(StyleTable, BeyondItsRoomTheNearestColorServes) {
+    StyleTable styles;
+    const int blueStyle = styles.StyleFor(blue).style;
+    const int redStyle = styles.StyleFor(red).style;
+    std::vector<int> greens;
+    while (styles.End() < StyleTable::count) {
+        greens.push_back(styles.StyleFor(static_cast<int>(greens.size() + 1) << 8).style);
+        EXPECT_TRUE(StyleTable::IsForText(greens.back()));
+    }
+    const struct {
+        ColorNumber color;
+        int style;
+    } rows[] = {{0xf00101, blueStyle},
+                {0x0101f0, redStyle},
+                {200 << 8 | 9, greens[199]},
+                {blue, blueStyle},
+                {0x010000, 0},
+                {-1, 0},
+                {0, 0},
+                {0x7f000000 | red, redStyle}};
+    for (const auto& [color, style] : rows) {
+        EXPECT_EQ(styles.StyleFor(color).style, style) << color;
+        EXPECT_FALSE(styles.StyleFor(color).isNew);
+    }
+}
+
+TEST(StyleRuns, NeighboursOfOneStyleMelt) {
+    StyleRuns runs;
+    runs.Append(0, 3);
+    runs.Append(-1, 3);
+    EXPECT_TRUE(runs.Empty());
+    runs.Append(2, 3);
+    runs.Append(1, 3);
+    runs.Append(0, 4);
+    runs.Append(1, 255);
+    ASSERT_EQ(runs.Count(), 2U);
+    EXPECT_EQ(runs.LengthOf(0), 3);
+    EXPECT_EQ(runs.StyleOf(0), 3);
+    EXPECT_EQ(runs.LengthOf(1), 1);
+    EXPECT_EQ(runs.StyleOf(1), 255);
+}
+
+TEST(StyleRuns, AStretchOfManyMegabytesIsKeptInParts) {
+    constexpr int most = 0xffffff;
+    StyleRuns runs(2 * most + 5, 7);
+    runs.Append(most, 7);
+    ASSERT_EQ(runs.Count(), 4U);
+    EXPECT_EQ(runs.LengthOf(0), most);
+    EXPECT_EQ(runs.LengthOf(1), most);
+    EXPECT_EQ(runs.LengthOf(2), most);
+    EXPECT_EQ(runs.LengthOf(3), 5);
+    EXPECT_EQ(runs.StyleOf(3), 7);
+}
+
+TEST_F(RichTextColorsTest, DeletedStretchesOfAnyLengthComeBackInTheirColors) {
+    // The colours are fetched in pieces of this many bytes.
+    constexpr int piece = 1 << 16;
+    box.SetSelRTF(table + u"\\cf1 "_s + QString(piece - 1, u'x') + u"\\cf2 ab\\cf3 "_s +
+                  QString(piece, u'y') + u"}"_s);
+    const int length = box.TextLength();
+    Press(Qt::Key_A, Qt::ControlModifier);
+    Press(Qt::Key_Delete);
+    Undo();
+    ASSERT_EQ(box.TextLength(), length);
+    for (const auto& [at, color] :
+         {std::pair(0, red), std::pair(piece - 2, red), std::pair(piece - 1, green), std::pair(piece, green),
+          std::pair(piece + 1, blue), std::pair(length - 1, blue)})
+        EXPECT_EQ(box.ColorAt(at), color) << at;
 }
 
 TEST_F(RichTextColorsTest, CharactersArePaintedInTheirColors) {

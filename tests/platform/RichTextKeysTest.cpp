@@ -4,6 +4,7 @@
 #include "platform/RichTextKeys.h"
 
 #include <functional>
+#include <QClipboard>
 
 namespace {
 
@@ -80,6 +81,14 @@ const KeyRow keyRows[] = {
      u"ab@| cd"_s},
     {"outside the code page", Qt::Key_unknown, Qt::NoModifier, u"☃"_s, {}, u"ab&#9731;| cd"_s},
     {"pair", Qt::Key_unknown, Qt::NoModifier, u"😀"_s, {}, u"ab&#128512;| cd"_s},
+    {"pair and more",
+     Qt::Key_unknown,
+     Qt::NoModifier,
+     u"😀xy"_s,
+     {u"press 120"_s, u"press 121"_s},
+     u"ab&#128512;xy| cd"_s},
+    {"last of the code page", Qt::Key_ydiaeresis, Qt::NoModifier, u"ÿ"_s, {u"press 255"_s}, u"abÿ| cd"_s},
+    {"ctrl c is an editing key", Qt::Key_C, Qt::ControlModifier, u"\x03"_s, {u"down 67 2"_s}, u"ab| cd"_s},
     {"letter and accent apart",
      Qt::Key_unknown,
      Qt::NoModifier,
@@ -140,6 +149,8 @@ const KeyRow keyRows[] = {
      u"\x0c"_s,
      {u"down 76 2"_s, u"press 12"_s},
      u"ab| cd"_s},
+    {"soft hyphen", Qt::Key_hyphen, Qt::NoModifier, u"\u00ad"_s, {u"press 173"_s}, u"ab\u00ad| cd"_s},
+    {"a control character types nothing", Qt::Key_unknown, Qt::NoModifier, u"\x01"_s, {}, u"ab| cd"_s},
     {"alt letter is a menu's", Qt::Key_F, Qt::AltModifier, u"f"_s, {u"down 70 4"_s}, u"ab| cd"_s},
     {"insert types nothing", Qt::Key_Insert, Qt::NoModifier, QString(), {u"down 45 0"_s}, u"ab| cd"_s},
 };
@@ -323,9 +334,11 @@ TEST_F(RichTextKeysTest, AHandlerTypesAnotherCharacter) {
     Press(Qt::Key_Backspace);
     Press(Qt::Key_B, Qt::ControlModifier);
     EXPECT_EQ(box.Text(), u"€yAA"_s);
-    onPress = [](int& code) { code = 400; };
-    Type("z");
-    EXPECT_EQ(box.Text(), u"€yAA"_s) << "a code outside the code page types nothing";
+    for (const int none : {400, 256, -1, 31, 1}) {
+        onPress = [none](int& code) { code = none; };
+        Type("z");
+        EXPECT_EQ(box.Text(), u"€yAA"_s) << "neither a control code nor one outside the code page types";
+    }
 }
 
 TEST_F(RichTextKeysTest, AHandlerTurnsAKeyIntoAnother) {
@@ -384,13 +397,101 @@ TEST_F(RichTextKeysTest, WhatIsBeingComposedIsNoText) {
     QApplication::sendEvent(&box, &compose);
     EXPECT_EQ(box.Text(), u"ab"_s);
     EXPECT_EQ(Signalled(), QStringList());
-    const QImage composing = box.viewport()->grab().toImage();
     QInputMethodEvent commit;
     commit.setCommitString(u"k"_s);
     QApplication::sendEvent(&box, &commit);
     EXPECT_EQ(box.Text(), u"kab"_s);
     EXPECT_EQ(Signalled(), (QStringList{u"Change"_s, u"SelChange"_s}));
-    EXPECT_NE(composing, box.viewport()->grab().toImage());
+}
+
+TEST_F(RichTextKeysTest, WhatIsBeingComposedIsShownUntilItEnds) {
+    QPalette palette = box.palette();
+    palette.setColor(QPalette::Highlight, QColor(1, 99, 33));
+    box.setPalette(palette);
+    box.SetText(u"ab"_s);
+    const auto isShown = [&] {
+        const QImage image = box.viewport()->grab().toImage();
+        const QPoint caret = box.CaretPixel();
+        return image.pixelColor(caret.x() + 1, caret.y() + 1) == QColor(1, 99, 33);
+    };
+    const auto send = [&](const QString& composed, const QString& committed) {
+        QInputMethodEvent event(composed, {});
+        event.setCommitString(committed);
+        QApplication::sendEvent(&box, &event);
+    };
+    EXPECT_FALSE(isShown());
+    send(u"mm"_s, QString());
+    EXPECT_TRUE(isShown());
+    send(QString(), QString());
+    EXPECT_FALSE(isShown()) << "given up";
+    send(u"mm"_s, QString());
+    send(QString(), u"k"_s);
+    EXPECT_FALSE(isShown()) << "committed";
+    send(u"mm"_s, u"l"_s);
+    EXPECT_TRUE(isShown()) << "the next one begun";
+    QFocusEvent out(QEvent::FocusOut);
+    QApplication::sendEvent(&box, &out);
+    EXPECT_FALSE(isShown()) << "left behind";
+    EXPECT_EQ(box.Text(), u"klab"_s);
+}
+
+TEST_F(RichTextKeysTest, AnInputMethodIsAnsweredAboutTheSelection) {
+    box.SetText(u"éabcdef"_s);
+    Select(2, 3);
+    QInputMethodQueryEvent query(Qt::ImAnchorPosition | Qt::ImCursorPosition | Qt::ImCurrentSelection |
+                                 Qt::ImTextBeforeCursor | Qt::ImTextAfterCursor | Qt::ImSurroundingText);
+    QApplication::sendEvent(&box, &query);
+    EXPECT_EQ(query.value(Qt::ImSurroundingText).toString(), box.Text());
+    EXPECT_EQ(query.value(Qt::ImAnchorPosition).toInt(), 2);
+    EXPECT_EQ(query.value(Qt::ImCursorPosition).toInt(), 5);
+    EXPECT_EQ(query.value(Qt::ImCurrentSelection).toString(), u"bcd"_s);
+    EXPECT_EQ(query.value(Qt::ImTextBeforeCursor).toString(), u"éabcd"_s);
+    EXPECT_EQ(query.value(Qt::ImTextAfterCursor).toString(), u"ef"_s);
+    box.SetText(QString(2000, u'x') + QString(2000, u'y'));
+    Select(1000, 2000);
+    QInputMethodQueryEvent late(Qt::ImCurrentSelection | Qt::ImTextBeforeCursor);
+    QApplication::sendEvent(&box, &late);
+    EXPECT_LT(late.value(Qt::ImCurrentSelection).toString().size(), 1000) << "never much of a long text";
+    EXPECT_EQ(late.value(Qt::ImTextBeforeCursor).toString(),
+              QString(late.value(Qt::ImTextBeforeCursor).toString().size(), u'y'));
+}
+
+/// What the control has no use for goes on to the window around it, and only that.
+TEST_F(RichTextKeysTest, KeysOfNoUseGoOnToTheWindow) {
+    const struct {
+        int key;
+        Qt::KeyboardModifiers modifiers;
+        QString text;
+        bool used;
+    } rows[] = {
+        {Qt::Key_X, Qt::NoModifier, u"x"_s, true},          {Qt::Key_Return, Qt::NoModifier, u"\r"_s, true},
+        {Qt::Key_Left, Qt::NoModifier, QString(), true},    {Qt::Key_B, Qt::ControlModifier, u"\x02"_s, true},
+        {Qt::Key_Escape, Qt::NoModifier, u"\x1b"_s, false}, {Qt::Key_F5, Qt::NoModifier, QString(), false},
+        {Qt::Key_1, Qt::ControlModifier, u"1"_s, false}};
+    for (const auto& row : rows) {
+        QKeyEvent press(QEvent::KeyPress, row.key, row.modifiers, row.text);
+        press.ignore();
+        QApplication::sendEvent(&box, &press);
+        EXPECT_EQ(press.isAccepted(), row.used) << row.key;
+    }
+}
+
+TEST_F(RichTextKeysTest, TypingAndPastingBringTheCaretIntoView) {
+    const auto isInView = [&] {
+        box.grab();
+        return box.viewport()->rect().contains(box.CaretPixel());
+    };
+    box.SetText(QString(200, u'\n'));
+    QApplication::clipboard()->setText(u"p"_s);
+    const std::function<void()> rows[] = {[&] { Type("x"); }, [&] { Press(Qt::Key_Return); },
+                                          [&] { Press(Qt::Key_V, Qt::ControlModifier); }};
+    for (const auto& act : rows) {
+        box.SetSelStart(box.TextLength());
+        box.ScrollTo(0, 0);
+        ASSERT_FALSE(isInView());
+        act();
+        EXPECT_TRUE(isInView());
+    }
 }
 
 TEST_F(RichTextKeysTest, AnInputMethodMayReplaceWhatStandsThere) {
@@ -400,6 +501,10 @@ TEST_F(RichTextKeysTest, AnInputMethodMayReplaceWhatStandsThere) {
     event.setCommitString(u"the"_s, -3, 3);
     QApplication::sendEvent(&box, &event);
     EXPECT_EQ(box.Text(), u"the x"_s);
+    QInputMethodEvent one;
+    one.setCommitString(u"é"_s, -1, 1);
+    QApplication::sendEvent(&box, &one);
+    EXPECT_EQ(box.Text(), u"thé x"_s);
 }
 
 TEST_F(RichTextKeysTest, AnInputMethodSeesTheTextAroundTheCaret) {

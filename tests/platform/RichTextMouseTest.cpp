@@ -135,7 +135,11 @@ TEST_F(RichTextMouseTest, TheMenuKeyAsksForTheMenuAtTheCaret) {
 }
 
 TEST_F(RichTextMouseTest, ATextDroppedTakesThePlacesColorAndTheDocumentsLineEnds) {
-    Put(u"abc\ndef"_s, u"rrrrggg"_s);
+    Put(u"abc\ndxef"_s, u"rrrrgggg"_s);
+    Select(5, 1);
+    box.SetSelText(QString());
+    box.EmptyUndoBuffer();
+    Signalled();
     QMimeData data;
     data.setText(u"1\r\n☃"_s);
     EXPECT_TRUE(Drop(data, At(5)));

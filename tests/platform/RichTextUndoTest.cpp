@@ -52,6 +52,11 @@ TEST_F(RichTextUndoTest, TypedTextIsOneStepALineAndComesBackInColor) {
     Press(Qt::Key_Y, Qt::ControlModifier);
     EXPECT_EQ(box.Text(), u"abc\r\nde"_s);
     EXPECT_EQ(Colors(), u"rrrrrgg"_s);
+    Press(Qt::Key_Return);
+    box.SetSelText(u"f"_s);
+    box.SetSelText(u"g"_s);
+    Undo();
+    EXPECT_EQ(box.Text(), u"abc\r\nde\r\nf"_s) << "what comes after a line's end is not part of it";
 }
 
 TEST_F(RichTextUndoTest, WhatIsTypedBesideAnAssignmentIsAStepOfItsOwn) {
@@ -69,6 +74,11 @@ TEST_F(RichTextUndoTest, WhatIsTypedBesideAnAssignmentIsAStepOfItsOwn) {
     EXPECT_EQ(box.Text(), u"abdf"_s);
     Undo();
     EXPECT_EQ(box.Text(), u"abd"_s);
+    Type("h");
+    box.SetSelText(QString());
+    Type("i");
+    Undo();
+    EXPECT_EQ(box.Text(), u"abd"_s) << "nothing put in place of nothing parts no row of typing";
 }
 
 TEST_F(RichTextUndoTest, DeletedTextComesBackInItsColors) {
@@ -80,6 +90,20 @@ TEST_F(RichTextUndoTest, DeletedTextComesBackInItsColors) {
         Undo();
     EXPECT_EQ(box.Text(), u"aébc"_s);
     EXPECT_EQ(Colors(), u"rgbr"_s);
+}
+
+TEST_F(RichTextUndoTest, ColorsComeBackHoweverOftenItGoesBackAndForth) {
+    Put(u"aébc"_s, u"rgbr"_s);
+    Select(1, 2);
+    box.SetSelRTF(table + u"\\cf3 x\\cf1 y}"_s);
+    for (int turn = 0; turn < 3; ++turn) {
+        Undo();
+        EXPECT_EQ(box.Text(), u"aébc"_s);
+        EXPECT_EQ(Colors(), u"rgbr"_s) << turn;
+        Press(Qt::Key_Y, Qt::ControlModifier);
+        EXPECT_EQ(box.Text(), u"axyc"_s);
+        EXPECT_EQ(Colors(), u"rbrr"_s) << turn;
+    }
 }
 
 TEST_F(RichTextUndoTest, TypingAfterUndoForgetsWhatCouldBeRedone) {
@@ -94,6 +118,20 @@ TEST_F(RichTextUndoTest, TypingAfterUndoForgetsWhatCouldBeRedone) {
     Press(Qt::Key_Y, Qt::ControlModifier);
     EXPECT_EQ(box.Text(), u"ax"_s);
     EXPECT_EQ(Colors(), u"kr"_s);
+}
+
+TEST_F(RichTextUndoTest, AnInsertionInPlaceOfAnUndoneDeletionKeepsItsColors) {
+    Put(u"abc"_s, u"rgb"_s);
+    box.SetSelStart(0);
+    Press(Qt::Key_Delete);
+    Undo();
+    box.SetSelStart(3);
+    box.SetSelColor(red);
+    Type("x");
+    Undo();
+    Press(Qt::Key_Y, Qt::ControlModifier);
+    EXPECT_EQ(box.Text(), u"abcx"_s);
+    EXPECT_EQ(Colors(), u"rgbr"_s);
 }
 
 TEST_F(RichTextUndoTest, EmptyUndoBufferEndsUndoHere) {

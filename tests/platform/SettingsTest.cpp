@@ -224,7 +224,7 @@ TEST_F(SettingsTest, WritesReachTheDiskAtTheEndOfTheEvent) {
     QCoreApplication::sendPostedEvents();
     EXPECT_TRUE(Content().contains("Courier"));
     settings.Write(Keys::EditorFont, QStringLiteral("Helvetica"));
-    settings.Sync();
+    EXPECT_TRUE(settings.Sync());
     EXPECT_TRUE(Content().contains("Helvetica"));
 }
 
