@@ -3,12 +3,16 @@
 
 #include "app/frmSplash.h"
 #include "app/frmTarnwick.h"
+#include "app/frmTemplate.h"
 #include "app/Icons.h"
 #include "app/SingleInstance.h"
 #include "app/Startup.h"
 
 #include <QApplication>
 #include <QDeadlineTimer>
+#include <QMdiArea>
+#include <QMdiSubWindow>
+#include <QPointer>
 #include <QSessionManager>
 #include <QThread>
 #include <QWindow>
@@ -17,12 +21,26 @@ namespace {
 
 constexpr int longestWaitMilliseconds = 100;
 
+/// The documents whose text changed, the active one first as when the frame is closed.
+QList<QPointer<frmTemplate>> ModifiedDocuments(frmTarnwick& frame) {
+    QList<QPointer<frmTemplate>> modified;
+    for (QMdiSubWindow* window : frame.Area().subWindowList(QMdiArea::ActivationHistoryOrder))
+        if (auto* document = qobject_cast<frmTemplate*>(window); document && document->Modified())
+            modified.prepend(document);
+    return modified;
+}
+
+/// Saves, and no more: another program may stop the session's end, and then this one is still needed. It is
+/// closed when the session tells it to go. A session that lets no one ask has its questions asked then.
 void AskAtSessionEnd(frmTarnwick& frame, QSessionManager& session) {
-    if (!session.allowsInteraction())
+    const bool quiet = !QApplication::activeModalWidget() && ModifiedDocuments(frame).isEmpty();
+    if (quiet || !session.allowsInteraction())
         return;
-    if (!CloseAtSessionEnd(frame))
+    // Who has said to be done with asking would have to ask for leave once more, only to say Cancel.
+    if (SaveAtSessionEnd(frame))
+        session.release();
+    else
         session.cancel();
-    session.release();
 }
 
 /// From before the frame's load on: the first run waits in it for a dialog, and
@@ -92,6 +110,11 @@ int RunProgram(frmTarnwick& frame, SingleInstance& instance, const QString& comm
     return stopped ? 0 : QApplication::exec();
 }
 
-bool CloseAtSessionEnd(frmTarnwick& frame) {
-    return !QApplication::activeModalWidget() && frame.close();
+bool SaveAtSessionEnd(frmTarnwick& frame) {
+    if (QApplication::activeModalWidget())
+        return false;
+    for (const QPointer<frmTemplate>& document : ModifiedDocuments(frame))
+        if (document && !document->SaveAtSessionEnd())
+            return false;
+    return true;
 }

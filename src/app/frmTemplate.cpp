@@ -134,19 +134,23 @@ void frmTemplate::SetCaption(const QString& path) {
     setWindowTitle(title.replace(u"[*]"_s, u"[*][*]"_s));
 }
 
-bool frmTemplate::Form_QueryUnload() {
+MsgAnswer frmTemplate::AskAboutSaving() {
     frame_.LoadedForms().Unload(u"frmDropDown"_s);
-    if (Modified()) {
-        // The question is about the window that a person sees on top, and saving works on the active one.
-        frame_.ActivateDocument(*this);
-        const MsgAnswer answer =
-            frame_.Ask().MsgBox(frame_.Window(), u"Do you want to save?"_s, MsgButtons::YesNoCancel,
-                                MsgIcon::Question, u"Save Document?"_s);
-        if (answer == MsgAnswer::Cancel)
-            return false;
-        if (answer == MsgAnswer::Yes)
-            frame_.SaveActiveDocument();
-    }
+    if (!Modified())
+        return MsgAnswer::Yes;
+    // The question is about the window that a person sees on top, and saving works on the active one.
+    frame_.ActivateDocument(*this);
+    const MsgAnswer answer =
+        frame_.Ask().MsgBox(frame_.Window(), u"Do you want to save?"_s, MsgButtons::YesNoCancel,
+                            MsgIcon::Question, u"Save Document?"_s);
+    if (answer == MsgAnswer::Yes)
+        frame_.SaveActiveDocument();
+    return answer;
+}
+
+bool frmTemplate::Form_QueryUnload() {
+    if (AskAboutSaving() == MsgAnswer::Cancel)
+        return false;
     frame_.RemoveDocumentTab(Caption());
     auto& program = frame_.State<ProgramState>();
     --program.DocumentCount;
@@ -164,6 +168,19 @@ bool frmTemplate::Unload() {
     if (stage_ == Unloaded)
         TakeDown();
     return stage_ == Unloaded;
+}
+
+bool frmTemplate::SaveAtSessionEnd() {
+    if (stage_ != Open)
+        return stage_ == Unloaded;
+    stage_ = Asking;
+    const MsgAnswer answer = AskAboutSaving();
+    stage_ = Open;
+    if (answer != MsgAnswer::No)
+        return answer == MsgAnswer::Yes;
+    // Or the program's end would ask again.
+    SetModified(false);
+    return Unload();
 }
 
 void frmTemplate::TakeDown() {

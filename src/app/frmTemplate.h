@@ -9,6 +9,7 @@
 
 class Frame;
 class QTimer;
+enum class MsgAnswer;
 
 /// The document itself: its caption, its modified flag and its text are all there is. Born by
 /// frmTarnwick::NewDocument, gone by Unload, which is also what its close button does.
@@ -32,6 +33,9 @@ class frmTemplate final : public QMdiSubWindow, public Document {
     /// Asks about saving where the text changed. False on Cancel, and then nothing happened; else the
     /// document counts no longer, and the window has to go.
     bool Form_QueryUnload();
+    /// Asks about saving as closing the window does, and lets the window stand: the session may yet go on.
+    /// Only one that is not to be saved goes. False on Cancel.
+    bool SaveAtSessionEnd();
 
     QString Caption() const override { return caption_; }
     void SetCaption(const QString& path) override;
@@ -55,6 +59,8 @@ class frmTemplate final : public QMdiSubWindow, public Document {
   private:
     void ReadSettings();
     void ShowInItsState();
+    /// Yes, with nothing asked, where nothing changed.
+    MsgAnswer AskAboutSaving();
     void TakeDown();
 
     Frame& frame_;

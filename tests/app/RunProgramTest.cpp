@@ -183,20 +183,66 @@ TEST_F(Program, NoWindowThatIsLeftKeepsTheProcessAlive) {
     EXPECT_EQ(Read(Keys::FirstTimeAgain), QStringLiteral("2"));
 }
 
-TEST_F(Program, EndOfTheSessionClosesTheFrameUnlessADialogIsUp) {
+TEST_F(Program, EndOfTheSessionIsStoppedByADialogThatIsUp) {
     EXPECT_EQ(Run(QString(),
                   [](frmTarnwick& frame) {
                       QDialog question(&frame);
                       question.setModal(true);
                       question.show();
-                      EXPECT_FALSE(CloseAtSessionEnd(frame));
-                      EXPECT_TRUE(frame.isVisible());
+                      EXPECT_FALSE(SaveAtSessionEnd(frame));
                       question.hide();
-                      EXPECT_TRUE(CloseAtSessionEnd(frame));
-                      EXPECT_FALSE(frame.isVisible());
+                      EXPECT_TRUE(SaveAtSessionEnd(frame));
+                      EXPECT_TRUE(frame.isVisible());
                       return true;
                   }),
               0);
+    EXPECT_TRUE(prompts.asked.isEmpty());
+}
+
+TEST_F(Program, EndOfTheSessionAsksTheChangedDocumentsFromTheActiveOneOnAndLetsTheFrameStand) {
+    const QString active = MakeFile(QStringLiteral("active.htm"), "active");
+    const QString same = MakeFile(QStringLiteral("same.htm"), "same");
+    const QString other = MakeFile(QStringLiteral("other.htm"), "other");
+    EXPECT_EQ(Run(other,
+                  [&](frmTarnwick& frame) {
+                      frame.ActiveForm()->txtInput().SetSelText(QStringLiteral("my "));
+                      frame.OpenDocumentFile(same);
+                      frame.OpenDocumentFile(active);
+                      frame.ActiveForm()->txtInput().SetSelText(QStringLiteral(" page"));
+
+                      prompts.messageAnswers = {MsgAnswer::Yes, MsgAnswer::Cancel};
+                      EXPECT_FALSE(SaveAtSessionEnd(frame));
+                      EXPECT_EQ(prompts.asked.size(), 2);
+                      EXPECT_EQ(Content(active), "active page\r\n");
+                      EXPECT_EQ(frame.Area().subWindowList().size(), 3);
+
+                      prompts.messageAnswers = {MsgAnswer::No};
+                      EXPECT_TRUE(SaveAtSessionEnd(frame));
+                      EXPECT_EQ(prompts.asked.size(), 3);
+                      EXPECT_EQ(Content(other), "other");
+                      EXPECT_EQ(frame.Area().subWindowList().size(), 2);
+                      EXPECT_TRUE(frame.isVisible());
+                      return true;
+                  }),
+              0);
+    // Nothing is asked twice.
+    EXPECT_EQ(prompts.asked.size(), 3);
+}
+
+TEST_F(Program, PageThatFoundNoPlaceAtTheEndOfTheSessionIsKeptAndAskedAboutAgain) {
+    EXPECT_EQ(Run(QString(),
+                  [&](frmTarnwick& frame) {
+                      frame.NewDocument();
+                      frame.ActiveForm()->txtInput().SetSelText(QStringLiteral("words"));
+                      prompts.messageAnswers = {MsgAnswer::Yes};
+                      prompts.saveAnswers = {ScriptedPrompts::Cancelled()};
+                      EXPECT_TRUE(SaveAtSessionEnd(frame));
+                      EXPECT_TRUE(frame.ActiveForm() && frame.ActiveForm()->Modified());
+                      prompts.messageAnswers = {MsgAnswer::No};
+                      return true;
+                  }),
+              0);
+    EXPECT_TRUE(prompts.messageAnswers.empty());
 }
 
 TEST_F(Program, FrameThatIsClosedInItsLoadNeverComesUp) {
