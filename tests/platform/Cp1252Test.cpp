@@ -49,4 +49,6 @@ TEST(Cp1252, AcceptWritesOutsideCharactersAsReferences) {
     EXPECT_EQ(Cp1252::Accept(QString(QChar(0xD83D))), QStringLiteral("&#55357;"));
     EXPECT_EQ(Cp1252::Accept(QString(QChar(0xD83D)) + u'a'), QStringLiteral("&#55357;a"));
     EXPECT_EQ(Cp1252::Accept(u""), QString());
+    EXPECT_EQ(Cp1252::Accept(QString(QChar(u'\0')) + u'\u2603'),
+              QString(QChar(u'\0')) + QStringLiteral("&#9731;"));
 }

@@ -158,6 +158,11 @@ TEST_F(RichTextAccessibleTest, ColorsAreToldWithTheirStretch) {
     Select(0, 1);
     box.SetSelColor(0x03f201);
     EXPECT_TRUE(text->attributes(0, &start, &end).contains(u"color:rgb(1,242,3);"_s));
+    EXPECT_EQ(std::pair(start, end), std::pair(0, 1));
+    text->attributes(3, &start, &end);
+    EXPECT_EQ(std::pair(start, end), std::pair(3, 5));
+    EXPECT_EQ(text->attributes(-1, &start, &end), QString()) << "behind the text there is none";
+    EXPECT_EQ(std::pair(start, end), std::pair(5, 5));
 }
 
 TEST_F(RichTextAccessibleTest, TextIsEditedFromOutside) {

@@ -47,6 +47,7 @@ class RichTextMouseTest : public RichTextFixture {
         QDragMoveEvent move(at, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
         QApplication::sendEvent(box.viewport(), &move);
         EXPECT_EQ(enter.isAccepted(), move.isAccepted());
+        showsPlace = move.isAccepted();
         QDropEvent drop(at, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
         drop.ignore();
         QApplication::sendEvent(box.viewport(), &drop);
@@ -54,6 +55,7 @@ class RichTextMouseTest : public RichTextFixture {
     }
 
     QStringList told;
+    bool showsPlace = false; ///< the last thing dragged over the text was shown a place there
 };
 
 TEST_F(RichTextMouseTest, AClickPutsTheCaretThere) {
@@ -72,6 +74,35 @@ TEST_F(RichTextMouseTest, ButtonsAreToldByNumberWithTheKeysHeld) {
     EXPECT_EQ(Told(), (QStringList{u"down 2 3 30,12"_s, u"up 2 3 30,12"_s}));
     QTest::mouseClick(box.viewport(), Qt::MiddleButton, Qt::AltModifier, QPoint(30, 12));
     EXPECT_EQ(Told(), (QStringList{u"down 4 4 30,12"_s, u"up 4 4 30,12"_s}));
+    QTest::mouseClick(box.viewport(), Qt::LeftButton, Qt::NoModifier, QPoint(30, 12));
+    EXPECT_EQ(Told(), (QStringList{u"down 1 0 30,12"_s, u"up 1 0 30,12"_s}));
+    QTest::mouseClick(box.viewport(), Qt::BackButton, Qt::NoModifier, QPoint(30, 12));
+    EXPECT_EQ(Told(), (QStringList{u"down 0 0 30,12"_s, u"up 0 0 30,12"_s})) << "no number of its own";
+}
+
+TEST_F(RichTextMouseTest, OnlyTheLeftButtonDoubleClicks) {
+    box.SetText(u"one two"_s);
+    QTest::mouseClick(box.viewport(), Qt::RightButton, Qt::NoModifier, At(5));
+    Told();
+    const QPointF at = At(5);
+    QMouseEvent second(QEvent::MouseButtonDblClick, at, box.viewport()->mapToGlobal(at), Qt::RightButton,
+                       Qt::RightButton, Qt::NoModifier);
+    QApplication::sendEvent(box.viewport(), &second);
+    ASSERT_EQ(told.size(), 1);
+    EXPECT_TRUE(told[0].startsWith(u"down 2"_s)) << "another press";
+    EXPECT_EQ(box.SelLength(), 0);
+}
+
+TEST_F(RichTextMouseTest, AClickTakesTheFocus) {
+    for (const Qt::MouseButton button : {Qt::LeftButton, Qt::MiddleButton}) {
+        for (const bool on : {true, false}) {
+            box.SetEnabled(on);
+            box.clearFocus();
+            ASSERT_NE(box.focusWidget(), &box);
+            QTest::mouseClick(box.viewport(), button, Qt::NoModifier, QPoint(30, 12));
+            EXPECT_EQ(box.focusWidget(), &box) << button << on;
+        }
+    }
 }
 
 TEST_F(RichTextMouseTest, TheRightButtonKeepsTheSelection) {
@@ -89,6 +120,32 @@ TEST_F(RichTextMouseTest, DraggingTheMouseSelectsAndTells) {
     QTest::mouseRelease(box.viewport(), Qt::LeftButton, Qt::NoModifier, At(5));
     EXPECT_EQ(box.SelText(), u"bcde"_s);
     EXPECT_GE(Signalled().count(u"SelChange"_s), 2);
+}
+
+TEST_F(RichTextMouseTest, AMoveWithTheButtonDownSelectsWhileTheControlIsOn) {
+    box.SetText(u"abcdefgh"_s);
+    const auto moveTo = [&](int position) {
+        const QPointF at = At(position);
+        QMouseEvent move(QEvent::MouseMove, at, box.viewport()->mapToGlobal(at), Qt::NoButton, Qt::LeftButton,
+                         Qt::NoModifier);
+        QApplication::sendEvent(box.viewport(), &move);
+    };
+    QTest::mousePress(box.viewport(), Qt::LeftButton, Qt::NoModifier, At(1));
+    moveTo(4);
+    EXPECT_EQ(box.SelText(), u"bcd"_s);
+    box.SetEnabled(false);
+    moveTo(6);
+    EXPECT_EQ(box.SelText(), u"bcd"_s);
+    box.SetEnabled(true);
+    QTest::mouseRelease(box.viewport(), Qt::LeftButton, Qt::NoModifier, At(4));
+}
+
+TEST_F(RichTextMouseTest, AButtonUpByTheProgramIsWhereTheMouseIs) {
+    box.SetText(u"abcdefgh"_s);
+    QTest::mousePress(box.viewport(), Qt::LeftButton, Qt::NoModifier, At(5));
+    box.Send(RichTextBox::Message::LeftButtonUp);
+    EXPECT_EQ(box.SelStart(), 5);
+    EXPECT_EQ(box.SelLength(), 0);
 }
 
 TEST_F(RichTextMouseTest, CtrlAndAltSelectNoRectangles) {
@@ -152,11 +209,22 @@ TEST_F(RichTextMouseTest, ATextDroppedTakesThePlacesColorAndTheDocumentsLineEnds
     EXPECT_FALSE(CanUndo());
 }
 
+TEST_F(RichTextMouseTest, ATextDroppedTakesEachDocumentsLineEnd) {
+    QMimeData data;
+    data.setText(u"1\r\n2\n3\r4"_s);
+    for (const QString& end : {u"\r\n"_s, u"\n"_s, u"\r"_s}) {
+        box.SetText(u"ab"_s + end);
+        EXPECT_TRUE(Drop(data, At(1)));
+        EXPECT_EQ(box.Text(), u"a1%12%13%14b%1"_s.replace(u"%1"_s, end));
+    }
+}
+
 TEST_F(RichTextMouseTest, FilesAreLeftToTheFrame) {
     QMimeData data;
     data.setUrls({QUrl(u"file:///tmp/a.htm"_s)});
     data.setText(u"file:///tmp/a.htm"_s);
     EXPECT_FALSE(Drop(data, QPoint(5, 5)));
+    EXPECT_FALSE(showsPlace);
     EXPECT_EQ(box.Text(), QString());
 }
 
@@ -172,6 +240,7 @@ TEST_F(RichTextMouseTest, OffItTakesNoMouseAndNoDrop) {
     QMimeData data;
     data.setText(u"x"_s);
     EXPECT_FALSE(Drop(data, At(2)));
+    EXPECT_FALSE(showsPlace);
     EXPECT_EQ(box.Text(), u"abcd efgh"_s);
     EXPECT_EQ(box.SelStart(), 0);
     EXPECT_EQ(box.SelLength(), 0);

@@ -1,12 +1,44 @@
 // Pages of the text, as printing takes them.
 #include "platform/RichTextFixture.h"
 
+#include <optional>
 #include <QPainter>
 
 namespace {
 
-using RichTextPrintTest = RichTextFixture;
 using namespace Qt::StringLiterals;
+
+class RichTextPrintTest : public RichTextFixture {
+  protected:
+    /// In letters so large that their strokes have their full colour.
+    void Enlarge() {
+        QFont font = box.Font();
+        font.setPointSize(40);
+        box.SetFont(font);
+    }
+
+    /// A sheet with the text from its start on a page of it.
+    QImage Draw(const QRectF& page, const QSize& size = QSize(600, 400)) {
+        QImage sheet(size, QImage::Format_RGB32);
+        sheet.fill(Qt::white);
+        QPainter painter(&sheet);
+        box.FormatRange(true, painter, page, 0);
+        return sheet;
+    }
+
+    /// What a colour, or anything at all, has been drawn on.
+    static QRect Drawn(const QImage& sheet, std::optional<QColor> color = std::nullopt) {
+        QRect all;
+        for (int x = 0; x < sheet.width(); ++x) {
+            for (int y = 0; y < sheet.height(); ++y) {
+                const QColor here = sheet.pixelColor(x, y);
+                if (color ? here == *color : here != QColor(Qt::white))
+                    all |= QRect(x, y, 1, 1);
+            }
+        }
+        return all;
+    }
+};
 
 TEST_F(RichTextPrintTest, PagesCoverTheTextWithoutGapOrRepeat) {
     QString text;
@@ -87,6 +119,67 @@ TEST_F(RichTextPrintTest, PagesAreDrawnInColorInsideTheirRectangle) {
     EXPECT_GT(reds, 10);
     EXPECT_GT(greens, 10);
     EXPECT_EQ(outside, 0);
+}
+
+TEST_F(RichTextPrintTest, EachCharacterHasItsColorAndEachRowItsPlace) {
+    Enlarge();
+    Put(u"HÉH\r\nH\nH"_s, u"rgbkkrkg"_s);
+    const QImage sheet = Draw(QRectF(50, 60, 500, 330));
+    const QColor colors[] = {QColor(255, 0, 0), QColor(0, 255, 0), QColor(0, 0, 255)};
+    const QImage firstRow = sheet.copy(0, 0, 600, 60 + QFontMetrics(box.Font(), &sheet).height());
+    const QRect redLetter = Drawn(firstRow, colors[0]);
+    const QRect greenLetter = Drawn(firstRow, colors[1]);
+    const QRect blueLetter = Drawn(firstRow, colors[2]);
+    ASSERT_FALSE(redLetter.isEmpty() || greenLetter.isEmpty() || blueLetter.isEmpty());
+    EXPECT_LT(redLetter.right(), greenLetter.left());
+    EXPECT_LT(greenLetter.right(), blueLetter.left());
+    const QRect secondRow = Drawn(sheet.copy(0, blueLetter.bottom() + 1, 600, 400), colors[0]);
+    const QRect thirdRow = Drawn(sheet.copy(0, blueLetter.bottom() + 1, 600, 400), colors[1]);
+    ASSERT_FALSE(secondRow.isEmpty() || thirdRow.isEmpty());
+    EXPECT_LT(secondRow.bottom(), thirdRow.top());
+    EXPECT_NEAR(secondRow.left(), redLetter.left(), 1);
+}
+
+TEST_F(RichTextPrintTest, NothingStandsOutsideThePage) {
+    Enlarge();
+    const QRect page(100, 110, 300, 150);
+    for (const QString& text : {QString(100, u'M'), u"MMM MMM "_s.repeated(20), u"M\n"_s.repeated(20)}) {
+        box.SetText(text);
+        const QRect drawn = Drawn(Draw(page));
+        EXPECT_TRUE(page.adjusted(-3, 0, 3, 0).contains(drawn)) << text.left(4).toStdString();
+        EXPECT_FALSE(drawn.isEmpty());
+    }
+}
+
+TEST_F(RichTextPrintTest, ATabIsEightBlanksWide) {
+    Enlarge();
+    box.SetText(u"\tH"_s);
+    const QRect behindTab = Drawn(Draw(QRectF(0, 0, 600, 400)));
+    box.SetText(u"        H"_s);
+    EXPECT_NEAR(behindTab.left(), Drawn(Draw(QRectF(0, 0, 600, 400))).left(), 1);
+}
+
+TEST_F(RichTextPrintTest, LineEndsAreNotDrawn) {
+    Enlarge();
+    box.SetText(u"HE"_s);
+    const QImage plain = Draw(QRectF(0, 0, 600, 400));
+    for (const QString& end : {u"\n"_s, u"\r"_s, u"\r\n"_s}) {
+        box.SetText(u"HE"_s + end);
+        EXPECT_EQ(Draw(QRectF(0, 0, 600, 400)), plain) << end.size();
+    }
+}
+
+TEST_F(RichTextPrintTest, ALongLineFillsEachRowOfALargePage) {
+    // Such a line is set in stretches; no row may end where a stretch does.
+    box.SetText(QString(150000, u'm'));
+    QImage sheet(10, 10, QImage::Format_RGB32);
+    QPainter painter(&sheet);
+    const int row = box.FormatRange(false, painter, QRectF(0, 0, 3000, 1), 0);
+    const int page = box.FormatRange(false, painter, QRectF(0, 0, 3000, 1500), 0);
+    ASSERT_GT(row, 100);
+    EXPECT_GT(page, 20000);
+    EXPECT_LT(page, 150000);
+    EXPECT_EQ(page % row, 0);
 }
 
 TEST_F(RichTextPrintTest, MeasuringDrawsNothing) {
