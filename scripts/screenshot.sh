@@ -59,4 +59,4 @@ for attempt in $(seq 50); do
 done
 mkdir -p "$(dirname "$picture")"
 convert "$home/last.png" -strip -colors 64 "$picture"
-echo "There is no display. A picture of the program with $page open is in $picture"
+echo "There is no display. A picture of the program, started with $page, is in $picture"
