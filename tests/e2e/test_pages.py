@@ -137,5 +137,16 @@ def test_an_unreadable_page_comes_in_once_it_can_be_read(desk):
     assert desk.ended() == 0
 
 
+def test_a_page_that_is_not_there_yet_is_opened_by_keys_and_comes_in_when_it_is(desk):
+    desk.run()
+    desk.key("ctrl+o")
+    desk.wait_active("Open")
+    desk.type(desk.path("new.htm"))
+    desk.key("Return")
+    wait_for("the awaited page", lambda: desk.widget_text_contains("Waiting for " + desk.path("new.htm")))
+    desk.write("new.htm", b"<P>there\r\n")
+    desk.wait_text("<P>there")
+
+
 if __name__ == "__main__":
     main(sys.modules[__name__])
