@@ -2,7 +2,9 @@
 #include "app/frmTemplate.h"
 
 #include "app/DocumentTabs.h"
+#include "app/EditCommands.h"
 #include "app/RealFrame.h"
+#include "editor/Modes.h"
 #include "editor/WebControls.h"
 
 #include <QDialog>
@@ -141,6 +143,29 @@ TEST_F(frmTemplateOf, DesignViewStandsInsideTheWindowUntilAResize) {
     const QRect place(-3, -3, document.width() - 4, document.height() - 23);
     EXPECT_EQ(design->geometry(), place);
     EXPECT_EQ(browser->geometry(), place);
+}
+
+TEST_F(frmTemplateOf, ActivationLeavesAViewInFrontTheFocus) {
+    PlainViews views;
+    Write(Keys::UseMSIE, "1");
+    run = std::make_unique<ProgramRun>();
+    run->frame->State<WebControls>().Load = [&views] { return &views; };
+    EXPECT_TRUE(run->Start());
+    frmTemplate& document = run->New();
+    document.Modes()->DesignClicked();
+    auto* design = document.findChild<QWidget*>(QStringLiteral("DHTMLEdit"));
+    ASSERT_TRUE(design && design->isVisible());
+    design->setFocusPolicy(Qt::StrongFocus);
+    design->setFocus();
+    ASSERT_EQ(run->frame->focusWidget(), design);
+    QEvent activate(QEvent::WindowActivate);
+    QCoreApplication::sendEvent(run->frame.get(), &activate);
+    QCoreApplication::processEvents();
+    EXPECT_EQ(run->frame->focusWidget(), design);
+    // Nor does the Edit menu work on a text that nobody sees.
+    document.txtInput().setFocus();
+    mEdit_Click(*run->frame, 3);
+    EXPECT_EQ(run->prompts.beeps, 1);
 }
 
 TEST_F(frmTemplateOf, NoViewsUnlessTheyAreAskedFor) {
