@@ -76,7 +76,15 @@ class Program : public FrameTest {
             }
         });
         turn.start(0);
-        return RunProgram(frame, instance, commandLine);
+        const int code = RunProgram(frame, instance, commandLine);
+        TakeBackTheExit();
+        return code;
+    }
+    /// A run that ends outside its event loop leaves its exit behind, at which every later loop of this
+    /// process would end at once.
+    static void TakeBackTheExit() {
+        QTimer::singleShot(0, qApp, [] { QCoreApplication::exit(); });
+        QCoreApplication::exec();
     }
     /// Opens a page, types into it, saves it: the work that a person comes for.
     void ExpectThatWorkGoesOn(const char* what) {

@@ -9,6 +9,9 @@ int main(int argc, char** argv) {
         qputenv("QT_QPA_PLATFORM", "offscreen");
     FreshUser();
     QApplication application(argc, argv);
+    // As in the program. Otherwise the last window that a test closes ends every event loop of the tests
+    // behind it.
+    QGuiApplication::setQuitOnLastWindowClosed(false);
     testing::InitGoogleMock(&argc, argv);
     return RUN_ALL_TESTS();
 }
