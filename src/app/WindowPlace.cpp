@@ -12,7 +12,7 @@ constexpr int gripHeight = 24;
 
 bool WithinReach(const QRect& window, const QRect& screen) {
     const QRect grip = QRect(window.topLeft(), QSize(window.width(), gripHeight)) & screen;
-    return grip.height() == gripHeight && grip.width() >= std::min(gripWidth, window.width());
+    return grip.height() == gripHeight && grip.width() >= gripWidth;
 }
 
 } // namespace

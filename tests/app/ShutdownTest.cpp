@@ -145,6 +145,15 @@ TEST_F(ShutdownOf, ValuesGoToTheStore) {
     EXPECT_EQ(Read(Keys::ButCap(29)), QStringLiteral("X"));
 }
 
+TEST_F(ShutdownOf, FlagThatIsOffIsWrittenAsAWordToo) {
+    Write(Keys::ReloadFlag, "True");
+    ProgramRun run;
+    ASSERT_TRUE(run.Start());
+    run.Program().ReloadFlag = false;
+    EXPECT_TRUE(run.Stop());
+    EXPECT_EQ(Read(Keys::ReloadFlag), QStringLiteral("False"));
+}
+
 TEST_F(ShutdownOf, SettingsAreOnTheDiskOnceTheFrameIsGone) {
     ProgramRun run;
     ASSERT_TRUE(run.Start());
@@ -264,9 +273,10 @@ TEST_F(ShutdownOf, MaximisedOrMinimisedFrameKeepsTheOldGeometry) {
         Write(Keys::MainWindowState, "0");
         ProgramRun run;
         ASSERT_TRUE(run.Start());
+        run.frame->resize(run.frame->width() + 20, run.frame->height());
         run.frame->setWindowState(row.state);
         EXPECT_TRUE(run.Stop());
-        EXPECT_EQ(Read(Keys::MainFormWidth), QStringLiteral("9000"));
+        EXPECT_EQ(Read(Keys::MainFormWidth), QStringLiteral("9000")) << row.digit;
         EXPECT_EQ(Read(Keys::MainWindowState), QString::fromLatin1(row.digit));
     }
 }

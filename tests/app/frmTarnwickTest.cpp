@@ -192,6 +192,9 @@ TEST_F(Tarnwick, ClickOnADocumentTabTakesTheFirstFormOfThatCaption) {
     run->New();
     dialog.setWindowTitle(path);
     dialog.show();
+    Window().activateWindow();
+    QCoreApplication::processEvents();
+    ASSERT_EQ(QApplication::activeWindow(), &Window());
     DocumentTabs& tabs = Window().TabStrip2();
     QTest::mouseClick(&tabs, Qt::LeftButton, {}, tabs.tabRect(0).center());
     QCoreApplication::processEvents();
