@@ -88,6 +88,10 @@ const KeyRow keyRows[] = {
      {u"press 120"_s, u"press 121"_s},
      u"ab&#128512;xy| cd"_s},
     {"last of the code page", Qt::Key_ydiaeresis, Qt::NoModifier, u"ÿ"_s, {u"press 255"_s}, u"abÿ| cd"_s},
+    {"meta letter is the desktop's", Qt::Key_X, Qt::MetaModifier, u"x"_s, {u"down 88 0"_s}, u"ab| cd"_s},
+    {"keypad left", Qt::Key_Left, Qt::KeypadModifier, QString(), {u"down 37 0"_s}, u"a|b cd"_s},
+    {"keypad delete", Qt::Key_Delete, Qt::KeypadModifier, u"\x7f"_s, {u"down 46 0"_s}, u"ab|cd"_s},
+    {"alt left is no move", Qt::Key_Left, Qt::AltModifier, QString(), {u"down 37 4"_s}, u"ab| cd"_s},
     {"ctrl c is an editing key", Qt::Key_C, Qt::ControlModifier, u"\x03"_s, {u"down 67 2"_s}, u"ab| cd"_s},
     {"letter and accent apart",
      Qt::Key_unknown,
@@ -162,6 +166,111 @@ TEST_F(RichTextKeysTest, TheRowOfDigitsIsKnownByItsPlace) {
     QKeyEvent press(QEvent::KeyPress, Qt::Key_Ampersand, Qt::ControlModifier, 10, 0, 0, u"&"_s);
     QApplication::sendEvent(&box, &press);
     EXPECT_EQ(Keys(), QStringList{u"down 49 2"_s});
+}
+
+int CodeOf(int key, Qt::KeyboardModifiers modifiers = Qt::NoModifier, quint32 scan = 0) {
+    return VirtualKey(QKeyEvent(QEvent::KeyPress, key, modifiers, scan, 0, 0));
+}
+
+TEST(RichTextKeys, EveryKeyHasItsVirtualCode) {
+    const std::pair<int, int> rows[] = {
+        {Qt::Key_Backspace, 8},
+        {Qt::Key_Tab, 9},
+        {Qt::Key_Backtab, 9},
+        {Qt::Key_Return, 13},
+        {Qt::Key_Enter, 13},
+        {Qt::Key_Shift, 16},
+        {Qt::Key_Control, 17},
+        {Qt::Key_Alt, 18},
+        {Qt::Key_Pause, 19},
+        {Qt::Key_CapsLock, 20},
+        {Qt::Key_Escape, 27},
+        {Qt::Key_Space, 32},
+        {Qt::Key_PageUp, 33},
+        {Qt::Key_PageDown, 34},
+        {Qt::Key_End, 35},
+        {Qt::Key_Home, 36},
+        {Qt::Key_Left, 37},
+        {Qt::Key_Up, 38},
+        {Qt::Key_Right, 39},
+        {Qt::Key_Down, 40},
+        {Qt::Key_Print, 44},
+        {Qt::Key_Insert, 45},
+        {Qt::Key_Delete, 46},
+        {Qt::Key_Menu, 93},
+        {Qt::Key_NumLock, 144},
+        {Qt::Key_ScrollLock, 145},
+        {Qt::Key_Semicolon, 186},
+        {Qt::Key_Colon, 186},
+        {Qt::Key_Equal, 187},
+        {Qt::Key_Plus, 187},
+        {Qt::Key_Comma, 188},
+        {Qt::Key_Less, 188},
+        {Qt::Key_Minus, 189},
+        {Qt::Key_Underscore, 189},
+        {Qt::Key_Period, 190},
+        {Qt::Key_Greater, 190},
+        {Qt::Key_Slash, 191},
+        {Qt::Key_Question, 191},
+        {Qt::Key_QuoteLeft, 192},
+        {Qt::Key_AsciiTilde, 192},
+        {Qt::Key_BracketLeft, 219},
+        {Qt::Key_BraceLeft, 219},
+        {Qt::Key_Backslash, 220},
+        {Qt::Key_Bar, 220},
+        {Qt::Key_BracketRight, 221},
+        {Qt::Key_BraceRight, 221},
+        {Qt::Key_Apostrophe, 222},
+        {Qt::Key_QuoteDbl, 222},
+        {Qt::Key_0, 48},
+        {Qt::Key_9, 57},
+        {Qt::Key_A, 65},
+        {Qt::Key_Z, 90},
+        {Qt::Key_F1, 112},
+        {Qt::Key_F24, 135},
+        {Qt::Key_F25, 0},
+        {Qt::Key_Eacute, 0},
+        {Qt::Key_unknown, 0},
+    };
+    for (const auto& [key, code] : rows)
+        EXPECT_EQ(CodeOf(key), code) << key;
+    const char shifted[] = ")!@#$%^&*(";
+    for (int digit = 0; digit < 10; ++digit) {
+        EXPECT_EQ(CodeOf(shifted[digit], Qt::ShiftModifier), 48 + digit);
+        EXPECT_EQ(CodeOf(Qt::Key_0 + digit, Qt::KeypadModifier), 96 + digit);
+    }
+    const std::pair<int, int> keypad[] = {{Qt::Key_Asterisk, 106}, {Qt::Key_Plus, 107},  {Qt::Key_Minus, 109},
+                                          {Qt::Key_Period, 110},   {Qt::Key_Comma, 110}, {Qt::Key_Slash, 111},
+                                          {Qt::Key_Home, 36},      {Qt::Key_Enter, 13}};
+    for (const auto& [key, code] : keypad)
+        EXPECT_EQ(CodeOf(key, Qt::KeypadModifier), code) << key;
+}
+
+#ifdef Q_OS_LINUX
+TEST(RichTextKeys, TheRowOfDigitsEndsWithItsZero) {
+    for (quint32 scan = 10; scan < 19; ++scan)
+        EXPECT_EQ(CodeOf(Qt::Key_Eacute, Qt::NoModifier, scan), 49 + static_cast<int>(scan) - 10);
+    EXPECT_EQ(CodeOf(Qt::Key_Agrave, Qt::NoModifier, 19), 48);
+    EXPECT_EQ(CodeOf(Qt::Key_Escape, Qt::NoModifier, 9), 27) << "the key to its left";
+    EXPECT_EQ(CodeOf(Qt::Key_Minus, Qt::NoModifier, 20), 189) << "the key to its right";
+}
+#endif
+
+TEST(RichTextKeys, ACodeLeadsBackToAKeyOfIt) {
+    for (const int code : {8, 9, 13, 27, 32, 35, 36, 37, 40, 46, 48, 57, 65, 90, 93, 112, 135, 186, 192, 222})
+        EXPECT_EQ(CodeOf(KeyOfVirtual(code)), code);
+    for (const int code : {0, 1, 47, 58, 64, 91, 96, 111, 136, 255, -1})
+        EXPECT_EQ(KeyOfVirtual(code), 0) << code;
+}
+
+TEST(RichTextKeys, CtrlAndALetterAreAControlCharacter) {
+    EXPECT_EQ(ControlCharacter(Qt::Key_A, Qt::ControlModifier), 1);
+    EXPECT_EQ(ControlCharacter(Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier), 26);
+    EXPECT_EQ(ControlCharacter(Qt::Key_A, Qt::NoModifier), std::nullopt);
+    EXPECT_EQ(ControlCharacter(Qt::Key_A, Qt::ControlModifier | Qt::AltModifier), std::nullopt);
+    EXPECT_EQ(ControlCharacter(Qt::Key_At, Qt::ControlModifier), std::nullopt);
+    EXPECT_EQ(ControlCharacter(Qt::Key_BracketLeft, Qt::ControlModifier), std::nullopt);
+    EXPECT_EQ(ControlCharacter(Qt::Key_Tab, Qt::ShiftModifier), std::nullopt);
 }
 
 TEST_F(RichTextKeysTest, ShiftMovesExtendTheSelection) {
