@@ -232,8 +232,11 @@ TEST_F(RichTextBoxTest, FocusIsTold) {
     QObject::connect(&box, &RichTextBox::LostFocus, &box, [&] { told << u"lost"_s; });
     QFocusEvent out(QEvent::FocusOut);
     QFocusEvent in(QEvent::FocusIn);
+    const auto showsCaret = [&] { return box.SendScintilla(QsciScintillaBase::SCI_GETFOCUS) != 0; };
     QApplication::sendEvent(&box, &out);
+    EXPECT_FALSE(showsCaret());
     QApplication::sendEvent(&box, &in);
+    EXPECT_TRUE(showsCaret());
     EXPECT_EQ(told, (QStringList{u"lost"_s, u"got"_s}));
     box.clearFocus();
     ASSERT_NE(box.focusWidget(), &box);

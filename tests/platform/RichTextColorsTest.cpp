@@ -156,6 +156,13 @@ TEST_F(RichTextColorsTest, AssigningTheTextWritesInTheColorAtTheCaret) {
     EXPECT_EQ(Colors(), u"b"_s);
 }
 
+TEST_F(RichTextColorsTest, AColorIsItsThreeLowBytes) {
+    box.SetSelColor(0x7f000000 | red);
+    EXPECT_EQ(box.SelColor(), red);
+    box.SetSelColor(-1);
+    EXPECT_EQ(box.SelColor(), 0) << "a negative one is the control's own";
+}
+
 TEST_F(RichTextColorsTest, ColorsOutsideTheTextAreNone) {
     box.SetText(u"a"_s);
     EXPECT_EQ(box.ColorAt(-1), -1);

@@ -69,6 +69,7 @@ const FindRow findRows[] = {
     {"a match across partial ones", u"aab"_s, u"ab"_s, none, none, 0, 1},
     {"whole word", u"cats cat"_s, u"cat"_s, none, none, wholeWord, 5},
     {"whole word at both ends of the text", u"cat"_s, u"CAT"_s, none, none, wholeWord, 0},
+    {"whole word behind a run of its letters", u"aaa a"_s, u"a"_s, none, none, wholeWord, 4},
     {"letters with accents make words", u"caté écat cat"_s, u"cat"_s, none, none, wholeWord, 10},
     {"digits and underscores make words", u"cat1 _cat cat"_s, u"cat"_s, none, none, wholeWord, 10},
     {"a tag is a word between letters", u"a<B>b"_s, u"<b>"_s, none, none, wholeWord, 1},
@@ -116,6 +117,14 @@ TEST_F(RichTextFindTest, FoundInEveryPlaceOfALongText) {
         ASSERT_EQ(box.FindForward(u'é', 0), at + 1);
         ASSERT_EQ(box.FindBackward(u'é', length), at + 1);
     }
+}
+
+TEST_F(RichTextFindTest, ATextLongerThanAPieceIsFoundToo) {
+    const QString wanted = u"<b>"_s + QString(1500, u'y') + u"É"_s;
+    box.SetText(QString(3000, u'x') + wanted + QString(3000, u'x'));
+    EXPECT_EQ(box.Find(wanted.toLower()), 3000);
+    EXPECT_EQ(box.SelText(), wanted);
+    EXPECT_EQ(box.Find(wanted + u"!"_s, 0), -1);
 }
 
 TEST_F(RichTextFindTest, ForwardAndBackwardLookForOneCharacterAndSelectNothing) {
