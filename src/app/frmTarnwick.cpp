@@ -37,6 +37,7 @@
 #include <QMouseEvent>
 #include <QScreen>
 #include <QSignalBlocker>
+#include <QStyle>
 #include <QTabBar>
 #include <QVBoxLayout>
 
@@ -49,6 +50,15 @@ constexpr QSize firstSize(960, 680);
 // New windows stand one step further than the last, and start over where they would leave the area.
 constexpr int cascadeStep = 26;
 constexpr int cascadeSteps = 6;
+
+/// What a window can take up at most. The desktop draws a title bar and edges around it, and as it is centred
+/// without them, as much room as above it must be left below.
+QSize RoomInside(const QWidget& window) {
+    const QStyle& style = *window.style();
+    const int edge = style.pixelMetric(QStyle::PM_MdiSubWindowFrameWidth);
+    const int title = style.pixelMetric(QStyle::PM_TitleBarHeight);
+    return window.screen()->availableSize() - 2 * QSize(edge, title + edge);
+}
 
 QWidget* Strip(const QString& name, QWidget* content) {
     auto* strip = new QWidget;
@@ -75,7 +85,7 @@ frmTarnwick::frmTarnwick(Settings& store, Prompts& ask)
     BuildStrips();
     EnableCommands(*this, *this);
     HookWindow();
-    resize(firstSize.boundedTo(screen()->availableSize()));
+    resize(firstSize.boundedTo(RoomInside(*this)));
 }
 
 frmTarnwick::~frmTarnwick() {

@@ -59,6 +59,8 @@ void RichTextBox::SetUp() {
     Sci(SCI_USEPOPUP, 0);
     Sci(SCI_SETMULTIPLESELECTION, 0);
     Sci(SCI_SETMOUSESELECTIONRECTANGULARSWITCH, 0);
+    // A pressed button holds the mouse by itself; to grab it besides is refused by some desktops.
+    Sci(SCI_SETMOUSEDOWNCAPTURES, 0);
     Sci(SCI_SETMARGINS, 0);
     Sci(SCI_SETWRAPMODE, SC_WRAP_WORD);
     Sci(SCI_SETSCROLLWIDTHTRACKING, 1);
