@@ -516,11 +516,21 @@ TEST_F(RichTextKeysTest, WhatIsBeingComposedIsNoText) {
 TEST_F(RichTextKeysTest, WhatIsBeingComposedIsShownUntilItEnds) {
     QPalette palette = box.palette();
     palette.setColor(QPalette::Highlight, QColor(1, 99, 33));
+    palette.setColor(QPalette::HighlightedText, QColor(200, 7, 100));
     box.setPalette(palette);
+    QFont large = box.Font();
+    large.setPointSize(40);
+    box.SetFont(large);
     box.SetText(u"ab"_s);
     const auto isShown = [&] {
         const QImage image = box.viewport()->grab().toImage();
         const QPoint caret = box.CaretPixel();
+        int letters = 0;
+        for (int x = caret.x(); x < caret.x() + 60; ++x) {
+            for (int y = caret.y(); y < caret.y() + box.LineHeight(); ++y)
+                letters += image.pixelColor(x, y) == QColor(200, 7, 100) ? 1 : 0;
+        }
+        EXPECT_EQ(letters > 20, image.pixelColor(caret.x() + 1, caret.y() + 1) == QColor(1, 99, 33));
         return image.pixelColor(caret.x() + 1, caret.y() + 1) == QColor(1, 99, 33);
     };
     const auto send = [&](const QString& composed, const QString& committed) {
@@ -558,11 +568,15 @@ TEST_F(RichTextKeysTest, AnInputMethodIsAnsweredAboutTheSelection) {
     EXPECT_EQ(query.value(Qt::ImTextAfterCursor).toString(), u"ef"_s);
     box.SetText(QString(2000, u'x') + QString(2000, u'y'));
     Select(1000, 2000);
-    QInputMethodQueryEvent late(Qt::ImCurrentSelection | Qt::ImTextBeforeCursor);
+    QInputMethodQueryEvent late(Qt::ImCurrentSelection | Qt::ImTextBeforeCursor | Qt::ImAnchorPosition |
+                                Qt::ImCursorPosition);
     QApplication::sendEvent(&box, &late);
     EXPECT_LT(late.value(Qt::ImCurrentSelection).toString().size(), 1000) << "never much of a long text";
     EXPECT_EQ(late.value(Qt::ImTextBeforeCursor).toString(),
               QString(late.value(Qt::ImTextBeforeCursor).toString().size(), u'y'));
+    EXPECT_LT(late.value(Qt::ImTextBeforeCursor).toString().size(), 1000);
+    EXPECT_EQ(late.value(Qt::ImCursorPosition).toInt() - late.value(Qt::ImAnchorPosition).toInt(), 2000)
+        << "both count from the same place";
 }
 
 /// What the control has no use for goes on to the window around it, and only that.
