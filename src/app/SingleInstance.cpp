@@ -63,12 +63,19 @@ void SingleInstance::Listen() {
 void SingleInstance::Receive(QLocalSocket& socket) {
     const auto read = [this, &socket] {
         const QByteArray message = socket.readAll();
-        if (message.size() <= longestMessage && message.startsWith(greeting))
+        if (message.startsWith(greeting))
             Q_EMIT Arrived(QString::fromUtf8(message.mid(qsizetype(sizeof greeting) - 1)));
         socket.deleteLater();
     };
     socket.setReadBufferSize(longestMessage + 1);
     connect(&socket, &QLocalSocket::disconnected, this, read);
+    // With its buffer full a socket no longer notices that the other side goes: it would stay for good.
+    connect(&socket, &QLocalSocket::readyRead, this, [this, &socket] {
+        if (socket.bytesAvailable() <= longestMessage)
+            return;
+        socket.disconnect(this);
+        socket.deleteLater();
+    });
     // It may have said all it had to say, and gone, before anyone listened.
     if (socket.state() == QLocalSocket::UnconnectedState)
         read();
