@@ -3,7 +3,9 @@
 
 #include "platform/Cp1252.h"
 #include "platform/RichTextBox.h"
+#include "platform/WholeFile.h"
 
+#include <QBuffer>
 #include <QComboBox>
 #include <QFile>
 #include <QLabel>
@@ -11,7 +13,6 @@
 #include <QListWidget>
 #include <QPixmap>
 #include <QPlainTextEdit>
-#include <QSaveFile>
 #include <QTextEdit>
 
 namespace {
@@ -120,13 +121,12 @@ bool DialogTarget::Load(const QString& path) const {
 
 bool DialogTarget::Save(const QString& path) const {
     const Kind kind = KindOf(control_);
-    QSaveFile file(path);
-    if ((kind == Kind::None && !text_) || !file.open(QIODevice::WriteOnly))
+    if (kind == Kind::None && !text_)
         return false;
     if (kind == Kind::Picture) {
+        QBuffer bytes;
         const QPixmap picture = static_cast<QLabel*>(control_)->pixmap(Qt::ReturnByValue);
-        return !picture.isNull() && picture.save(&file, "BMP") && file.commit();
+        return !picture.isNull() && picture.save(&bytes, "BMP") && WholeFile::Write(path, bytes.data());
     }
-    const QByteArray bytes = Cp1252::ToBytes(text_ ? *text_ : TextOf(control_));
-    return file.write(bytes) == bytes.size() && file.commit();
+    return WholeFile::Write(path, Cp1252::ToBytes(text_ ? *text_ : TextOf(control_)));
 }

@@ -272,6 +272,16 @@ TEST_F(CDialogTest, SaveWritesItsTarget) {
     EXPECT_FALSE(CDialog(frame).SaveFrom(&text)) << "nothing is selected";
 }
 
+TEST_F(CDialogTest, SavesOverAFileWhoseNameLeavesNoRoomForOneBesideIt) {
+    const QString path = Here(QByteArray(255, 'n').constData());
+    WriteFile(path, "old");
+    frame.prompts.saveAnswers = {ScriptedPrompts::Picked(path)};
+    QString text = QStringLiteral("new");
+    EXPECT_TRUE(dialog.ShowSave(nullptr, &text));
+    EXPECT_EQ(ReadFile(path), QByteArray("new"));
+    EXPECT_TRUE(dialog.SaveFrom(&text));
+}
+
 TEST_F(CDialogTest, ComesAgainForAFileThatCannotBeWritten) {
     frame.prompts.saveAnswers = {ScriptedPrompts::Picked(Here("no/such/folder/a.txt")),
                                  ScriptedPrompts::Picked(Here("a.txt"))};
