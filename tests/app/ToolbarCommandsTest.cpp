@@ -408,9 +408,9 @@ struct LongRow {
 
 class LongToolbarSelection : public ToolbarCommandsTest, public testing::WithParamInterface<LongRow> {};
 
-TEST_P(LongToolbarSelection, TakesTimeInProportion) {
+TEST_P(LongToolbarSelection, IsDoneWhole) {
     QApplication::clipboard()->setText(Latin("pasted"));
-    ExpectLinear(GetParam().name, GetParam().expected);
+    ExpectOnLongSelection(GetParam().name, GetParam().expected);
 }
 
 INSTANTIATE_TEST_SUITE_P(

@@ -315,8 +315,8 @@ struct LongRow {
 
 class LongSelection : public MenuTagCommands, public testing::WithParamInterface<LongRow> {};
 
-TEST_P(LongSelection, TakesTimeInProportion) {
-    ExpectLinear(GetParam().name, GetParam().expected);
+TEST_P(LongSelection, IsDoneWhole) {
+    ExpectOnLongSelection(GetParam().name, GetParam().expected);
 }
 
 INSTANTIATE_TEST_SUITE_P(
@@ -340,9 +340,9 @@ INSTANTIATE_TEST_SUITE_P(
     [](const auto& info) { return std::string(info.param.name); });
 
 // With the colouring off the pieces of a page are typed as one text: the escapes and the colour word stay.
-TEST_F(MenuTagCommands, ALongSelectionTakesTimeInProportionWithColoringOff) {
+TEST_F(MenuTagCommands, ALongSelectionIsDoneWholeWithColoringOff) {
     Use(false, false);
-    ExpectLinear("mnuBold", [](const QString& text) -> QString {
+    ExpectOnLongSelection("mnuBold", [](const QString& text) -> QString {
         QString escaped = text;
         escaped.replace(u'\\', QStringLiteral("\\\\"))
             .replace(u'{', QStringLiteral("\\{"))

@@ -6,7 +6,6 @@
 
 #include <gtest/gtest.h>
 #include <QDir>
-#include <QElapsedTimer>
 #include <QFile>
 
 namespace {

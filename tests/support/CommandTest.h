@@ -10,6 +10,9 @@
 /// The bytes of a literal as characters of code page 1252.
 QString Latin(const char* bytes);
 
+/// At least so many bytes of lines that hold about everything that is troublesome in a text.
+QString TroublesomeText(int bytes);
+
 using Stretches = std::vector<std::pair<QString, int>>;
 
 /// The fixture fills the frame's commands.
@@ -35,16 +38,13 @@ class CommandTest : public testing::Test {
     /// goes in front and what goes behind. Both are expected in a colour while colouring is on, and in that
     /// of the text around them while it is off.
     void ExpectWraps(const char* command, const QString& written, int color = tagColor);
-    /// Runs a command on a selection of 10 MB that holds about everything that is troublesome in a text, and
-    /// expects what it makes of that in a time that grows as the selection does. Input boxes are answered by
-    /// an "x".
-    void ExpectLinear(const char* command, const std::function<QString(const QString& selection)>& expected);
+    /// Runs a command on a selection of 10 MB of troublesome text and expects what it makes of that: work for
+    /// each line or tag would take minutes. Input boxes are answered by an "x".
+    void ExpectOnLongSelection(const char* command,
+                               const std::function<QString(const QString& selection)>& expected);
 
     TestFrame frame;
 
   private:
-    /// Processor seconds of a command on a selection of so many bytes.
-    double SecondsOn(const char* command, const QString& selection);
-
     bool colored_ = true;
 };
