@@ -76,8 +76,13 @@ void ColorizeText(Frame& frame, QString& text, bool& keepDocument, bool caretToT
     auto& state = frame.State<EditorState>();
     state.RtfFlushNow = false;
     Document* document = frame.ActiveForm();
-    if (!document)
+    if (!document) {
+        // A pass that is to empty the document first ends there; any other goes on to its end and writes
+        // nothing.
+        state.RtfFlushNow = keepDocument;
+        keepDocument = keepDocument && text.contains(u'<');
         return;
+    }
     RichTextBox& txtInput = document->txtInput();
     const RichTextBox::PaintHold hold(txtInput);
     if (!keepDocument)

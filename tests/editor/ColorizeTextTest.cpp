@@ -203,6 +203,22 @@ TEST_F(ColorizeTextTest, WithoutADocumentOnlyTheTextIsEscaped) {
     bool keepDocument = false;
     ColorizeText(frame, text, keepDocument, true);
     EXPECT_EQ(text, QStringLiteral("\\{<B>"));
+    EXPECT_FALSE(frame.State<EditorState>().RtfFlushNow);
+}
+
+TEST_F(ColorizeTextTest, WithoutADocumentAPassThatKeepsItComesToItsEnd) {
+    frame.CloseDocument();
+    for (const bool tagged : {true, false}) {
+        frame.State<EditorState>().RtfFlushNow = false;
+        QString text = tagged ? QStringLiteral("a<B>\r\n") : QStringLiteral("a\r\n");
+        const QString before = text;
+        bool keepDocument = true;
+        ColorizeText(frame, text, keepDocument, true);
+        EXPECT_EQ(text, before);
+        EXPECT_EQ(keepDocument, tagged);
+        EXPECT_TRUE(frame.State<EditorState>().RtfFlushNow);
+        EXPECT_TRUE(frame.State<EditorState>().RtfBuffer.isEmpty());
+    }
 }
 
 struct OffRow {
