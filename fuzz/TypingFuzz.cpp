@@ -66,7 +66,7 @@ class Model {
         QString tag = text.mid(open - 1, caret - open + 1) + u'>';
         const QStringView color = TagColorCode(tag);
         tag.replace(QStringLiteral("\r\n"), QStringLiteral("\\par "));
-        const RtfText written = ReadRtf(RtfHeader(frame) + color + tag + u'}', RawLineEnds::Keep);
+        const RtfText written = ReadRtf(RtfHeader(frame) + color.toString() + tag + u'}', RawLineEnds::Keep);
         std::vector<ColorNumber> writtenColors;
         qsizetype from = 0;
         for (const RtfRun& run : written.runs) {
