@@ -45,12 +45,7 @@ int RichTextBox::ByteFromChar(int position) const {
 }
 
 QByteArray RichTextBox::Bytes(int start, int end) const {
-    if (end <= start)
-        return QByteArray();
-    QByteArray bytes(end - start, Qt::Uninitialized);
-    // The control writes one zero byte behind the text: room that QByteArray always has.
-    SendScintilla(SCI_GETTEXTRANGE, start, end, bytes.data());
-    return bytes;
+    return BytesInPlace(start, end).toByteArray();
 }
 
 QByteArrayView RichTextBox::BytesInPlace(int start, int end) const {

@@ -124,7 +124,8 @@ class Reader {
             ++pos_;
             return;
         }
-        if (state_.target == GroupState::Target::Text && highSurrogate_.isNull() && rtf_[pos_] < u'\x80') {
+        if (state_.target == GroupState::Target::Text && rtf_[pos_] < u'\x80') {
+            EndSurrogate();
             CopyAscii();
             return;
         }

@@ -47,6 +47,14 @@ class frmTemplateOf : public FrameTest {
         EXPECT_TRUE(run->Start());
         return run->New();
     }
+    /// The first document of a run that could have a browser and a design view.
+    frmTemplate& WithViews(PlainViews& views, const char* useMSIE = "1") {
+        Write(Keys::UseMSIE, useMSIE);
+        run = std::make_unique<ProgramRun>();
+        run->frame->State<WebControls>().Load = [&views] { return &views; };
+        EXPECT_TRUE(run->Start());
+        return run->New();
+    }
     frmTemplate& Fresh() { return With(Keys::TemplateWindowState, "0"); }
 
     std::unique_ptr<ProgramRun> run;
@@ -130,11 +138,7 @@ TEST_F(frmTemplateOf, LoadTouchesNoOtherWindowWithColouringOff) {
 
 TEST_F(frmTemplateOf, DesignViewStandsInsideTheWindowUntilAResize) {
     PlainViews views;
-    Write(Keys::UseMSIE, "1");
-    run = std::make_unique<ProgramRun>();
-    run->frame->State<WebControls>().Load = [&views] { return &views; };
-    EXPECT_TRUE(run->Start());
-    frmTemplate& document = run->New();
+    frmTemplate& document = WithViews(views);
     auto* design = document.findChild<QWidget*>(QStringLiteral("DHTMLEdit"));
     auto* browser = document.findChild<QWidget*>(QStringLiteral("WebBrowser1"));
     ASSERT_TRUE(design && browser);
@@ -147,11 +151,7 @@ TEST_F(frmTemplateOf, DesignViewStandsInsideTheWindowUntilAResize) {
 
 TEST_F(frmTemplateOf, ActivationLeavesAViewInFrontTheFocus) {
     PlainViews views;
-    Write(Keys::UseMSIE, "1");
-    run = std::make_unique<ProgramRun>();
-    run->frame->State<WebControls>().Load = [&views] { return &views; };
-    EXPECT_TRUE(run->Start());
-    frmTemplate& document = run->New();
+    frmTemplate& document = WithViews(views);
     document.Modes()->DesignClicked();
     auto* design = document.findChild<QWidget*>(QStringLiteral("DHTMLEdit"));
     ASSERT_TRUE(design && design->isVisible());
@@ -171,12 +171,9 @@ TEST_F(frmTemplateOf, ActivationLeavesAViewInFrontTheFocus) {
 TEST_F(frmTemplateOf, NoViewsUnlessTheyAreAskedFor) {
     for (const char* stored : {"0", "2", ""}) {
         PlainViews views;
-        Write(Keys::UseMSIE, stored);
-        run = std::make_unique<ProgramRun>();
-        run->frame->State<WebControls>().Load = [&views] { return &views; };
-        EXPECT_TRUE(run->Start());
-        EXPECT_EQ(run->New().findChild<QWidget*>(QStringLiteral("DHTMLEdit")), nullptr) << stored;
-        EXPECT_EQ(run->Active().findChild<QWidget*>(QStringLiteral("WebBrowser1")), nullptr) << stored;
+        frmTemplate& document = WithViews(views, stored);
+        EXPECT_EQ(document.findChild<QWidget*>(QStringLiteral("DHTMLEdit")), nullptr) << stored;
+        EXPECT_EQ(document.findChild<QWidget*>(QStringLiteral("WebBrowser1")), nullptr) << stored;
     }
 }
 
