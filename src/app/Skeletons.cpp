@@ -9,6 +9,7 @@
 #include "editor/Frame.h"
 #include "platform/Prompts.h"
 #include "platform/RichTextBox.h"
+#include "platform/UndoAction.h"
 
 #include <QStringList>
 
@@ -53,6 +54,7 @@ void mnuDefault_Click(Frame& frame) {
     Document* document = frame.ActiveForm();
     if (!document || !MayReplace(frame, *document, QStringLiteral("Overwrite!")))
         return;
+    const UndoAction step(document->txtInput());
     document->txtInput().SetText(QString());
     ColorizeText(frame, DefaultSkeleton(Version::Dotted()), false, false);
 }
@@ -61,6 +63,7 @@ void mnuUserTemplate_Click(Frame& frame) {
     Document* document = frame.ActiveForm();
     if (!document || !MayReplace(frame, *document, programTitle))
         return;
+    const UndoAction step(document->txtInput());
     document->txtInput().SetText(QString());
     const QString& text = frame.State<ProgramState>().UserTemplate;
     if (!text.isEmpty())

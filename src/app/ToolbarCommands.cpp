@@ -12,6 +12,7 @@
 #include "platform/Prompts.h"
 #include "platform/RichTextBox.h"
 #include "platform/Settings.h"
+#include "platform/UndoAction.h"
 
 #include <QFileInfo>
 #include <QProcess>
@@ -123,10 +124,14 @@ void tb_balloon_Click(Frame& frame) {
         if (comment.isEmpty())
             return;
     }
+    const UndoAction step(text);
     const bool colored = frame.Store().ReadFlag(Keys::ColoredTags);
     const auto takeColor = [&] {
-        if (colored)
-            text.SetSelColor(frame.Store().ReadNumber(Keys::TextColor[5]));
+        if (!colored)
+            return;
+        // What is selected goes first: recoloured, it would come back by undo in this colour.
+        text.SetSelText(QString());
+        text.SetSelColor(frame.Store().ReadNumber(Keys::TextColor[5]));
     };
     takeColor();
     text.SetSelText(QStringLiteral("<!-- "));

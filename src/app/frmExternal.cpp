@@ -16,6 +16,7 @@
 #include "editor/Modes.h"
 #include "platform/Cp1252.h"
 #include "platform/Settings.h"
+#include "platform/UndoAction.h"
 #include "platform/Values.h"
 #include "ui_frmExternal.h"
 
@@ -299,6 +300,7 @@ bool frmExternal::SelectTagColor() {
     if (Document* document = frame_.ActiveForm()) {
         RichTextBox& txtInput = document->txtInput();
         txtInput.SetFont(StoredEditorFont(store));
+        const UndoAction step(txtInput);
         const QString text = txtInput.Text();
         txtInput.SetText(QString());
         ColorizeText(frame_, text, false, false);

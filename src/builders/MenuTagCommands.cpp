@@ -162,11 +162,6 @@ void WrapSelectionAsList(Frame& frame, const QString& open, const QString& close
         return;
     const QString lineEnd = QStringLiteral("\r\n");
     RichTextBox& text = document->txtInput();
-    const int start = text.SelStart();
-    text.SetSelText(open + lineEnd + text.SelText() + close);
-    const int end = text.SelStart();
-    text.SetSelStart(start);
-    text.SetSelLength(end - start);
-    ReplaceInSelection(frame, text.SelText(), lineEnd, lineEnd + QStringLiteral("<LI>"),
-                       ignoreCase ? Compare::IgnoreCase : Compare::Exact);
+    ReplaceInSelection(frame, open + lineEnd + text.SelText() + close, lineEnd,
+                       lineEnd + QStringLiteral("<LI>"), ignoreCase ? Compare::IgnoreCase : Compare::Exact);
 }

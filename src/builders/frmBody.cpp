@@ -9,6 +9,7 @@
 #include "editor/Document.h"
 #include "editor/Frame.h"
 #include "platform/RichTextBox.h"
+#include "platform/UndoAction.h"
 #include "ui_frmBody.h"
 
 namespace {
@@ -119,9 +120,11 @@ void frmBody::cmdOK_Click() {
     const QString tag =
         BodyTag(frame_, {FieldText(ui_->txtBG), FieldText(ui_->txtText), FieldText(ui_->txtLink),
                          FieldText(ui_->txtVlink), FieldText(ui_->txtAlink), FieldText(ui_->txtBackground)});
-    if (Document* document = frame_.ActiveForm())
+    if (Document* document = frame_.ActiveForm()) {
+        const UndoAction step(document->txtInput());
         DeleteBodyTag(document->txtInput());
-    Insert(tag);
+        Insert(tag);
+    }
     auto& state = frame_.State<BuilderState>();
     state.LastBuiltTag = tag;
     state.TagBuilt = true;

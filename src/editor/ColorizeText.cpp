@@ -7,6 +7,7 @@
 #include "editor/WriteColoredText.h"
 #include "platform/RichTextBox.h"
 #include "platform/Settings.h"
+#include "platform/UndoAction.h"
 
 namespace {
 
@@ -85,6 +86,7 @@ void ColorizeText(Frame& frame, QString& text, bool& keepDocument, bool caretToT
     }
     RichTextBox& txtInput = document->txtInput();
     const RichTextBox::PaintHold hold(txtInput);
+    const UndoAction step(txtInput);
     if (!keepDocument)
         txtInput.SetText(QString());
     const InputOff off(txtInput);

@@ -8,6 +8,7 @@
 #include "platform/Prompts.h"
 #include "platform/RichTextBox.h"
 #include "platform/Settings.h"
+#include "platform/UndoAction.h"
 
 namespace {
 
@@ -26,6 +27,7 @@ void InsertTag(Frame& frame, QString& open, QString& close, bool keepCase) {
     if (!document)
         return;
     RichTextBox& txtInput = document->txtInput();
+    const UndoAction step(txtInput);
     const QString selected = txtInput.SelText();
     WriteColoredText(frame, open, TagColorCode(open), false);
     ColorizeText(frame, selected, true, false);

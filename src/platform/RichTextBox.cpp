@@ -2,27 +2,10 @@
 #include "platform/RichTextBox.h"
 
 #include "platform/RichTextAccessible.h"
+#include "platform/UndoAction.h"
 
 #include <algorithm>
 #include <QPalette>
-
-namespace {
-
-/// Makes what stands between its birth and its end one undo step.
-class UndoStep {
-  public:
-    explicit UndoStep(RichTextBox& box) : box_(box) {
-        box_.SendScintilla(QsciScintillaBase::SCI_BEGINUNDOACTION);
-    }
-    ~UndoStep() { box_.SendScintilla(QsciScintillaBase::SCI_ENDUNDOACTION); }
-    UndoStep(const UndoStep&) = delete;
-    UndoStep& operator=(const UndoStep&) = delete;
-
-  private:
-    RichTextBox& box_;
-};
-
-} // namespace
 
 RichTextBox::RichTextBox(QWidget* parent)
     : QsciScintillaBase(parent), font_(QStringLiteral("Arial"), 10),
@@ -296,7 +279,7 @@ void RichTextBox::Replace(ByteRange range, const QByteArray& text, const StyleRu
         return;
     TakeIncoming();
     {
-        const UndoStep step(*this);
+        const UndoAction step(*this);
         if (!text.isEmpty())
             nextStyles_ = styles;
         Sci(SCI_SETTARGETRANGE, range.start, range.end);

@@ -3,6 +3,7 @@
 
 #include "platform/Cp1252.h"
 #include "platform/RichTextKeys.h"
+#include "platform/UndoAction.h"
 
 #include <algorithm>
 #include <QApplication>
@@ -150,6 +151,10 @@ bool RichTextBox::RunEditingKey(int key, Qt::KeyboardModifiers modifiers) {
 void RichTextBox::TypeText(const QString& text) {
     // Accents that come as characters of their own join their letters first: most pairs have a character.
     const QString composed = text.normalized(QString::NormalizationForm_C);
+    // What comes at once goes at once; single characters in a row are one step by themselves.
+    std::optional<UndoAction> step;
+    if (composed.size() > 1)
+        step.emplace(*this);
     for (qsizetype i = 0; i < composed.size(); ++i) {
         const int code = Cp1252::ToCode(composed[i]);
         if (code >= 0) {
@@ -233,7 +238,9 @@ void RichTextBox::inputMethodEvent(QInputMethodEvent* event) {
     event->accept();
     if (!enabled_)
         return;
+    std::optional<UndoAction> step;
     if (event->replacementLength() > 0) {
+        step.emplace(*this);
         const int caret = SelStart() + event->replacementStart();
         const int start = std::clamp(caret, 0, TextLength());
         const int end = std::clamp(start + event->replacementLength(), start, TextLength());
