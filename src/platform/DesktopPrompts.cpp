@@ -207,7 +207,8 @@ FileAnswer Run(QFileDialog& dialog, const FileRequest& request) {
 
 MsgAnswer DesktopPrompts::MsgBox(QWidget* owner, const QString& text, MsgButtons buttons, MsgIcon icon,
                                  const QString& title) {
-    Box box(owner);
+    const Asker asker(owner, lastAsker_);
+    Box box(asker.Window());
     box.setWindowTitle(title);
     box.setTextFormat(Qt::PlainText);
     // A lone carriage return ends a line too.
@@ -221,7 +222,8 @@ MsgAnswer DesktopPrompts::MsgBox(QWidget* owner, const QString& text, MsgButtons
 
 QString DesktopPrompts::InputBox(QWidget* owner, const QString& prompt, const QString& title,
                                  const QString& standard) {
-    QInputDialog dialog(owner);
+    const Asker asker(owner, lastAsker_);
+    QInputDialog dialog(asker.Window());
     dialog.setInputMode(QInputDialog::TextInput);
     dialog.setWindowTitle(title);
     dialog.setLabelText(QString(prompt).replace(QStringLiteral("\r\n"), QStringLiteral("\n")));
@@ -235,7 +237,8 @@ std::optional<ColorNumber> DesktopPrompts::ChooseColor(QWidget* owner, QByteArra
     const auto part = [&](int index) { return static_cast<unsigned char>(customColors[index]); };
     for (int i = 0; i < std::min(CustomColorCount, QColorDialog::customCount()); ++i)
         QColorDialog::setCustomColor(i, QColor(part(4 * i), part(4 * i + 1), part(4 * i + 2)));
-    QColorDialog dialog(Qt::black, owner);
+    const Asker asker(owner, lastAsker_);
+    QColorDialog dialog(Qt::black, asker.Window());
     if (dialog.exec() != QDialog::Accepted)
         return std::nullopt;
     for (int i = 0; i < std::min(CustomColorCount, QColorDialog::customCount()); ++i) {
@@ -250,7 +253,8 @@ std::optional<ColorNumber> DesktopPrompts::ChooseColor(QWidget* owner, QByteArra
 }
 
 FileAnswer DesktopPrompts::OpenFile(QWidget* owner, const FileRequest& request) {
-    QFileDialog dialog(owner);
+    const Asker asker(owner, lastAsker_);
+    QFileDialog dialog(asker.Window());
     dialog.setAcceptMode(QFileDialog::AcceptOpen);
     if (request.multiSelect && request.mustExist)
         dialog.setFileMode(QFileDialog::ExistingFiles);
@@ -262,7 +266,8 @@ FileAnswer DesktopPrompts::OpenFile(QWidget* owner, const FileRequest& request) 
 }
 
 FileAnswer DesktopPrompts::SaveFile(QWidget* owner, const FileRequest& request) {
-    QFileDialog dialog(owner);
+    const Asker asker(owner, lastAsker_);
+    QFileDialog dialog(asker.Window());
     dialog.setAcceptMode(QFileDialog::AcceptSave);
     dialog.setFileMode(QFileDialog::AnyFile);
     // Whether to overwrite is the program's own question.

@@ -1,8 +1,10 @@
 // The prompts that a person sees: the desktop's own dialogs.
 #pragma once
 
+#include "platform/Asker.h"
 #include "platform/Prompts.h"
 
+/// A box belongs to the window that asked, a dialog where it was one, and gives the keys back to it.
 class DesktopPrompts final : public Prompts {
   public:
     MsgAnswer MsgBox(QWidget* owner, const QString& text, MsgButtons buttons, MsgIcon icon,
@@ -13,4 +15,7 @@ class DesktopPrompts final : public Prompts {
     FileAnswer OpenFile(QWidget* owner, const FileRequest& request) override;
     FileAnswer SaveFile(QWidget* owner, const FileRequest& request) override;
     void Beep() override;
+
+  private:
+    LastAsker lastAsker_;
 };
