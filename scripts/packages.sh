@@ -3,7 +3,7 @@
 
 packages_run="g++ cmake ninja-build qt6-base-dev qt6-base-dev-tools libqt6svg6-dev|qt6-svg-dev
     libqscintilla2-qt6-dev qt6-webengine-dev libgl-dev|libgl1-mesa-dev qt6-qpa-plugins qt6-wayland
-    fonts-dejavu-core fonts-liberation"
+    libfontconfig-dev|libfontconfig1-dev fonts-dejavu-core fonts-liberation"
 packages_headless="xvfb openbox xdotool imagemagick x11-utils"
 packages_test="x11-xkb-utils libgtest-dev libgmock-dev libbenchmark-dev at-spi2-core dbus python3 python3-pyatspi gir1.2-atspi-2.0
     libsm6 libice6"

@@ -15,12 +15,12 @@
 #include "editor/Frame.h"
 #include "editor/Modes.h"
 #include "platform/Cp1252.h"
+#include "platform/FaceNames.h"
 #include "platform/Settings.h"
 #include "platform/UndoAction.h"
 #include "platform/Values.h"
 #include "ui_frmExternal.h"
 
-#include <QFontDatabase>
 #include <QShortcut>
 
 namespace {
@@ -38,19 +38,6 @@ ColorNumber StoredColor(const Settings& store, const SettingsKey& key) {
     constexpr double ends = 0x1000000;
     const double color = Values::ToNumber(store.Read(key)).value_or(-1);
     return color >= 0 && color < ends ? static_cast<int>(color) : key.standard.toInt();
-}
-
-/// The font families of the screen. Where several makers have one of the same name, it stands once.
-QStringList FaceNames() {
-    QStringList names;
-    const QStringList families = QFontDatabase::families();
-    for (const QString& family : families) {
-        // The maker follows in brackets.
-        const QString name = family.section(QStringLiteral(" ["), 0, 0);
-        if (!QFontDatabase::isPrivateFamily(family) && !names.contains(name))
-            names << name;
-    }
-    return names;
 }
 
 void SetVisible(Frame& frame, const QString& strip, bool visible) {
@@ -140,9 +127,9 @@ void frmExternal::LoadFlags() {
 }
 
 void frmExternal::LoadFonts() {
-    ui_->List1->addItems(FaceNames());
-    const auto found = ui_->List1->findItems(frame_.Store().Read(Keys::EditorFont),
-                                             Qt::MatchExactly | Qt::MatchCaseSensitive);
+    const QString stored = frame_.Store().Read(Keys::EditorFont);
+    ui_->List1->addItems(FaceNames(stored));
+    const auto found = ui_->List1->findItems(stored, Qt::MatchExactly | Qt::MatchCaseSensitive);
     if (!found.isEmpty())
         ui_->List1->setCurrentItem(found.first());
     else

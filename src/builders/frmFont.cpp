@@ -5,14 +5,13 @@
 #include "builders/FormFields.h"
 #include "builders/ListKeys.h"
 #include "builders/PickColor.h"
+#include "platform/FaceNames.h"
 #include "ui_frmFont.h"
-
-#include <QFontDatabase>
 
 frmFont::frmFont(Frame& frame) : TagDialog(frame), ui_(std::make_unique<Ui::frmFont>()) {
     ui_->setupUi(this);
     Wire();
-    ui_->List1->addItems(FaceNames(QFontDatabase::families()));
+    ui_->List1->addItems(FaceNames());
     PrepareComboBoxes(*this);
     ShowColorIcon(ui_->cmdShowColor, QString());
     connect(ui_->txtFontColor, &QLineEdit::textChanged, this,

@@ -188,6 +188,20 @@ TEST_F(Options, TheStoredFontIsSelected) {
     EXPECT_EQ(Get<QListWidget>("List1").currentItem()->text(), last);
 }
 
+// The default names a font that few systems hold, and all show by another.
+TEST_F(Options, AFontThatAnotherStandsInForStaysSelectedAndStored) {
+    for (const char* stored : {"", "Arial", "Courier New", "Times New Roman", "arial"}) {
+        const QString font = QString::fromLatin1(*stored ? stored : "Arial");
+        if (*stored)
+            frame.Store().Write(Keys::EditorFont, font);
+        Open(1);
+        EXPECT_EQ(Get<QListWidget>("List1").currentItem()->text(), font);
+        OK();
+        EXPECT_EQ(Stored(Keys::EditorFont), font);
+        EXPECT_EQ(frame.Box().Font().family(), font);
+    }
+}
+
 TEST_F(Options, EveryFontFamilyIsListedOnce) {
     Open();
     QStringList names;
