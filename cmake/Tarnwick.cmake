@@ -8,19 +8,22 @@ function(tarnwick_strict target)
   target_include_directories(${target} SYSTEM PRIVATE ${CMAKE_CURRENT_BINARY_DIR}/${target}_autogen/include)
 endfunction()
 
-# A folder of src/ is one static library, tarnwick_<folder>, of every source and form that lies in it.
+# A target that holds nothing but a precompiled header, which all targets with the same options share.
+function(tarnwick_precompiled name header)
+  add_library(${name} OBJECT ${PROJECT_SOURCE_DIR}/cmake/precompiled.cpp)
+  set_target_properties(${name} PROPERTIES AUTOMOC OFF AUTOUIC OFF AUTORCC OFF)
+  tarnwick_strict(${name})
+  target_link_libraries(${name} PRIVATE ${ARGN})
+  target_precompile_headers(${name} PRIVATE ${PROJECT_SOURCE_DIR}/cmake/${header})
+endfunction()
+
+# A folder of src/ is one static library, tarnwick_<folder>, of every source and form that lies in it or in its rooms.
 function(tarnwick_folder folder)
-  file(GLOB sources CONFIGURE_DEPENDS *.cpp *.h *.ui)
+  file(GLOB_RECURSE sources CONFIGURE_DEPENDS *.cpp *.h *.ui)
   list(FILTER sources EXCLUDE REGEX "/main\\.cpp$")
   add_library(tarnwick_${folder} STATIC ${sources})
   set_target_properties(tarnwick_${folder} PROPERTIES LINKER_LANGUAGE CXX)
   tarnwick_strict(tarnwick_${folder})
   target_link_libraries(tarnwick_${folder} PUBLIC ${ARGN})
-  tarnwick_pch(tarnwick_${folder})
-endfunction()
-
-function(tarnwick_pch target)
-  if(TARNWICK_PCH)
-    target_precompile_headers(${target} PRIVATE ${PROJECT_SOURCE_DIR}/cmake/pch.h)
-  endif()
+  target_precompile_headers(tarnwick_${folder} REUSE_FROM tarnwick_precompiled)
 endfunction()

@@ -1,0 +1,1 @@
+// Carries a precompiled header, and nothing else.
