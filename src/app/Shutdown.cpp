@@ -73,7 +73,8 @@ void Shutdown::UnloadForms() {
     }
 }
 
-// The active one first; each that goes leaves the next one active.
+// The active one first; each that goes leaves another one active. One that went is never active again, so
+// that every turn leaves one document less.
 bool Shutdown::UnloadDocuments() {
     while (Document* document = frame_.ActiveForm())
         if (!document->Unload())

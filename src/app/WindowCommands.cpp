@@ -59,7 +59,8 @@ QString ListCaption(int number, const QMdiSubWindow& window) {
 
 class WindowList : public QObject {
   public:
-    WindowList(QMenu& menu, QMdiArea& area) : QObject(&menu), menu_(menu), area_(area) {
+    WindowList(QMenu& menu, Frame& frame, QMdiArea& area)
+        : QObject(&menu), menu_(menu), frame_(frame), area_(area) {
         connect(&menu, &QMenu::aboutToShow, this, &WindowList::Update);
     }
 
@@ -85,17 +86,19 @@ class WindowList : public QObject {
         auto* entry = new QAction(ListCaption(number, *window), entries_.get());
         entry->setObjectName(u"mnuWindowList_%1"_s.arg(number));
         entry->setCheckable(true);
-        entry->setChecked(window == area_.currentSubWindow());
+        entry->setChecked(frame_.ActiveForm() == dynamic_cast<Document*>(window));
         entries_->addAction(entry);
         menu_.addAction(entry);
         connect(entry, &QAction::triggered, window, [this, window] {
             if (window->isMinimized())
                 window->showNormal();
-            area_.setActiveSubWindow(window);
+            if (auto* document = dynamic_cast<Document*>(window))
+                frame_.ActivateDocument(*document);
         });
     }
 
     QMenu& menu_;
+    Frame& frame_;
     QMdiArea& area_;
     /// Owns the entries, separator included: they leave the menu with it.
     std::unique_ptr<QActionGroup> entries_;
@@ -110,6 +113,6 @@ void FillWindowCommands(Frame& frame, QMdiArea& area) {
     commands.Set(u"mnuArrangeIcons"_s, [&area] { mnuArrangeIcons_Click(area); });
 }
 
-void ListWindows(QMenu& mnuWindow, QMdiArea& area) {
-    new WindowList(mnuWindow, area);
+void ListWindows(QMenu& mnuWindow, Frame& frame, QMdiArea& area) {
+    new WindowList(mnuWindow, frame, area);
 }

@@ -9,4 +9,4 @@ class QMenu;
 void FillWindowCommands(Frame& frame, QMdiArea& area);
 
 /// Keeps the list of document windows at the end of the menu: it is made anew each time the menu drops.
-void ListWindows(QMenu& mnuWindow, QMdiArea& area);
+void ListWindows(QMenu& mnuWindow, Frame& frame, QMdiArea& area);

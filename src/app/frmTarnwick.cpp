@@ -11,6 +11,7 @@
 #include "app/HelpCommands.h"
 #include "app/MenuTree.h"
 #include "app/OpenDocument.h"
+#include "app/OpenDocuments.h"
 #include "app/Preview.h"
 #include "app/ProgramState.h"
 #include "app/Shutdown.h"
@@ -74,8 +75,8 @@ QWidget* Strip(const QString& name, QWidget* content) {
 
 frmTarnwick::frmTarnwick(Settings& store, Prompts& ask)
     : store_(store), ask_(ask), forms_(new Forms(this)), area_(new QMdiArea(this)),
-      tabStrip2_(new DocumentTabs(this)), tabStrip3_(new QTabBar(this)), statusBar_(new StatusBar(this)),
-      vsSpell1_(new SpellChecker(this)) {
+      documents_(new OpenDocuments(*area_, this)), tabStrip2_(new DocumentTabs(this)),
+      tabStrip3_(new QTabBar(this)), statusBar_(new StatusBar(this)), vsSpell1_(new SpellChecker(this)) {
     setObjectName(u"frmTarnwick"_s);
     vsSpell1_->setObjectName(u"VSSpell1"_s);
     setContextMenuPolicy(Qt::NoContextMenu);
@@ -115,7 +116,7 @@ void frmTarnwick::BuildMenuBar() {
     BuildMenus(*menuBar(), *this);
     auto* mMain = menuBar()->findChild<QMenu*>(u"mMain"_s);
     connect(mMain, &QMenu::aboutToShow, this, [this] { UpdateEditMenu(*this); });
-    ListWindows(*menuBar()->findChild<QMenu*>(u"mnuWindow"_s), *area_);
+    ListWindows(*menuBar()->findChild<QMenu*>(u"mnuWindow"_s), *this, *area_);
 }
 
 void frmTarnwick::BuildStrips() {
@@ -173,11 +174,11 @@ void frmTarnwick::HookWindow() {
 }
 
 Document* frmTarnwick::ActiveForm() {
-    return dynamic_cast<frmTemplate*>(area_->currentSubWindow());
+    return documents_->Active();
 }
 
 void frmTarnwick::ActivateDocument(Document& document) {
-    area_->setActiveSubWindow(qobject_cast<QMdiSubWindow*>(&document.Window()));
+    documents_->Activate(document);
 }
 
 void frmTarnwick::NewDocument() {
@@ -189,7 +190,7 @@ void frmTarnwick::NewDocument() {
     document->move(step, step);
     fileDrop_->Watch(*document->txtInput().viewport());
     document->Form_Load();
-    area_->setActiveSubWindow(document);
+    documents_->Activate(*document);
 }
 
 void frmTarnwick::OpenDocumentFile(const QString& path) {
@@ -260,17 +261,7 @@ void frmTarnwick::FocusForm(QWidget& form) {
 }
 
 void frmTarnwick::FocusDocument() {
-    Document* document = ActiveForm();
-    if (document && !document->txtInput().isHidden())
-        document->txtInput().SetFocus();
-}
-
-void frmTarnwick::WakeDocument() {
-    const QList<QMdiSubWindow*> documents = area_->subWindowList(QMdiArea::ActivationHistoryOrder);
-    if (!documents.isEmpty() && !area_->activeSubWindow())
-        area_->setActiveSubWindow(documents.last());
-    if (isActiveWindow())
-        FocusDocument();
+    documents_->FocusText();
 }
 
 void frmTarnwick::SetHooks(bool activation, bool drops) {
@@ -324,12 +315,12 @@ void frmTarnwick::closeEvent(QCloseEvent* event) {
 bool frmTarnwick::event(QEvent* event) {
     if (event->type() == QEvent::WindowActivate) {
         // Who comes back from a dialog comes back to the document: it takes the background just chosen.
-        if (auto* document = qobject_cast<frmTemplate*>(area_->currentSubWindow()))
+        if (frmTemplate* document = documents_->Active())
             document->TakeBackground();
         FocusDocument();
         // A document that was opened before the frame was on the screen is none of the area's active ones
         // yet, and the area wakes up behind this event.
-        QMetaObject::invokeMethod(this, &frmTarnwick::WakeDocument, Qt::QueuedConnection);
+        QMetaObject::invokeMethod(documents_, &OpenDocuments::Wake, Qt::QueuedConnection);
     }
     // Whatever came while a modal dialog was up.
     if (event->type() == QEvent::WindowUnblocked && !takingArrivals_)

@@ -11,6 +11,7 @@
 class DocumentTabs;
 class FileDrop;
 class frmTemplate;
+class OpenDocuments;
 class Prompts;
 class QMdiArea;
 class QMdiSubWindow;
@@ -62,7 +63,6 @@ class frmTarnwick final : public QMainWindow, public Frame {
     void ComeToFront();
     /// Gives the focus to the text of the active document.
     void FocusDocument();
-    void WakeDocument();
     /// Whether the frame hears of the application becoming active, and of files dropped on it.
     void SetHooks(bool activation, bool drops);
 
@@ -94,6 +94,7 @@ class frmTarnwick final : public QMainWindow, public Frame {
     CommandSet commands_;
     Forms* forms_;
     QMdiArea* area_;
+    OpenDocuments* documents_;
     DocumentTabs* tabStrip2_;
     QTabBar* tabStrip3_;
     ToolbarHolder* picture3_ = nullptr;

@@ -194,10 +194,13 @@ void frmTemplate::TakeDown() {
     if (!area)
         return;
     area->removeSubWindow(this);
+    Document* next = frame_.ActiveForm();
+    if (!next)
+        return;
+    frame_.ActivateDocument(*next);
     // The window that comes to sight takes over the state of the one that filled the area.
-    QMdiSubWindow* next = area->currentSubWindow();
-    if (next && maximised && !next->isMinimized())
-        next->showMaximized();
+    if (maximised && !next->Window().isMinimized())
+        next->Window().showMaximized();
 }
 
 void frmTemplate::showEvent(QShowEvent* event) {
@@ -205,7 +208,7 @@ void frmTemplate::showEvent(QShowEvent* event) {
     // A maximised window puts its title into the frame's when the title changes, but only while it is
     // visible: one that took its path before the frame was on the screen has to tell it now.
     const QMdiArea* area = mdiArea();
-    if (!area || area->currentSubWindow() != this)
+    if (!area || frame_.ActiveForm() != this)
         return;
     QEvent titleChange(QEvent::WindowTitleChange);
     QCoreApplication::sendEvent(this, &titleChange);

@@ -37,6 +37,8 @@ class frmTemplate final : public QMdiSubWindow, public Document {
     /// Only one that is not to be saved goes. False on Cancel.
     bool SaveAtSessionEnd();
 
+    /// Until it is unloaded; then it is no one's document any more, though its window may still be there.
+    bool IsOpen() const { return stage_ != Unloaded; }
     QString Caption() const override { return caption_; }
     void SetCaption(const QString& path) override;
     bool Modified() const override { return modified_; }
