@@ -1,7 +1,9 @@
 // The document tab strip: one tab for each document that has a file.
 #include "app/DocumentTabs.h"
 
+#include <QKeyEvent>
 #include <QSignalBlocker>
+#include <QStyleOptionTab>
 
 DocumentTabs::DocumentTabs(QWidget* parent) : QTabBar(parent) {
     setObjectName(QStringLiteral("TabStrip2"));
@@ -10,7 +12,10 @@ DocumentTabs::DocumentTabs(QWidget* parent) : QTabBar(parent) {
     setDrawBase(false);
     setElideMode(Qt::ElideNone);
     setFocusPolicy(Qt::TabFocus);
-    connect(this, &QTabBar::currentChanged, this, &DocumentTabs::Click);
+    connect(this, &QTabBar::currentChanged, this, [this](int index) {
+        ShowSelection(true);
+        Q_EMIT Click(index);
+    });
     // A press on another tab selects it, and comes that way.
     connect(this, &QTabBar::tabBarClicked, this, [this](int index) {
         if (index >= 0 && index == currentIndex())
@@ -44,8 +49,42 @@ void DocumentTabs::RemoveAll() {
 
 void DocumentTabs::Select(const QString& path) {
     const QSignalBlocker quiet(this);
-    if (const int index = IndexOf(path, TagOfTab); index >= 0)
+    const int index = IndexOf(path, TagOfTab);
+    if (index >= 0)
         setCurrentIndex(index);
+    ShowSelection(index >= 0);
+}
+
+void DocumentTabs::ShowSelection(bool shown) {
+    showsSelection_ = shown;
+    update();
+}
+
+// A bar that has tabs always has a current one; it only looks like the others.
+void DocumentTabs::initStyleOption(QStyleOptionTab* option, int index) const {
+    QTabBar::initStyleOption(option, index);
+    if (showsSelection_)
+        return;
+    option->state &= ~QStyle::State_Selected;
+    option->selectedPosition = QStyleOptionTab::NotAdjacent;
+}
+
+void DocumentTabs::keyPressEvent(QKeyEvent* event) {
+    const int key = event->key();
+    if (currentIndex() >= 0 && (key == Qt::Key_Space || key == Qt::Key_Return || key == Qt::Key_Enter))
+        Q_EMIT Click(currentIndex());
+    else
+        QTabBar::keyPressEvent(event);
+}
+
+// While it is not on the screen yet the bar keeps quiet about its size, and a strip that was laid out without
+// a tab would stay flat.
+void DocumentTabs::tabInserted(int) {
+    updateGeometry();
+}
+
+void DocumentTabs::tabRemoved(int) {
+    updateGeometry();
 }
 
 int DocumentTabs::IndexOf(const QString& path, Data which) const {

@@ -19,8 +19,11 @@ class DocumentTabs final : public QTabBar {
     /// Takes away the tab of that key, if there is one.
     void Remove(const QString& path);
     void RemoveAll();
-    /// Selects the first tab whose Tag is the path, if there is one.
+    /// Selects the first tab whose Tag is the path. Where there is none, such as for a document without a
+    /// file, no tab looks selected, though the keys still start from the last one.
     void Select(const QString& path);
+    /// Whether the current tab looks selected.
+    bool ShowsSelection() const { return showsSelection_ && currentIndex() >= 0; }
     /// The Tag of a tab, counted from 0; empty where there is none.
     QString Tag(int index) const { return DataOf(index, TagOfTab); }
 
@@ -28,10 +31,19 @@ class DocumentTabs final : public QTabBar {
     /// A person selected a tab, or pressed the one that was selected already.
     void Click(int index);
 
+  protected:
+    void initStyleOption(QStyleOptionTab* option, int index) const override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void tabInserted(int index) override;
+    void tabRemoved(int index) override;
+
   private:
     /// What the strip keeps beside what it shows.
     enum Data { Key, TagOfTab };
     QString DataOf(int index, Data which) const { return tabData(index).toStringList().value(which); }
     /// The first tab whose data hold the path; -1 where there is none.
     int IndexOf(const QString& path, Data which) const;
+    void ShowSelection(bool shown);
+
+    bool showsSelection_ = false;
 };

@@ -163,6 +163,9 @@ void frmTarnwick::HookWindow() {
     area_->viewport()->installEventFilter(this);
     BindHelpKey(*this, *this);
     connect(area_, &QMdiArea::subWindowActivated, this, &frmTarnwick::SubWindowActivated);
+    // The text tells it too, but only where it gets the focus by it.
+    connect(documents_, &OpenDocuments::Activated, tabStrip2_,
+            [this](const frmTemplate& document) { tabStrip2_->Select(document.Caption()); });
     connect(tabStrip2_, &DocumentTabs::Click, this, &frmTarnwick::TabStrip2_Click);
     connect(qApp, &QGuiApplication::applicationStateChanged, this, [this](Qt::ApplicationState state) {
         if (activationHook_ && state == Qt::ApplicationActive)

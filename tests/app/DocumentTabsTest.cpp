@@ -4,6 +4,8 @@
 #include "support/Text.h"
 
 #include <gtest/gtest.h>
+#include <QImage>
+#include <QPixmap>
 #include <QSignalSpy>
 #include <QTest>
 
@@ -86,6 +88,39 @@ TEST_F(DocumentTabsTest, ArrowKeysClick) {
     QTest::keyClick(&tabs, Qt::Key_Right);
     ASSERT_EQ(clicks.size(), 1);
     EXPECT_EQ(clicks[0][0].toInt(), 1);
+}
+
+TEST_F(DocumentTabsTest, SpaceAndEnterClickTheTabThatHasTheFocus) {
+    for (const Qt::Key key : {Qt::Key_Space, Qt::Key_Return, Qt::Key_Enter}) {
+        clicks.clear();
+        QTest::keyClick(&tabs, key);
+        ASSERT_EQ(clicks.size(), 1) << key;
+        EXPECT_EQ(clicks[0][0].toInt(), 0);
+    }
+    tabs.RemoveAll();
+    clicks.clear();
+    QTest::keyClick(&tabs, Qt::Key_Space);
+    EXPECT_TRUE(clicks.isEmpty());
+}
+
+TEST_F(DocumentTabsTest, NoTabLooksSelectedForAPathThatHasNone) {
+    // The tabs are alike but for their captions.
+    tabs.RemoveAll();
+    tabs.Add(QStringLiteral("/1/a.htm"), QStringLiteral("a.htm"));
+    tabs.Add(QStringLiteral("/2/a.htm"), QStringLiteral("a.htm"));
+    const auto look = [this](int index) { return tabs.grab(tabs.tabRect(index)).toImage(); };
+    tabs.Select(QStringLiteral("/1/a.htm"));
+    const QImage selected = look(0);
+    tabs.Select(QStringLiteral("/2/a.htm"));
+    const QImage other = look(0);
+    ASSERT_NE(selected, other);
+    tabs.Select(QStringLiteral("/1/a.htm"));
+    tabs.Select(QString());
+    EXPECT_FALSE(tabs.ShowsSelection());
+    EXPECT_NE(look(0), selected);
+    tabs.Select(QStringLiteral("/1/a.htm"));
+    EXPECT_TRUE(tabs.ShowsSelection());
+    EXPECT_EQ(look(0), selected);
 }
 
 } // namespace
