@@ -4,9 +4,8 @@
 #include "app/CommandActions.h"
 #include "app/FlowLayout.h"
 #include "app/Icons.h"
-#include "editor/Document.h"
+#include "app/LeaveByEscape.h"
 #include "editor/Frame.h"
-#include "platform/RichTextBox.h"
 
 #include <algorithm>
 #include <QAction>
@@ -67,6 +66,19 @@ const ToolbarRow buttons[] = {
     {"h6", "Heading 6"},
 };
 
+/// A button that stands up before its command runs. The one it is made of would be painted as pressed until
+/// the command has ended, with the box on top that the command waits for.
+class CommandButton final : public QToolButton {
+  public:
+    CommandButton(QAction& action, QWidget* parent) : QToolButton(parent) {
+        setDefaultAction(&action);
+        connect(this, &QToolButton::clicked, &action, &QAction::trigger);
+    }
+
+  protected:
+    void nextCheckState() override {}
+};
+
 } // namespace
 
 std::span<const ToolbarRow> ToolbarTable() {
@@ -95,15 +107,15 @@ void Toolbar1::AddButton(const ToolbarRow& row) {
     QAction* action = MakeCommandAction(QStringLiteral("tb_") + key, toolTip, frame_, this);
     action->setToolTip(toolTip);
     action->setIcon(ToolbarIcon(key));
-    auto* button = new QToolButton(this);
+    auto* button = new CommandButton(*action, this);
     button->setObjectName(action->objectName());
     button->setAutoRaise(true);
     button->setIconSize(QSize(24, 24));
-    button->setDefaultAction(action);
     button->setAccessibleName(toolTip);
     // A click leaves the focus with the document.
     button->setFocusPolicy(Qt::NoFocus);
     button->installEventFilter(this);
+    LeaveByEscape(*button, frame_);
     layout()->addWidget(button);
     buttons_.push_back(button);
 }
@@ -136,9 +148,6 @@ bool Toolbar1::eventFilter(QObject* watched, QEvent* event) {
     case Qt::Key_Enter:
         buttons_[at]->click();
         return true;
-    case Qt::Key_Escape:
-        GiveFocusBack();
-        return true;
     default:
         return false;
     }
@@ -163,9 +172,4 @@ void Toolbar1::MoveFocus(qsizetype from, int step) {
         button->setFocus(Qt::TabFocusReason);
         return;
     }
-}
-
-void Toolbar1::GiveFocusBack() {
-    if (Document* document = frame_.ActiveForm())
-        document->txtInput().SetFocus();
 }

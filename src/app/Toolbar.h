@@ -32,7 +32,6 @@ class Toolbar1 final : public QWidget {
     void AddButton(const ToolbarRow& row);
     void TakeFocus();
     void MoveFocus(qsizetype from, int step);
-    void GiveFocusBack();
 
     Frame& frame_;
     QList<QToolButton*> buttons_;

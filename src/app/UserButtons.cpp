@@ -2,6 +2,7 @@
 #include "app/UserButtons.h"
 
 #include "app/frmTools.h"
+#include "app/LeaveByEscape.h"
 #include "editor/EditorState.h"
 #include "editor/Forms.h"
 #include "editor/Frame.h"
@@ -46,6 +47,7 @@ UserButtons::UserButtons(Frame& frame, QWidget* parent)
     tabStrip1_->setObjectName(QStringLiteral("TabStrip1"));
     tabStrip1_->setAccessibleName(tr("Pages of user buttons"));
     tabStrip1_->setDrawBase(false);
+    LeaveByEscape(*tabStrip1_, frame_);
     tabStrip1_->addTab(QStringLiteral("User 1"));
     tabStrip1_->addTab(QStringLiteral("User 2"));
 
@@ -74,6 +76,7 @@ QWidget* UserButtons::MakePage(int page) {
         // All fifteen share the width there is, however long a caption is.
         button->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
         button->installEventFilter(this);
+        LeaveByEscape(*button, frame_);
         connect(button, &QPushButton::clicked, this, [this, index] { Command1_Click(index); });
         row->addWidget(button, 1);
         command1_[static_cast<size_t>(index)] = button;

@@ -9,11 +9,13 @@
 #include "app/frmExternal.h"
 #include "app/frmTemplate.h"
 #include "app/HelpCommands.h"
+#include "app/LeaveByEscape.h"
 #include "app/MenuTree.h"
 #include "app/OpenDocument.h"
 #include "app/OpenDocuments.h"
 #include "app/Preview.h"
 #include "app/ProgramState.h"
+#include "app/ReleaseButtons.h"
 #include "app/Shutdown.h"
 #include "app/Skeletons.h"
 #include "app/StatusPanels.h"
@@ -147,6 +149,7 @@ void frmTarnwick::BuildModeStrip() {
     for (const QString& mode : {u"Edit"_s, u"Design"_s, u"View"_s})
         tabStrip3_->addTab(mode);
     picture4_ = Strip(u"Picture4"_s, tabStrip3_);
+    LeaveByEscape(*tabStrip3_, *this);
     connect(tabStrip3_, &QTabBar::currentChanged, this, &frmTarnwick::TabStrip3_Click);
     // A press on another tab selects it, and comes that way.
     connect(tabStrip3_, &QTabBar::tabBarClicked, this, [this](int index) {
@@ -162,10 +165,12 @@ void frmTarnwick::TabStrip3_Click(int index) {
 void frmTarnwick::HookWindow() {
     area_->viewport()->installEventFilter(this);
     BindHelpKey(*this, *this);
+    ReleaseButtonsWhenBlocked(*this);
     connect(area_, &QMdiArea::subWindowActivated, this, &frmTarnwick::SubWindowActivated);
     // The text tells it too, but only where it gets the focus by it.
     connect(documents_, &OpenDocuments::Activated, tabStrip2_,
             [this](const frmTemplate& document) { tabStrip2_->Select(document.Caption()); });
+    LeaveByEscape(*tabStrip2_, *this);
     connect(tabStrip2_, &DocumentTabs::Click, this, &frmTarnwick::TabStrip2_Click);
     connect(qApp, &QGuiApplication::applicationStateChanged, this, [this](Qt::ApplicationState state) {
         if (activationHook_ && state == Qt::ApplicationActive)

@@ -5,6 +5,7 @@
 #include "support/TestFrame.h"
 
 #include <gtest/gtest.h>
+#include <optional>
 #include <QSet>
 #include <QToolButton>
 #include <QtTest/QTest>
@@ -229,6 +230,38 @@ TEST_F(ToolbarTest, AButtonWithoutACommandIsDisabled) {
     EXPECT_EQ(buttons.size(), 47);
     for (const QToolButton* button : buttons)
         EXPECT_FALSE(button->isEnabled()) << button->objectName().toStdString();
+}
+
+/// Whether a button was last painted as pressed.
+class PaintedDown : public QObject {
+  public:
+    explicit PaintedDown(QToolButton& button) : button_(button) { button.installEventFilter(this); }
+    std::optional<bool> last;
+
+  protected:
+    bool eventFilter(QObject*, QEvent* event) override {
+        if (event->type() == QEvent::Paint)
+            last = button_.isDown();
+        return false;
+    }
+
+  private:
+    QToolButton& button_;
+};
+
+TEST_F(ToolbarTest, AButtonIsUpAgainBeforeItsCommandRuns) {
+    Lay(1024);
+    frame.Window()->show();
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(frame.Window()));
+    QToolButton& anchor = *Button("tb_anchor");
+    const PaintedDown painted(anchor);
+    std::optional<bool> whenItRan;
+    // The command may bring up a box and stay until that is answered.
+    frame.Commands().Set(QStringLiteral("tb_anchor"), [&] { whenItRan = painted.last; });
+    QTest::mousePress(&anchor, Qt::LeftButton);
+    ASSERT_TRUE(QTest::qWaitFor([&] { return painted.last == true; }));
+    QTest::mouseRelease(&anchor, Qt::LeftButton);
+    EXPECT_EQ(whenItRan, false);
 }
 
 } // namespace

@@ -6,7 +6,9 @@
 #include "app/RealFrame.h"
 #include "app/Toolbar.h"
 #include "app/ToolbarHolder.h"
+#include "app/UserButtons.h"
 
+#include <QAbstractButton>
 #include <QDialog>
 #include <QDragEnterEvent>
 #include <QDragMoveEvent>
@@ -14,6 +16,7 @@
 #include <QLabel>
 #include <QMenu>
 #include <QMimeData>
+#include <QSignalSpy>
 #include <QTabBar>
 #include <QTimer>
 #include <QUrl>
@@ -183,6 +186,64 @@ TEST_F(Tarnwick, TabStripShowsTheDocumentThatHasTheFocus) {
     EXPECT_EQ(tabs.Tag(tabs.currentIndex()), first);
     EXPECT_TRUE(behind.Unload());
     EXPECT_EQ(tabs.Tag(tabs.currentIndex()), second);
+}
+
+TEST_F(Tarnwick, TabStripShowsNoOtherDocumentWhileANamelessOneIsInFront) {
+    const QString first = MakeFile(QStringLiteral("a.htm"), "a");
+    DocumentTabs& tabs = Window().TabStrip2();
+    Window().OpenDocumentFile(first);
+    EXPECT_TRUE(tabs.ShowsSelection());
+    frmTemplate& named = run->Active();
+    frmTemplate& nameless = run->New();
+    EXPECT_FALSE(tabs.ShowsSelection());
+    Window().ActivateDocument(named);
+    EXPECT_TRUE(tabs.ShowsSelection());
+    // Also where the text gets no focus by it: something else has it.
+    Window().showMinimized();
+    QCoreApplication::processEvents();
+    Window().ActivateDocument(nameless);
+    EXPECT_FALSE(tabs.ShowsSelection());
+    EXPECT_TRUE(nameless.Unload());
+    EXPECT_TRUE(tabs.ShowsSelection());
+    Window().ComeToFront();
+    run->New();
+    EXPECT_FALSE(tabs.ShowsSelection());
+    run->prompts.saveAnswers = {ScriptedPrompts::Picked(TestFolder() + QStringLiteral("/new.htm"))};
+    run->Entry("mnuSave").trigger();
+    EXPECT_TRUE(tabs.ShowsSelection());
+    EXPECT_EQ(tabs.Tag(tabs.currentIndex()), run->Active().Caption());
+}
+
+TEST_F(Tarnwick, EscLeavesEveryStripForTheText) {
+    Window().OpenDocumentFile(MakeFile(QStringLiteral("a.htm"), "a"));
+    Window().Picture2().show();
+    Window().Picture4().show();
+    for (const char* name : {"TabStrip1", "Command1_0", "Command1_14", "TabStrip2", "TabStrip3", "tb_new"}) {
+        auto& control = run->Find<QWidget>(name);
+        control.setFocus();
+        ASSERT_EQ(Window().focusWidget(), &control) << name;
+        QTest::keyClick(&control, Qt::Key_Escape);
+        EXPECT_EQ(Window().focusWidget(), &run->Active().txtInput()) << name;
+    }
+}
+
+TEST_F(Tarnwick, ButtonThatIsPressedWhileABoxComesUpDoesNotStayLit) {
+    Window().OpenDocumentFile(MakeFile(QStringLiteral("a.htm"), "a"));
+    Window().Picture2().show();
+    for (const char* name : {"tb_bold", "Command1_0"}) {
+        auto& button = run->Find<QAbstractButton>(name);
+        QSignalSpy clicks(&button, &QAbstractButton::clicked);
+        QTest::mousePress(&button, Qt::LeftButton);
+        EXPECT_TRUE(button.isDown()) << name;
+        QDialog box(&Window());
+        box.setModal(true);
+        box.show();
+        QCoreApplication::processEvents();
+        EXPECT_FALSE(button.isDown()) << name;
+        box.close();
+        QTest::mouseRelease(&button, Qt::LeftButton);
+        EXPECT_TRUE(clicks.isEmpty()) << name;
+    }
 }
 
 TEST_F(Tarnwick, ClickOnADocumentTabTakesTheFirstFormOfThatCaption) {
