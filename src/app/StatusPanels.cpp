@@ -8,10 +8,11 @@
 
 namespace {
 
-QLabel* MakePanel(const QString& name, const QString& accessibleName, QWidget* parent) {
+// A panel's accessible name is its text, as a label's is; what the text is goes into the description.
+QLabel* MakePanel(const QString& name, const QString& description, QWidget* parent) {
     auto* panel = new QLabel(parent);
     panel->setObjectName(name);
-    panel->setAccessibleName(accessibleName);
+    panel->setAccessibleDescription(description);
     panel->setTextFormat(Qt::PlainText);
     panel->setFrameShape(QFrame::StyledPanel);
     panel->setFrameShadow(QFrame::Sunken);
@@ -32,6 +33,7 @@ StatusBar::StatusBar(QWidget* parent)
       time_(MakePanel(QStringLiteral("Panel2"), tr("Time"), this)),
       program_(MakePanel(QStringLiteral("Panel3"), QString(), this)) {
     setObjectName(QStringLiteral("StatusBar"));
+    setAccessibleName(tr("Status"));
     addWidget(date_);
     addWidget(time_);
     addWidget(program_, 1);

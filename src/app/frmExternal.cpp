@@ -4,6 +4,7 @@
 #include "app/BrowserLookup.h"
 #include "app/ProgramState.h"
 #include "builders/FileDialogs.h"
+#include "builders/FormFields.h"
 #include "builders/PickColor.h"
 #include "editor/ColorizeText.h"
 #include "editor/Commands.h"
@@ -136,6 +137,7 @@ void frmExternal::LoadFonts() {
         ui_->List1->setCurrentRow(0);
     for (int size = smallestSize; size <= largestSize; size += sizeStep)
         ui_->cboFontSize->addItem(QString::number(size));
+    NamePartsOf(*ui_->cboFontSize);
     ui_->cboFontSize->setEditText(frame_.Store().Read(Keys::EditorFontSize));
 }
 

@@ -4,6 +4,7 @@
 #include "platform/Cp1252.h"
 
 #include <QAbstractButton>
+#include <QAbstractItemView>
 #include <QAccessible>
 #include <QComboBox>
 #include <QLineEdit>
@@ -45,13 +46,22 @@ QString FieldText(const QComboBox* field) {
     return Cp1252::Accept(field->currentText());
 }
 
+void NamePartsOf(QComboBox& combo) {
+    const QAccessibleInterface* face = QAccessible::queryAccessibleInterface(&combo);
+    if (!face)
+        return;
+    const QString name = face->text(QAccessible::Name);
+    combo.view()->setAccessibleName(name);
+    if (combo.lineEdit())
+        combo.lineEdit()->setAccessibleName(name);
+}
+
 void PrepareComboBoxes(QWidget& form) {
     for (QComboBox* combo : form.findChildren<QComboBox*>()) {
         combo->setCompleter(nullptr);
         combo->setCurrentIndex(-1);
         combo->clearEditText();
-        if (QAccessibleInterface* face = QAccessible::queryAccessibleInterface(combo))
-            combo->lineEdit()->setAccessibleName(face->text(QAccessible::Name));
+        NamePartsOf(*combo);
     }
 }
 

@@ -13,6 +13,9 @@ class QWidget;
 QString FieldText(const QLineEdit* field);
 QString FieldText(const QComboBox* field);
 
+/// Gives the field and the list of a combo box the box's own accessible name.
+void NamePartsOf(QComboBox& combo);
+
 /// Makes every combo box of a form a plain field with a list beside it: empty at first, and holding just what
 /// is typed into it, never a list entry that merely begins the same way.
 void PrepareComboBoxes(QWidget& form);
