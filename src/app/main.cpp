@@ -3,6 +3,7 @@
 #include "app/RunProgram.h"
 #include "app/SingleInstance.h"
 #include "app/TerminalAnswer.h"
+#include "app/WindowButtonStyle.h"
 #include "platform/CommandLine.h"
 #include "platform/DesktopPrompts.h"
 #include "platform/Settings.h"
@@ -30,6 +31,7 @@ int main(int argc, char* argv[]) {
     // The browser view is loaded later, when it is first asked for, and needs this from the start.
     QCoreApplication::setAttribute(Qt::AA_ShareOpenGLContexts);
     QApplication application(argc, argv);
+    QApplication::setStyle(new WindowButtonStyle);
     NameTheApplication();
 
     Settings store;
