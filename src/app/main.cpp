@@ -1,4 +1,5 @@
 // The program: one frame, one copy for each user, one event loop.
+#include "app/DisplayGuard.h"
 #include "app/frmTarnwick.h"
 #include "app/RunProgram.h"
 #include "app/SingleInstance.h"
@@ -9,6 +10,7 @@
 #include "platform/Settings.h"
 
 #include <cstdio>
+#include <optional>
 #include <QApplication>
 #include <QDir>
 
@@ -30,7 +32,9 @@ int main(int argc, char* argv[]) {
     }
     // The browser view is loaded later, when it is first asked for, and needs this from the start.
     QCoreApplication::setAttribute(Qt::AA_ShareOpenGLContexts);
+    std::optional<DisplayGuard> guard(std::in_place);
     QApplication application(argc, argv);
+    guard.reset();
     QApplication::setStyle(new WindowButtonStyle);
     NameTheApplication();
 
