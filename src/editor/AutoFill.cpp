@@ -90,7 +90,8 @@ void AutoFill::Fill(const AutoFillRows& rows, const QString& called) {
 }
 
 void AutoFill::Timer1_Timer() {
-    // Esc or Right within the pause took the list away: it comes anew, with no rows.
+    // The Right key, or a key in another document, may have taken the list away within the pause: it is then
+    // loaded anew, without rows, and stays hidden.
     frame_.LoadedForms().Load<frmDropDown>(frmDropDown::Name(), frame_).Open();
     frame_.State<EditorState>().DropDownOpen = true;
     document_.txtInput().SetFocus();

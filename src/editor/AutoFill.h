@@ -39,7 +39,7 @@ class AutoFill : public QObject {
 
     /// Lets the list follow the caret and the typed word, after each change of the text.
     void FollowChange();
-    /// A key goes down: the pending list doesn't come up any more.
+    /// A key that yields a character is pressed, Esc among them: the pending list doesn't come up any more.
     void StopTimer();
     /// Takes the list away, if it is loaded.
     void UnloadList();

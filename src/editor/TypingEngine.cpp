@@ -19,7 +19,6 @@ namespace {
 // Character codes of KeyAscii.
 constexpr int backspace = 8;
 constexpr int enter = 13;
-constexpr int escape = 27;
 constexpr int blank = 32;
 constexpr int equals = 61;
 constexpr int closingBracket = 62;
@@ -110,9 +109,6 @@ void TypingEngine::TypePlain() {
 }
 
 void TypingEngine::txtinput_KeyPress(int& KeyAscii) {
-    // Esc types nothing: like the arrow keys it leaves a pause alone.
-    if (KeyAscii == escape)
-        return;
     auto& state = frame_.State<EditorState>();
     RichTextBox& text = document_.txtInput();
     autoFill_.StopTimer();

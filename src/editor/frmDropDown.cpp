@@ -92,6 +92,8 @@ std::optional<QString> frmDropDown::SelectedKey() const {
 }
 
 void frmDropDown::Open() {
+    if (RowCount() == 0)
+        return;
     show();
     raise();
     ScrollToSelected();

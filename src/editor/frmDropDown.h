@@ -38,7 +38,7 @@ class frmDropDown final : public QFrame {
     /// What the selected row writes; nothing in an empty list.
     std::optional<QString> SelectedKey() const;
 
-    /// Shows it without giving it the focus.
+    /// Shows it without giving it the focus. A list without rows stays hidden.
     void Open();
     /// Gives ListView1 the focus, with its selected row in view. Returns false, and does nothing, while it is
     /// hidden.

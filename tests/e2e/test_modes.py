@@ -33,6 +33,23 @@ def test_an_image_tag_by_the_lists_alone(desk):
     wait_for("the saved tag", lambda: read(path) == b'<IMG SRC="a.gif" ALIGN="LEFT"><P>x</P>\r\n\r\n')
 
 
+def test_esc_within_the_pause_calls_the_list_off(desk):
+    desk.run()
+    desk.key("ctrl+n")
+    desk.wait_text("")
+    desk.type("<IMG ")
+    desk.key("Escape")
+    # A list that came up all the same would do so before that of a second page, and take the keys to the first.
+    desk.key("ctrl+n")
+    desk.wait_text("")
+    desk.type("<A ")
+    desk.widget("Attributes")
+    desk.type("HR")
+    desk.key("Return")
+    desk.wait_text('HREF=""')
+    assert desk.text() == '<A HREF=""', desk.text()
+
+
 def test_the_first_run_shows_the_options_and_the_second_does_not(desk):
     desk.run(window="Options")
     desk.key("Escape")

@@ -371,22 +371,53 @@ TEST(AutoFill, EscAndRightUnload) {
     }
 }
 
-TEST(AutoFill, EscAndRightWithinThePauseShowTheListAsLoadedAnew) {
-    for (const Qt::Key key : {Qt::Key_Escape, Qt::Key_Right}) {
+TEST(AutoFill, EscWithinThePauseCallsTheListOff) {
+    for (const char* typed : {"<IMG ", "<img ali\r"}) {
         TypingFrame frame;
-        frame.SetText(QStringLiteral("<img"));
+        frame.Type(typed);
+        ASSERT_TRUE(frame.PausePending()) << typed;
+        const QString text = frame.Marked();
+        frame.Key(Qt::Key_Escape);
+        EXPECT_FALSE(frame.PausePending()) << typed;
+        EXPECT_EQ(frame.List(), nullptr) << typed;
+        EXPECT_FALSE(frame.Flags().DropDownOpen) << typed;
+        EXPECT_EQ(frame.Marked(), text);
+        // The next blank asks anew.
         frame.Type(" ");
-        frame.Key(key);
-        EXPECT_EQ(frame.List(), nullptr);
-        frame.Pause();
-        EXPECT_TRUE(frame.ListShown());
-        EXPECT_EQ(frame.Rows(), QStringList());
-        EXPECT_TRUE(frame.Flags().DropDownOpen);
-        // There is no row to take: an Enter is an ordinary one, and what was typed stays.
-        frame.Type("al\r");
-        EXPECT_EQ(frame.Marked(), QStringLiteral("<img al\r\n|"));
-        EXPECT_EQ(frame.List(), nullptr);
+        EXPECT_TRUE(frame.PausePending()) << typed;
+        EXPECT_EQ(frame.Rows().size(), 18) << typed;
     }
+}
+
+TEST(AutoFill, RightWithinThePauseLeavesItAndNoListComesUp) {
+    TypingFrame frame;
+    frame.SetText(QStringLiteral("<img"));
+    frame.Type(" ");
+    frame.Key(Qt::Key_Right);
+    EXPECT_EQ(frame.List(), nullptr);
+    frame.Pause();
+    EXPECT_FALSE(frame.ListShown());
+    EXPECT_EQ(frame.Rows(), QStringList());
+    EXPECT_TRUE(frame.Flags().DropDownOpen);
+    EXPECT_EQ(QApplication::focusWidget(), &frame.Box());
+    // There is no row to take: an Enter is an ordinary one, and what was typed stays.
+    frame.Type("al\r");
+    EXPECT_EQ(frame.Marked(), QStringLiteral("<img al\r\n|"));
+    EXPECT_EQ(frame.List(), nullptr);
+}
+
+TEST(AutoFill, AListThatAnotherDocumentTookAwayWithinThePauseDoesNotComeUpEmpty) {
+    TypingFrame frame;
+    frame.Type("<img ");
+    TestDocument* first = frame.active;
+    frame.NewDocument();
+    const TypingEngine second(frame, *frame.active, frame.active->Timer1, nullptr);
+    frame.Box().SetFocus();
+    frame.Type("=");
+    ASSERT_EQ(frame.List(), nullptr);
+    ASSERT_TRUE(first->Timer1.isActive());
+    ASSERT_TRUE(QMetaObject::invokeMethod(&first->Timer1, "timeout"));
+    EXPECT_FALSE(frame.ListShown());
 }
 
 TEST(AutoFill, AnAttributeThatIsThereIsOfferedStill) {
