@@ -17,14 +17,14 @@ namespace {
 constexpr int ColorCount = 5;
 
 /// Deletes the body tag that the selection holds or, with nothing selected, the document's first one; with
-/// none there the selection goes. One that never closes counts as none.
+/// none there the selection goes. Where one never closes the caret goes in front of it, and nothing is
+/// deleted.
 void DeleteBodyTag(RichTextBox& txtInput) {
-    const int start = txtInput.SelStart();
-    const int length = txtInput.SelLength();
-    const int open = txtInput.Find(QStringLiteral("<body"));
-    const int close = open < 0 ? -1 : txtInput.FindForward(u'>', open);
-    txtInput.SetSelStart(close < 0 ? start : open);
-    txtInput.SetSelLength(close < 0 ? length : close - open + 1);
+    if (const int open = txtInput.Find(QStringLiteral("<body")); open >= 0) {
+        const int close = txtInput.FindForward(u'>', open);
+        txtInput.SetSelStart(open);
+        txtInput.SetSelLength(close < 0 ? 0 : close - open + 1);
+    }
     txtInput.SetSelText(QString());
 }
 

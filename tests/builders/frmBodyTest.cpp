@@ -278,9 +278,15 @@ TEST_F(frmBodyTest, OkReplacesTheBodyTagOrTheSelection) {
         // A selected closing tag holds no "<body" and goes whole.
         {u"a</BODY>b", 1, 7, u"a<BODY ALINK=\"a\">b"},
         {u"<A HREF=\"body.htm\">b", 0, 19, u"<BODY ALINK=\"a\">b"},
-        // One that never closes counts as none.
-        {u"abc<body ", 1, 0, u"a<BODY ALINK=\"a\">bc<body "},
-        {u"abc<body ", 0, 9, u"<BODY ALINK=\"a\">"},
+        // One that never closes: the tag goes in before it, and nothing is deleted.
+        {u"abc<body ", 1, 0, u"abc<BODY ALINK=\"a\"><body "},
+        {u"abc<body ", 0, 9, u"abc<BODY ALINK=\"a\"><body "},
+        {u"<body ", 0, 6, u"<BODY ALINK=\"a\"><body "},
+        {u"keep this <body bgcolor=\"red\"", 0, 30, u"keep this <BODY ALINK=\"a\"><body bgcolor=\"red\""},
+        {u"<P>keep this <body bgcolor=\"red\"", 3, 15,
+         u"<P>keep this <BODY ALINK=\"a\"><body bgcolor=\"red\""},
+        // Its end is looked for in all of the text behind it, wherever the selection ends.
+        {u"a<body b>c", 0, 6, u"a<BODY ALINK=\"a\">c"},
         {u"", 0, 0, u"<BODY ALINK=\"a\">"},
     };
     for (const OkRow& row : rows) {

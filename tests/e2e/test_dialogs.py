@@ -65,6 +65,19 @@ def test_a_dialog_by_keyboard_alone(desk):
     wait_for("the unchanged text", lambda: desk.text() == "<HR WIDTH=50% SIZE=2 ALIGN=CENTER><P>x</P>\r\n")
 
 
+def test_the_body_dialog_over_a_tag_that_never_closes_deletes_nothing(desk):
+    page(desk)
+    desk.type('keep this <body bgcolor="red"')
+    desk.wait_text('"red"')
+    desk.key("ctrl+a")
+    desk.click_widget("Body", "push button")
+    desk.wait_active("Body")
+    desk.key("Return")
+    desk.wait_no_window("Body")
+    desk.wait_text("<BODY>")
+    assert desk.text() == 'keep this <BODY><body bgcolor="red"', desk.text()
+
+
 def test_edit_tag_brings_the_dialog_back(desk):
     page(desk, b'<P><IMG SRC="a.gif" WIDTH=10 HEIGHT=20></P>\r\n')
     desk.key("ctrl+Home", "Right", "Right", "Right", "Right", "Right")
