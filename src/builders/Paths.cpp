@@ -47,8 +47,7 @@ int CountFolders(const QString& path, qsizetype from, QChar separator) {
 
 RelativeResult Relate(QString document, QString target, QChar documentSeparator, QChar targetSeparator) {
     RelativeResult result;
-    // An empty target is a cancelled pick: nothing that saving the document would mend.
-    const bool targetFailed = !DropRoot(target, targetSeparator) && !target.isEmpty();
+    const bool targetFailed = !DropRoot(target, targetSeparator);
     const bool documentFailed = !DropRoot(document, documentSeparator);
     result.failed = targetFailed || documentFailed;
 

@@ -21,8 +21,7 @@ QString ExactCasePath(const QString& path, const NameLookUp& lookUp);
 
 struct RelativeResult {
     QString path;
-    bool failed =
-        false; ///< a path had no root to take away, but for an empty target; path is computed all the same
+    bool failed = false; ///< a path had no root to take away; path is computed all the same
 };
 
 /// The way from a document's folder to a target, in the target's form: `..\img\b.gif`, `../img/b.gif`. Drives

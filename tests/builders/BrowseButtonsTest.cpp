@@ -18,6 +18,7 @@ struct BrowseRow {
     bool empties = false;      ///< the field is emptied before the dialog comes up
     bool takesAbsolute = true; ///< chkAbsolute counts
     const char16_t* cancelled = u"old";
+    bool cancelAsks = false; ///< a cancel runs on with an empty name, which gets the box
 };
 
 const BrowseRow rows[] = {
@@ -27,7 +28,8 @@ const BrowseRow rows[] = {
     {u"mnuImage", u"frmGraphicLink", u"cmdLinkMe", u"txtLinkMe", FileFilter::LinkTarget, 2, false, true,
      false, u""},
     // A cancel is not told apart here: the way to an empty name.
-    {u"mnuLink", u"frmLinks", u"cmdOpen", u"txtURL", FileFilter::Document, 2, false, true, true, u"../../"},
+    {u"mnuLink", u"frmLinks", u"cmdOpen", u"txtURL", FileFilter::Document, 2, false, true, true, u"../../",
+     true},
     {u"mnuEmbed", u"frmEmbed", u"cmdGetFle", u"txtURL", FileFilter::AnyFile, 2},
 };
 
@@ -96,7 +98,11 @@ TEST_P(BrowseButtonsTest, ACancelComesToAnEnd) {
     Pick(u"C:\\site\\img\\b.gif");
     const QString after = Cancel();
     EXPECT_EQ(after, GetParam().empties ? T(GetParam().cancelled) : T(u"../img/b.gif"));
-    EXPECT_TRUE(frame.prompts.Messages().isEmpty());
+    EXPECT_EQ(frame.prompts.Messages().size(), GetParam().cancelAsks ? 2 : 0);
+    // A full path is not reckoned, and nothing can go wrong with it.
+    Check(u"chkAbsolute", true);
+    Cancel();
+    EXPECT_EQ(frame.prompts.Messages().size(), GetParam().cancelAsks ? 2 : 0);
     EXPECT_FALSE(Loaded(T(u"frmImage")));
 }
 

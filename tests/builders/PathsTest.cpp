@@ -82,9 +82,11 @@ TEST(RelativePath, RowsInBothForms) {
         {u"", u"/home/u/b.gif", u"home/u/b.gif", true},
         {u"C:", u"/home/u/b.gif", u"home/u/b.gif", true},
         {u"/home/u/a.htm", u"b.gif", u"../../b.gif", true},
-        // A pick that was cancelled: the way to an empty name, and nothing to mend.
-        {u"/home/u/a.htm", u"", u"../../"},
-        {u"/a.htm", u"", u""},
+        // A pick that was cancelled: the way to an empty name, which has no root either.
+        {u"/home/u/a.htm", u"", u"../../", true},
+        {u"/a.htm", u"", u"", true},
+        {u"C:\\site\\a.htm", u"", u"../", true},
+        {u"", u"", u"", true},
     };
     for (const Row& row : rows) {
         const RelativeResult result = RelativePath(T(row.document), T(row.target), AsAsked);
@@ -175,8 +177,17 @@ TEST(RelativePath, SavedDocumentsNeedNoBox) {
               T(u"../Img/b.gif"));
     EXPECT_EQ(RelativePath(frame, T(u"C:\\site\\pages\\a.htm"), T(u"C:\\site\\img\\b.gif")),
               T(u"..\\img\\b.gif"));
-    EXPECT_EQ(RelativePath(frame, T(u"C:\\site\\pages\\a.htm"), QString()), T(u"../../"));
     EXPECT_TRUE(frame.prompts.asked.isEmpty());
+}
+
+TEST(RelativePath, AnEmptyTargetGetsTheBoxLikeADocumentWithoutAPath) {
+    TestFrame frame;
+    EXPECT_EQ(RelativePath(frame, T(u"C:\\site\\pages\\a.htm"), QString()), T(u"../../"));
+    EXPECT_EQ(RelativePath(frame, QString(), T(u"C:\\site\\b.gif")), T(u"site\\b.gif"));
+    ASSERT_EQ(frame.prompts.asked.size(), 2);
+    EXPECT_EQ(frame.prompts.asked[0].text, frame.prompts.asked[1].text);
+    EXPECT_EQ(frame.prompts.asked[0].title, frame.prompts.asked[1].title);
+    EXPECT_EQ(frame.prompts.asked[0].icon, frame.prompts.asked[1].icon);
 }
 
 TEST(ReplaceChar, OverwritesEveryOccurrence) {

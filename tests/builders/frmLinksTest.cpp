@@ -93,13 +93,17 @@ TEST_F(frmLinksTest, ACancelRunsOnWithAnEmptyName) {
     frame.prompts.openAnswers = {ScriptedPrompts::Cancelled(), ScriptedPrompts::Cancelled()};
     Press(T(u"cmdOpen"));
     EXPECT_EQ(Field(T(u"txtURL")), QString());
-    // Relative: the way out of all of the document's folders, and no name at its end.
+    EXPECT_TRUE(frame.prompts.Messages().isEmpty());
+    // Relative: the way out of all of the document's folders, and no name at its end. That there is no root
+    // to take off an empty name is told, as it is for a document without a path.
     Press(T(u"chkAbsolute"));
     Fill(T(u"txtURL"), T(u"old"));
     Press(T(u"cmdOpen"));
     EXPECT_NE(Field(T(u"txtURL")), T(u"old"));
     QString left = Field(T(u"txtURL"));
     EXPECT_EQ(left.remove(T(u"../")), QString());
+    ASSERT_EQ(frame.prompts.Messages().size(), 1);
+    EXPECT_TRUE(frame.prompts.Messages().first().startsWith(T(u"I am unable to complete")));
 }
 
 TEST_F(frmLinksTest, TheFieldIsEmptyWhileTheDialogIsUp) {
