@@ -34,11 +34,11 @@ constexpr int smallestSize = 6;
 constexpr int largestSize = 64;
 constexpr int sizeStep = 2;
 
-/// A stored colour; one that is no number counts as never stored.
+/// A stored colour: 0 where the setting holds no number, its default where the number is no colour's.
 ColorNumber StoredColor(const Settings& store, const SettingsKey& key) {
-    constexpr double ends = 0x1000000;
-    const double color = Values::ToNumber(store.Read(key)).value_or(-1);
-    return color >= 0 && color < ends ? static_cast<int>(color) : key.standard.toInt();
+    constexpr ColorNumber ends = 0x1000000;
+    const ColorNumber color = store.ReadNumber(key);
+    return color >= 0 && color < ends ? color : key.standard.toInt();
 }
 
 void SetVisible(Frame& frame, const QString& strip, bool visible) {

@@ -165,20 +165,29 @@ TEST_F(Options, AFreshUserSeesTheDefaults) {
     EXPECT_EQ(sizes.currentText(), QStringLiteral("10"));
 }
 
-TEST_F(Options, SettingsThatAreNonsenseGiveTheDefaults) {
-    frame.Store().Write(Keys::TextColor[1], QStringLiteral("blue"));
+TEST_F(Options, SettingsThatAreNonsenseHarmNothing) {
     frame.Store().Write(Keys::TextColor[2], QStringLiteral("99999999999"));
     frame.Store().Write(Keys::TextColor[3], QStringLiteral("-5"));
     frame.Store().Write(Keys::UseMSIE, QStringLiteral("2"));
     frame.Store().Write(Keys::WordWrap, QStringLiteral("yes"));
     frame.Store().Write(Keys::EditorFont, QStringLiteral("No Such Font"));
     Open();
-    EXPECT_EQ(Sample(1).ForeNumber(), 16711680);
     EXPECT_EQ(Sample(2).ForeNumber(), 32768);
     EXPECT_EQ(Sample(3).ForeNumber(), 255);
     EXPECT_FALSE(Get<QCheckBox>("chkMSIEInstalled").isChecked());
     EXPECT_FALSE(Get<QCheckBox>("chkWordWrap").isChecked());
     EXPECT_EQ(Get<QListWidget>("List1").currentRow(), 0);
+}
+
+TEST_F(Options, AColourThatIsNoNumberCountsAsZero) {
+    for (const char* stored : {"abc", "", "12pt", "blue", "#0000FF", "True"}) {
+        for (const SettingsKey& key : Keys::TextColor)
+            frame.Store().Write(key, QString::fromLatin1(stored));
+        Open();
+        for (int n = 0; n < 6; ++n)
+            EXPECT_EQ(Sample(n).ForeNumber(), 0) << stored << ' ' << n;
+        frame.LoadedForms().Unload(QStringLiteral("frmExternal"));
+    }
 }
 
 TEST_F(Options, TheStoredFontIsSelected) {
