@@ -31,5 +31,9 @@ void PreviewInBrowser(Frame& frame, const QString& path) {
 }
 
 QStringList BrowserCommandLine(const QString& browser, const QString& target) {
-    return (browser + QLatin1Char(' ') + target).split(QLatin1Char(' '), Qt::SkipEmptyParts);
+    QStringList words = browser.split(QLatin1Char(' '), Qt::SkipEmptyParts);
+    const QStringList pages = target.split(QLatin1Char(' '), Qt::SkipEmptyParts);
+    for (const QString& page : pages)
+        words << (page.startsWith(QLatin1Char('-')) ? QLatin1String("./") + page : page);
+    return words;
 }

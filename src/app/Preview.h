@@ -15,4 +15,5 @@ void FillPreviewCommands(Frame& frame);
 void PreviewInBrowser(Frame& frame, const QString& path = QString());
 
 /// The words of the command line "browser target": cut at blanks, so a path that holds one becomes two words.
+/// A word of the target that begins with "-" gets "./" in front: only the browser's own words are options.
 QStringList BrowserCommandLine(const QString& browser, const QString& target);

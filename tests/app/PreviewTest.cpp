@@ -32,6 +32,15 @@ INSTANTIATE_TEST_SUITE_P(
                          {QStringLiteral("b"), QStringLiteral("--new"), QStringLiteral("--tab"),
                           QStringLiteral("/a.htm")}},
                     Line{QStringLiteral("/usr/bin/b"), QString(), {QStringLiteral("/usr/bin/b")}},
+                    // A page's name is never an option of the browser; the browser's own words are.
+                    Line{QStringLiteral("b -new"),
+                         QStringLiteral("-a.htm"),
+                         {QStringLiteral("b"), QStringLiteral("-new"), QStringLiteral("./-a.htm")}},
+                    Line{QStringLiteral("b"),
+                         QStringLiteral("/my -site/a.htm --x - -- -.htm a-b"),
+                         {QStringLiteral("b"), QStringLiteral("/my"), QStringLiteral("./-site/a.htm"),
+                          QStringLiteral("./--x"), QStringLiteral("./-"), QStringLiteral("./--"),
+                          QStringLiteral("./-.htm"), QStringLiteral("a-b")}},
                     Line{QStringLiteral("b"),
                          QStringLiteral("/a;rm $(x) \"q\" *.htm"),
                          {QStringLiteral("b"), QStringLiteral("/a;rm"), QStringLiteral("$(x)"),
@@ -79,6 +88,16 @@ TEST_F(PreviewTest, ABlankInThePathMakesItTwoWords) {
     frame.active->SetCaption(FilesFrame::At(QStringLiteral("my site/a.htm")));
     frame.Run("mnuReload");
     EXPECT_EQ(Arguments(), (QStringList{FilesFrame::At(QStringLiteral("my")), QStringLiteral("site/a.htm")}));
+}
+
+TEST_F(PreviewTest, APagesNameIsNoOptionOfTheBrowser) {
+    frame.SetText(QStringLiteral("x"));
+    const QString path = FilesFrame::At(QStringLiteral("page --headless -x.htm"));
+    frame.active->SetCaption(path);
+    frame.Run("mnuReload");
+    EXPECT_EQ(FilesFrame::Content(path), "x\r\n");
+    EXPECT_EQ(Arguments(), (QStringList{FilesFrame::At(QStringLiteral("page")),
+                                        QStringLiteral("./--headless"), QStringLiteral("./-x.htm")}));
 }
 
 TEST_F(PreviewTest, APassedPathIsShownAndTheDocumentIsSavedAllTheSame) {
