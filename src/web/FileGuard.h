@@ -1,11 +1,10 @@
-// Keeps the scripts of pages away from the user's files.
+// Keeps pages away from files that no page needs.
 #pragma once
 
 #include <QWebEngineUrlRequestInterceptor>
 
-/// A page from the disk shows the pictures, styles and scripts of the disk, and in its frames what lies in
-/// its own folder and below. To read a file as data, or to frame one from elsewhere, as a script would to
-/// send it away, is refused. A page from the web reaches no file at all: that is the engine's own rule.
+/// The engine lets no page read a file, and none from the web show one. What is left to refuse here: to show
+/// in a frame what is hidden, a folder's list, or a file that a link leads to from outside of the site.
 class FileGuard final : public QWebEngineUrlRequestInterceptor {
     Q_OBJECT
 
@@ -14,6 +13,8 @@ class FileGuard final : public QWebEngineUrlRequestInterceptor {
 
     void interceptRequest(QWebEngineUrlRequestInfo& request) override;
 
-    /// Whether a file lies in the folder of a page or below, and is not hidden there.
-    static bool LiesBeside(const QString& page, const QString& file);
+    /// Whether a frame of a page may show a file. An address may climb out of the page's folder, as those of
+    /// many sites do. But with its links resolved the file must lie below the folder that its address and the
+    /// page's have in common, and must not be hidden there.
+    static bool MayShow(const QString& page, const QString& file);
 };

@@ -2,6 +2,7 @@
 #include "web/WebPane.h"
 
 #include "web/FileGuard.h"
+#include "web/FilesApart.h"
 
 #include <QVBoxLayout>
 #include <QWebEngineDownloadRequest>
@@ -29,7 +30,8 @@ void Restrict(QWebEngineSettings& settings) {
 }
 
 std::shared_ptr<QWebEngineProfile> MakeProfile() {
-    // A profile without a name keeps everything in memory.
+    // The first profile starts the engine. One without a name keeps everything in memory.
+    const FilesApart apart;
     auto profile = std::make_shared<QWebEngineProfile>();
     Restrict(*profile->settings());
     profile->setUrlRequestInterceptor(new FileGuard(profile.get()));

@@ -1,38 +1,16 @@
 // The browser control in the real engine: what it shows, and what it keeps from pages.
-#include "web/BrowserPane.h"
-
-#include "support/FreshUser.h"
 #include "support/Text.h"
 #include "web/OnePageServer.h"
-#include "web/PageFiles.h"
-#include "web/PageProbe.h"
+#include "web/PagePane.h"
 
-#include <gtest/gtest.h>
 #include <QDir>
-#include <QTest>
 #include <QWebEnginePage>
 #include <QWebEngineProfile>
 #include <QWebEngineView>
 
 namespace {
 
-class Browser : public testing::Test {
-  protected:
-    Browser() : pane(&window) {
-        FreshUser();
-        window.resize(600, 400);
-        pane.resize(600, 400);
-        window.show();
-        pane.show();
-    }
-
-    bool Shows(const QString& title) {
-        return Probe::Until(pane, QStringLiteral("document.title === %1").arg(Probe::Quoted(title)));
-    }
-
-    QWidget window;
-    BrowserPane pane;
-};
+using Browser = PagePane;
 
 TEST_F(Browser, ShowsAPageAndTheNextAndTheSameAgain) {
     const QString first = PageFiles::Write(QStringLiteral("a.htm"), "<title>first</title>");
@@ -73,39 +51,6 @@ TEST_F(Browser, APageFromTheDiskRunsItsScriptsAndFollowsItsLinks) {
     ASSERT_TRUE(Shows(QStringLiteral("scripted")));
     Probe::Run(pane, QStringLiteral("document.getElementById('a').click(); 0"));
     EXPECT_TRUE(Shows(QStringLiteral("followed")));
-}
-
-TEST_F(Browser, APageFromTheDiskCannotReadOtherFiles) {
-    PageFiles::Write(QStringLiteral("secret.txt"), "secret");
-    PageFiles::Write(QStringLiteral("red.svg"),
-                     "<svg xmlns='http://www.w3.org/2000/svg' width='9' height='9'/>");
-    const QString page = PageFiles::Write(
-        QStringLiteral("a.htm"),
-        "<title>asking</title><img id=i src=red.svg><script>"
-        "var r = new XMLHttpRequest(); r.onload = () => document.title = 'read';"
-        "r.onerror = () => document.title = 'kept'; r.open('GET', 'secret.txt'); r.send()</script>");
-    ASSERT_TRUE(pane.Navigate(page));
-    EXPECT_TRUE(Shows(QStringLiteral("kept")));
-    EXPECT_TRUE(Probe::Until(pane, QStringLiteral("document.getElementById('i').naturalWidth === 9")))
-        << "its own pictures are shown all the same";
-}
-
-TEST_F(Browser, AFrameOfAPageFromTheDiskShowsWhatLiesBesideItAlone) {
-    ASSERT_TRUE(QDir(TestFolder()).mkpath(QStringLiteral("site/sub")));
-    PageFiles::Write(QStringLiteral("secret.htm"), "<p>secret</p>");
-    PageFiles::Write(QStringLiteral("site/.hidden.htm"), "<p>hidden</p>");
-    PageFiles::Write(QStringLiteral("site/sub/menu.htm"), "<p>menu</p>");
-    ASSERT_TRUE(pane.Navigate(PageFiles::Write(QStringLiteral("site/a.htm"),
-                                               "<iframe src=sub/menu.htm></iframe><iframe "
-                                               "src=../secret.htm></iframe><iframe src=.hidden.htm></iframe>"
-                                               "<object data=../secret.htm></object>")));
-    const QString texts = QStringLiteral(
-        "[...document.querySelectorAll('iframe, object')].map("
-        "f => f.contentDocument && f.contentDocument.body ? f.contentDocument.body.innerText : '').join()");
-    EXPECT_TRUE(Probe::Until(
-        pane, QStringLiteral(
-                  "document.readyState === 'complete' && document.querySelectorAll('iframe').length === 3")));
-    EXPECT_EQ(Probe::Run(pane, texts).toString(), QStringLiteral("menu,,,"));
 }
 
 TEST_F(Browser, ARemotePageCannotReachFiles) {

@@ -370,6 +370,19 @@ TEST_F(Design, StylesComeFromThePagesFolder) {
         pane, QStringLiteral("getComputedStyle(document.querySelector('p')).color === 'rgb(1, 2, 3)'")));
 }
 
+TEST_F(Design, FramesShowFilesThatThePageCannotRead) {
+    PageFiles::Write(QStringLiteral("frame.htm"), "<body bgcolor=#010203><p>secret</p>");
+    PageFiles::Write(QStringLiteral("p.svg"),
+                     "<svg xmlns='http://www.w3.org/2000/svg' width='9' height='9'/>");
+    Load("<html><body><iframe id=f src=frame.htm style='position: fixed; inset: 0'></iframe><img id=i "
+         "src=p.svg>"
+         "</body></html>");
+    EXPECT_TRUE(Probe::Until(pane, QStringLiteral("i.naturalWidth === 9")));
+    EXPECT_TRUE(QTest::qWaitFor(
+        [this] { return pane.grab().toImage().pixelColor(60, 90) == QColor(1, 2, 3); }, 20000));
+    EXPECT_EQ(Probe::Run(pane, QStringLiteral("f.contentDocument === null")), QVariant(true));
+}
+
 TEST_F(Design, ALargePageComesThroughWhole) {
     QByteArray page = "<html><head></head><body>\r\n";
     for (int i = 0; i < 60000; ++i)
