@@ -4,12 +4,25 @@
 #include "editor/WebControls.h"
 #include "web/WebPane.h"
 
+#include <functional>
+
+class BrowserPage;
+
 class BrowserPane final : public WebPane, public BrowserControl {
     Q_OBJECT
 
   public:
     explicit BrowserPane(QWidget* parent) : WebPane(parent) {}
+    ~BrowserPane() override;
 
     QWidget& widget() override { return *this; }
     bool Navigate(const QString& path) override;
+
+  private:
+    BrowserPage* Browsed() const;
+    void Show(const QString& path);
+    /// The step may delete the page: where that has a box up, the box is closed, and the step waits for it.
+    void OnceAnswered(std::function<void()> step);
+
+    std::function<void()> onceAnswered_;
 };

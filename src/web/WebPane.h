@@ -28,10 +28,10 @@ class WebPane : public QWidget {
     /// The engine starts with the first profile, and so no earlier than with the first page.
     QWebEngineProfile& Profile();
     virtual void Emptied() {}
-
-  private:
+    /// Deletes the page.
     void Empty();
 
+  private:
     std::shared_ptr<QWebEngineProfile> profile_;
     QWebEngineView* view_ = nullptr;
 };

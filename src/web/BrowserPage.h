@@ -1,0 +1,53 @@
+// The page of the browser control: what it may ask of the user.
+#pragma once
+
+#include "web/PageBox.h"
+
+#include <QPointer>
+#include <QWebEnginePage>
+
+/// A page speaks only while it is seen, and from its second box on the user can silence it: for as long as
+/// this object lives, since a page that loads itself again is the same nuisance.
+class BrowserPage final : public QWebEnginePage {
+    Q_OBJECT
+
+  public:
+    using QWebEnginePage::QWebEnginePage;
+
+    /// A box is up. The page must not be deleted then: the engine is still in the middle of asking.
+    bool Asking() const { return asking_; }
+    /// Closes the box that is up, as Cancel does.
+    void CloseBox();
+
+  Q_SIGNALS:
+    /// The last box was answered.
+    void Answered();
+    /// The page does nothing but ask, unheard: it can't be reached any more, and only its end helps.
+    void RanAway();
+
+  protected:
+    void javaScriptAlert(const QUrl& origin, const QString& message) override;
+    bool javaScriptConfirm(const QUrl& origin, const QString& message) override;
+    bool javaScriptPrompt(const QUrl& origin, const QString& message, const QString& proposal,
+                          QString* result) override;
+    QStringList chooseFiles(FileSelectionMode mode, const QStringList& oldFiles,
+                            const QStringList& types) override;
+
+  private:
+    struct Answer {
+        bool ok = false;
+        QString line;
+    };
+
+    bool IsHeard() const;
+    /// Nothing where the page isn't heard.
+    std::optional<Answer> Ask(const QUrl& origin, PageBox::Request request);
+    QString Speaker(const QUrl& origin) const;
+    void CountUnheard();
+
+    QPointer<PageBox> box_;
+    bool asking_ = false;
+    bool silenced_ = false;
+    int boxes_ = 0;
+    int unheard_ = 0;
+};
