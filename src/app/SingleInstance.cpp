@@ -3,12 +3,19 @@
 
 #include "platform/ProgramFolder.h"
 
+#include <QCoreApplication>
 #include <QCryptographicHash>
 #include <QDeadlineTimer>
 #include <QDir>
+#include <QFile>
+#include <QFileInfo>
 #include <QLocalSocket>
 #include <QStandardPaths>
 #include <QThread>
+
+#ifdef Q_OS_UNIX
+#include <sys/file.h>
+#endif
 
 namespace {
 
@@ -23,6 +30,19 @@ constexpr char greeting[] = "tarnwick 1\n";
 QString BaseName() {
     const QByteArray hash = QCryptographicHash::hash(ProgramFolder().toUtf8(), QCryptographicHash::Sha1);
     return QStringLiteral("tarnwick-") + QString::fromLatin1(hash.toHex().left(12));
+}
+
+/// A process's number comes again: in a container, at every start. A lock of this very number is then taken
+/// for one that is held, which only the system's own lock on the file tells.
+void RemoveLockOfNobody([[maybe_unused]] const QString& path) {
+#ifdef Q_OS_UNIX
+    QFile file(path);
+    if (!QFileInfo(path).isFile() || !file.open(QIODevice::ReadWrite | QIODevice::ExistingOnly) ||
+        file.readLine().trimmed().toLongLong() != QCoreApplication::applicationPid())
+        return;
+    if (::flock(file.handle(), LOCK_EX | LOCK_NB) == 0)
+        file.remove();
+#endif
 }
 
 QString InFolder(const QString& folder, const QString& ending) {
@@ -41,6 +61,7 @@ SingleInstance::SingleInstance(const QString& folder, QObject* parent)
     // Only the end of the process that holds it makes a lock stale, never its age.
     lock_.setStaleLockTime(0);
     // Where no lock can be made at all, the program runs without the guard rather than not at all.
+    RemoveLockOfNobody(lock_.fileName());
     first_ = lock_.tryLock(0) || lock_.error() != QLockFile::LockFailedError;
     if (first_)
         Listen();

@@ -74,6 +74,7 @@ std::span<const Startup::Step> Startup::Steps() {
         {"RemoveTabs", &Startup::RemoveTabs},
         {"OpenCommandLine", &Startup::OpenCommandLine},
         {"CaptionUserButtons", &Startup::CaptionUserButtons},
+        {"TellOfSettings", &Startup::TellOfSettings},
     };
     return steps;
 }
@@ -223,6 +224,12 @@ void Startup::CaptionUserButtons() {
     for (int n = 0; n < captionedButtons; ++n)
         if (const QString& caption = editor.ButCap[static_cast<size_t>(n)]; !caption.isEmpty())
             frame_.Picture2().SetCaption(n, caption);
+}
+
+void Startup::TellOfSettings() {
+    // Last of all: opening a document writes into the panel, too.
+    if (const QStringList unreadable = frame_.Store().Unreadable(); !unreadable.isEmpty())
+        frame_.SetStatusPanel(u"The settings can't be read, nor will they be kept: "_s + unreadable.first());
 }
 
 template <typename Number> void Startup::TakeNumber(Number& variable, const SettingsKey& key) {

@@ -55,6 +55,7 @@ class Startup {
     void RemoveTabs();
     void OpenCommandLine();
     void CaptionUserButtons();
+    void TellOfSettings();
 
     /// The number of a stored text; what is no number changes nothing.
     template <typename Number> void TakeNumber(Number& variable, const SettingsKey& key);

@@ -9,31 +9,6 @@
 #include <algorithm>
 #include <cmath>
 #include <limits>
-#include <QFile>
-#include <QStringList>
-
-namespace {
-
-constexpr auto OnlyTheUser = QFileDevice::ReadOwner | QFileDevice::WriteOwner;
-
-/// The file can hold a password, so nobody else may read it, from its first byte on: a rewrite takes over the
-/// mode of the file that it replaces.
-void KeepPrivate(const QString& path) {
-    if (!QFile::exists(path)) {
-        QFile created(path);
-        [[maybe_unused]] const bool made =
-            created.open(QIODevice::WriteOnly | QIODevice::NewOnly, OnlyTheUser);
-    } else if ((QFile::permissions(path) & ~(QFileDevice::ReadUser | QFileDevice::WriteUser)) !=
-               OnlyTheUser) {
-        QFile::setPermissions(path, OnlyTheUser);
-    }
-}
-
-QString PathOf(const SettingsKey& key) {
-    return key.section + u'/' + key.key;
-}
-
-} // namespace
 
 Settings::Settings() = default;
 Settings::~Settings() {
@@ -42,27 +17,17 @@ Settings::~Settings() {
 
 SettingsFile& Settings::Store(const QString& application) const {
     auto& store = stores_[application];
-    if (!store) {
-        const QString path = Path::Join(SettingsFolder(), application + QStringLiteral(".ini"));
-        SettingsFile::TidyUp(path);
-        KeepPrivate(path);
-        store = std::make_shared<SettingsFile>(path);
-    }
+    if (!store)
+        store = SettingsFile::At(Path::Join(SettingsFolder(), application + QStringLiteral(".ini")));
     return *store;
 }
 
 QString Settings::Read(const SettingsKey& key) const {
-    const QVariant value = Store(key.application).value(PathOf(key));
-    if (!value.isValid())
-        return key.standard;
-    // A text with commas that somebody wrote into the file without quotes is taken for a list.
-    if (value.typeId() == QMetaType::QStringList)
-        return value.toStringList().join(u',');
-    return value.toString();
+    return Store(key.application).Value(key.section, key.key).value_or(key.standard);
 }
 
 void Settings::Write(const SettingsKey& key, const QString& text) {
-    Store(key.application).setValue(PathOf(key), text);
+    Store(key.application).SetValue(key.section, key.key, text);
 }
 
 bool Settings::ReadFlag(const SettingsKey& key) const {
@@ -95,4 +60,12 @@ bool Settings::Sync() {
         written = written && brought;
     }
     return written;
+}
+
+QStringList Settings::Unreadable() const {
+    QStringList paths;
+    for (const auto& store : std::as_const(stores_))
+        if (store->IsUnreadable())
+            paths << store->Path();
+    return paths;
 }

@@ -5,7 +5,7 @@
 
 #include <memory>
 #include <QHash>
-#include <QString>
+#include <QStringList>
 
 class SettingsFile;
 
@@ -32,6 +32,10 @@ class Settings {
     /// Brings what was written to the disk now; false where that failed. Runs by itself at the end of the
     /// event and on destruction.
     bool Sync();
+
+    /// The paths of those files read so far that are there and can't be read, or are no plain files: their
+    /// values are the defaults, and nothing is written to them.
+    QStringList Unreadable() const;
 
   private:
     SettingsFile& Store(const QString& application) const;

@@ -1,53 +1,75 @@
-// One file of the settings store, which stays whole on a disk that is full.
+// One file of the settings store: its values in memory, and the way to and from the disk.
 #include "platform/SettingsFile.h"
 
-#include "platform/SecondName.h"
+#include "platform/WholeFile.h"
 
-#include <QEvent>
 #include <QFile>
+#include <QFileInfo>
+#include <QHash>
 
 namespace {
 
-/// Each value has a line of its own, and each line its end. -1 for a file that was cut off, or can't be read.
-qsizetype CountValues(const QString& path) {
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly))
-        return -1;
-    qsizetype values = 0;
-    while (!file.atEnd()) {
-        const QByteArray line = file.readLine();
-        if (!line.endsWith('\n'))
-            return -1;
-        values += !line.startsWith('[') && line.contains('=');
-    }
-    return values;
+constexpr auto OnlyTheUser = QFileDevice::ReadOwner | QFileDevice::WriteOwner;
+
+/// The file can hold a password, so nobody else may read it: a rewrite keeps the mode.
+void KeepPrivate(const QString& path) {
+    if ((QFile::permissions(path) & ~(QFileDevice::ReadUser | QFileDevice::WriteUser)) != OnlyTheUser)
+        QFile::setPermissions(path, OnlyTheUser);
+}
+
+void Merge(IniValues& values, const IniValues& changes) {
+    for (auto section = changes.begin(); section != changes.end(); ++section)
+        values[section.key()].insert(*section);
 }
 
 } // namespace
 
-void SettingsFile::TidyUp(const QString& path) {
-    for (SecondName& old : SecondName::LeftFor(path))
-        if (old.IsReplaced() && CountValues(path) < CountValues(old.Path()))
-            old.PutBack();
+std::shared_ptr<SettingsFile> SettingsFile::At(const QString& path) {
+    static QHash<QString, std::weak_ptr<SettingsFile>> files;
+    std::shared_ptr<SettingsFile> file = files.value(path).lock();
+    if (!file)
+        files[path] = file = std::make_shared<SettingsFile>(path);
+    WholeFile::SettleInterrupted();
+    file->Load();
+    return file;
+}
+
+void SettingsFile::Load() {
+    // A symbolic link that leads nowhere is as good as no file.
+    const std::optional<QByteArray> bytes = WholeFile::Read(path_);
+    isUnreadable_ = !bytes && QFileInfo::exists(path_);
+    if (bytes)
+        KeepPrivate(path_);
+    values_ = bytes ? IniText::Read(*bytes) : IniValues();
+    Merge(values_, changes_);
+}
+
+std::optional<QString> SettingsFile::Value(const QString& section, const QString& key) const {
+    const auto values = values_.constFind(section);
+    if (values == values_.constEnd() || !values->contains(key))
+        return std::nullopt;
+    return values->value(key);
+}
+
+void SettingsFile::SetValue(const QString& section, const QString& key, const QString& text) {
+    if (Value(section, key) == text)
+        return;
+    values_[section][key] = text;
+    changes_[section][key] = text;
+    if (isBringing_)
+        return;
+    isBringing_ = true;
+    QMetaObject::invokeMethod(this, &SettingsFile::Bring, Qt::QueuedConnection);
 }
 
 bool SettingsFile::Bring() {
-    SecondName old(fileName());
-    sync();
-    if (old.IsReplaced() && !IsWhole()) {
-        old.PutBack();
+    isBringing_ = false;
+    if (changes_.isEmpty())
+        return true;
+    // Another program may have written meanwhile.
+    Load();
+    if (isUnreadable_ || !WholeFile::Write(path_, IniText::Write(values_), WholeFile::Readers::TheUserAlone))
         return false;
-    }
-    return status() != AccessError;
-}
-
-bool SettingsFile::IsWhole() const {
-    return CountValues(fileName()) >= allKeys().size();
-}
-
-bool SettingsFile::event(QEvent* event) {
-    if (event->type() != QEvent::UpdateRequest)
-        return QSettings::event(event);
-    Bring();
+    changes_.clear();
     return true;
 }

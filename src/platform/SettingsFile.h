@@ -1,27 +1,39 @@
-// One file of the settings store, which stays whole on a disk that is full.
+// One file of the settings store: its values in memory, and the way to and from the disk.
 #pragma once
 
-#include <QSettings>
+#include "platform/IniText.h"
 
-/// Qt takes a write for done once it stands in a buffer of its own, and on a full disk replaces the whole
-/// file by the part that fitted. So the old file is held by a second name until the new one is seen to be
-/// whole.
-class SettingsFile final : public QSettings {
+#include <memory>
+#include <optional>
+#include <QObject>
+
+/// What is no plain file (a folder, a device, a pipe, which could block for ever), or can't be read, is never
+/// opened for writing nor replaced: its values are the defaults, and what is written lives as long as the
+/// program.
+class SettingsFile final : public QObject {
   public:
-    explicit SettingsFile(const QString& path) : QSettings(path, QSettings::IniFormat) {}
+    /// The file of a path as everybody in this process sees it, with what others wrote into it meanwhile.
+    static std::shared_ptr<SettingsFile> At(const QString& path);
+    explicit SettingsFile(QString path) : path_(std::move(path)) {}
     ~SettingsFile() override { Bring(); }
 
-    /// Settles what a program that was killed while it wrote has left, before the file is read. No value is
-    /// ever taken out of the settings: a file with fewer than the old one is a part of one.
-    static void TidyUp(const QString& path);
+    std::optional<QString> Value(const QString& section, const QString& key) const;
+    void SetValue(const QString& section, const QString& key, const QString& text);
 
-    /// Brings what was written to the disk; false where that failed: the old file then stands as it was.
+    /// Brings what was written to the disk; false where that failed: the old file then stands as it was. Runs
+    /// by itself at the end of the event that wrote.
     bool Bring();
 
-  protected:
-    /// Qt's own reminder, at the end of the event that wrote.
-    bool event(QEvent* event) override;
+    /// Whether there is something of this path that can't be read.
+    bool IsUnreadable() const { return isUnreadable_; }
+    const QString& Path() const { return path_; }
 
   private:
-    bool IsWhole() const;
+    void Load();
+
+    QString path_;
+    IniValues values_;
+    IniValues changes_; ///< those of the values that are not on the disk yet
+    bool isUnreadable_ = false;
+    bool isBringing_ = false;
 };

@@ -7,6 +7,9 @@
 
 namespace WholeFile {
 
+/// Who may read a file that is created; one that is there keeps its mode.
+enum class Readers { AsTheUsersMaskAsks, TheUserAlone };
+
 /// The size in bytes; -1 where there is no plain file of that path.
 qint64 Size(const QString& path);
 
@@ -16,9 +19,17 @@ std::optional<QByteArray> Read(const QString& path);
 
 /// Replaces a file's content, or creates it. The new content is written beside the old file, flushed and
 /// renamed into place; the file keeps its mode bits, owner and extended attributes, and a symbolic link stays
-/// one: what it points to is written. A file that a rename would tear from its other names, or whose folder
-/// takes no new files, is written in place, after room for the new content was found. Returns false on
-/// failure; the old file then stands as it was and nothing else is left behind.
-bool Write(const QString& path, QByteArrayView content);
+/// one: what it points to is written. A file that a rename would tear from its other names, that would not
+/// stay what it is, or whose folder takes no new files, is written in place, once the old content and the new
+/// one have been brought to the disk in the program's folder.
+///
+/// Returns false on failure: the old file then stands as it was, or, where the disk failed too late to tell,
+/// holds the new content whole. Nothing else is left behind. What a save leaves whose process is killed is
+/// settled by the next one, and by SettleInterrupted().
+bool Write(const QString& path, QByteArrayView content, Readers readers = Readers::AsTheUsersMaskAsks);
+
+/// Settles the saves whose process was killed: their new files are taken away, and a file that was half
+/// overwritten gets its new content.
+void SettleInterrupted();
 
 } // namespace WholeFile

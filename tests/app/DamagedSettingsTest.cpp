@@ -2,9 +2,10 @@
 #include "app/RealFrame.h"
 #include "platform/ProgramFolder.h"
 
-#include <QDir>
-#include <QFileInfo>
+#include <QLabel>
 #include <QScreen>
+#include <sys/stat.h>
+#include <unistd.h>
 
 namespace {
 
@@ -140,18 +141,41 @@ TEST_F(DamagedSettings, AFileOfGarbageIsAFreshStoreThatTakesValues) {
     }
 }
 
-TEST_F(DamagedSettings, AStoreThatCannotBeReadOrWrittenIsDoneWithout) {
-    const QString path = File();
-    ASSERT_TRUE(QFile::remove(path));
-    ASSERT_TRUE(QDir().mkpath(path + QStringLiteral("/in the way")));
-    {
-        ProgramRun run;
-        ASSERT_TRUE(run.Start());
-        EXPECT_EQ(run.optionsShown, 1);
-        EXPECT_TRUE(run.Stop());
+TEST_F(DamagedSettings, AStoreThatCannotBeReadOrWrittenIsDoneWithoutAndToldOf) {
+    using InTheWay = bool (*)(const QByteArray& path);
+    const struct {
+        const char* what;
+        InTheWay make;
+    } rows[] = {
+        {"a folder", [](const QByteArray& path) { return ::mkdir(path, 0700) == 0; }},
+        {"a pipe", [](const QByteArray& path) { return ::mkfifo(path, 0600) == 0; }},
+        {"a device", [](const QByteArray& path) { return ::symlink("/dev/full", path) == 0; }},
+    };
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.what);
+        FreshUser();
+        const QString path = SettingsFolder() + QStringLiteral("/The Tarnwick.ini");
+        ASSERT_TRUE(row.make(QFile::encodeName(path)));
+        struct stat before = {};
+        ASSERT_EQ(::lstat(QFile::encodeName(path), &before), 0);
+        {
+            ProgramRun run;
+            ASSERT_TRUE(run.Start());
+            EXPECT_EQ(run.optionsShown, 1) << "as for a new user";
+            EXPECT_EQ(run.Find<QLabel>("Panel3").text(),
+                      QStringLiteral("The settings can't be read, nor will they be kept: ") + path);
+            EXPECT_TRUE(run.Stop());
+        }
+        WritesAPage(row.what);
+        struct stat after = {};
+        ASSERT_EQ(::lstat(QFile::encodeName(path), &after), 0);
+        EXPECT_EQ(after.st_ino, before.st_ino);
+        EXPECT_EQ(after.st_mode, before.st_mode);
     }
-    WritesAPage("a folder in place of the file");
-    EXPECT_TRUE(QFileInfo(path + QStringLiteral("/in the way")).isDir());
+    FreshUser();
+    ProgramRun run;
+    ASSERT_TRUE(run.Start());
+    EXPECT_EQ(run.Find<QLabel>("Panel3").text(), QString()) << "no file is no trouble";
 }
 
 } // namespace

@@ -103,6 +103,25 @@ TEST_F(SingleInstanceTest, LockOfADeadProcessIsReplaced) {
     EXPECT_TRUE(SingleInstance().IsFirst());
 }
 
+TEST_F(SingleInstanceTest, LockOfThisVeryNumberThatNobodyHoldsIsNoLock) {
+    QString lock;
+    {
+        SingleInstance first;
+        lock = FileOf(".lock");
+    }
+    // Numbers come again: in a container, the same at every start.
+    QFile left(lock);
+    ASSERT_TRUE(left.open(QIODevice::WriteOnly));
+    left.write(QByteArray::number(QCoreApplication::applicationPid()) + '\n' +
+               QCoreApplication::applicationName().toUtf8() + '\n' + QSysInfo::machineHostName().toUtf8() +
+               '\n' + QSysInfo::machineUniqueId() + '\n' + QSysInfo::bootUniqueId() + '\n');
+    left.close();
+    SingleInstance first;
+    EXPECT_TRUE(first.IsFirst());
+    EXPECT_FALSE(SingleInstance().IsFirst()) << "that one is held";
+    EXPECT_FALSE(SingleInstance().IsFirst()) << "and stays so";
+}
+
 TEST_F(SingleInstanceTest, LockOfALivingProcessHoldsHoweverOldItIs) {
     SingleInstance first;
     QFile lock(FileOf(".lock"));

@@ -57,7 +57,8 @@ TEST_F(StartupOf, StepsComeInTheirOrder) {
                                   "ShowOptionsOnFirstRun",
                                   "RemoveTabs",
                                   "OpenCommandLine",
-                                  "CaptionUserButtons"};
+                                  "CaptionUserButtons",
+                                  "TellOfSettings"};
     EXPECT_EQ(run.steps, expected);
 }
 

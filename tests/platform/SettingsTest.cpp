@@ -1,6 +1,7 @@
 // The settings store: what is written comes back, whatever it holds, and a damaged file harms nobody.
 #include "platform/Settings.h"
 
+#include "platform/FileCalls.h"
 #include "platform/ProgramFolder.h"
 #include "support/FreshUser.h"
 #include "support/Text.h"
@@ -14,6 +15,7 @@
 #include <QTemporaryDir>
 #include <sys/resource.h>
 #include <sys/stat.h>
+#include <sys/sysmacros.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -43,6 +45,10 @@ void Store(const SettingsKey& key, const QString& text) {
 }
 QString Stored(const SettingsKey& key) {
     return Settings().Read(key);
+}
+
+QStringList FilesOf(const QString& folder) {
+    return QDir(folder).entryList(QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot);
 }
 
 class SettingsTest : public testing::Test {
@@ -206,9 +212,8 @@ TEST_F(SettingsTest, ApplicationsHaveAFileEach) {
 TEST_F(SettingsTest, FileIsPrivateFromItsCreationOn) {
     {
         Settings settings;
-        settings.Read(Keys::Password);
         settings.Write(Keys::Password, QStringLiteral("secret"));
-        EXPECT_EQ(QFile::permissions(File()), OnlyTheUser) << "before the first write";
+        EXPECT_FALSE(QFileInfo::exists(File())) << "before the first write";
     }
     EXPECT_EQ(QFile::permissions(File()), OnlyTheUser);
     Store(Keys::Password, QStringLiteral("other"));
@@ -423,104 +428,78 @@ TEST_F(SettingsTest, FullDiskLeavesTheOldFileWhole) {
     }
 }
 
-QStringList SecondNames(const QString& folder = SettingsFolder()) {
-    return QDir(folder).entryList({QStringLiteral("*.old*")}, QDir::Files);
-}
-
-/// Writes in a process of its own that is killed when its new file has grown to this size.
-void WriteAndBeKilled(qsizetype size) {
+/// Writes in a process of its own that is killed while it writes its new file.
+void WriteAndBeKilled() {
     const pid_t child = ::fork();
     if (child == 0) {
-        const FullDisk disk(static_cast<rlim_t>(size));
-        std::signal(SIGXFSZ, SIG_DFL);
-        constexpr rlimit noCore = {};
-        setrlimit(RLIMIT_CORE, &noCore);
         Settings settings;
         settings.Write(Keys::EditorFont, QStringLiteral("Helvetica"));
+        Calls().fsync = [](int) { return ::raise(SIGKILL); };
         settings.Sync();
         ::_exit(0);
     }
     int status = 0;
     ASSERT_EQ(::waitpid(child, &status, 0), child);
     ASSERT_TRUE(WIFSIGNALED(status)) << "killed in the middle of its write";
-    EXPECT_EQ(SecondNames().size(), 1) << "the old file still had its second name";
+    EXPECT_EQ(FilesOf(SettingsFolder()).size(), 2) << "its new file lay there";
 }
 
-TEST_F(SettingsTest, ProgramKilledWhileItWritesLeavesTheOldFileAndNoSecondName) {
+TEST_F(SettingsTest, ProgramKilledWhileItWritesLeavesTheOldFileAndNothingElse) {
     Store(Keys::UserTemplate, QString(5000, u'x'));
     Store(Keys::EditorFont, QStringLiteral("Courier"));
-    WriteAndBeKilled(1000);
+    WriteAndBeKilled();
     EXPECT_EQ(Stored(Keys::EditorFont), QStringLiteral("Courier"));
-    EXPECT_EQ(SecondNames(), QStringList());
+    EXPECT_EQ(FilesOf(SettingsFolder()), QStringList{QStringLiteral("The Tarnwick.ini")});
     Store(Keys::EditorFont, QStringLiteral("Times"));
     EXPECT_EQ(Stored(Keys::EditorFont), QStringLiteral("Times")) << "it takes writes again";
     EXPECT_EQ(QFile::permissions(File()), OnlyTheUser);
 }
 
-struct LeftRow {
-    const char* name; ///< what is behind the file's own name; "#" stands for a process that has ended
-    QByteArray held;  ///< what the second name holds
-    QByteArray file;  ///< what the settings file holds
-    bool isLeft;      ///< whether the second name stays
-    const char* font; ///< what the settings then say
-};
-
-/// The number of a process that was there and is there no more.
-QString EndedProcess() {
-    const pid_t child = ::fork();
-    if (child == 0)
-        ::_exit(0);
-    ::waitpid(child, nullptr, 0);
-    return QString::number(child);
+TEST_F(SettingsTest, WhatAnotherProgramWroteMeanwhileStays) {
+    Settings settings;
+    settings.Write(Keys::EditorFont, QStringLiteral("Courier"));
+    WriteFile("[Program%20Options]\nUseHTM=1\n");
+    EXPECT_TRUE(settings.Sync());
+    EXPECT_EQ(Content(), "[Program%20Options]\nUseHTM=1\n\n[Window%20Options]\nEditorFont=Courier\n");
+    EXPECT_EQ(settings.Read(Keys::UseHTM), QStringLiteral("1"));
 }
 
-TEST_F(SettingsTest, SecondNamesOfEndedProgramsAreSettledAtTheNextStart) {
-    const QByteArray old = "[Window%20Options]\nEditorFont=Old\nEditorFontSize=12\n";
-    const QByteArray whole = "[Window%20Options]\nEditorFont=New\nEditorFontSize=12\nUseMSIE=1\n";
-    const QByteArray same = "the same file under both names";
-    const QByteArray none = "no such file";
-    const LeftRow rows[] = {
-        {".old#", old, same, false, "Old"},
-        {".old#", old, none, false, "Old"},
-        {".old#", old, whole, false, "New"},
-        {".old#", old, "[Window%20Options]\nEditorFont=New\nEditorFontS", false, "Old"},
-        {".old#", old, "[Window%20Options]\nEditorFont=New\n", false, "Old"},
-        {".old#", old, "[Window%20Options]\nEditorFont=N", false, "Old"},
-        {".old#", old, "\n", false, "Old"},
-        {".old#", "[Window%20Options]\nEditorFont=Ol", whole, false, "New"},
-        {".old1", old, whole, true, "New"}, // a process that lives
-        {".old", old, whole, true, "New"},
-        {".old-1", old, whole, true, "New"},
-        {".older", old, whole, true, "New"},
-        {".old#.txt", old, whole, true, "New"},
+/// Puts something else than a plain file where the settings lie; true where that can be had here.
+using InTheWay = bool (*)(const QByteArray& path);
+
+TEST_F(SettingsTest, WhatIsNoPlainFileIsNeitherOpenedNorReplaced) {
+    const struct {
+        const char* what;
+        InTheWay make;
+        mode_t kind;
+    } rows[] = {
+        {"a pipe", [](const QByteArray& path) { return ::mkfifo(path, 0600) == 0; }, S_IFIFO},
+        {"a folder", [](const QByteArray& path) { return ::mkdir(path, 0700) == 0; }, S_IFDIR},
+        {"a device", [](const QByteArray& path) { return ::mknod(path, S_IFCHR | 0600, makedev(1, 7)) == 0; },
+         S_IFCHR},
+        {"a link to a device", [](const QByteArray& path) { return ::symlink("/dev/full", path) == 0; },
+         S_IFLNK},
     };
-    for (const LeftRow& row : rows) {
-        SCOPED_TRACE(row.name + row.file.toStdString());
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.what);
         FreshUser();
-        QString name = QString::fromLatin1(row.name);
-        name = File() + name.replace(u'#', EndedProcess());
-        WriteFile(row.held);
-        ASSERT_EQ(::link(QFile::encodeName(File()).constData(), QFile::encodeName(name).constData()), 0);
-        if (row.file != same)
-            QFile::remove(File());
-        if (row.file != same && row.file != none)
-            WriteFile(row.file);
-        EXPECT_EQ(Stored(Keys::EditorFont), QString::fromLatin1(row.font));
-        EXPECT_EQ(QFileInfo::exists(name), row.isLeft);
-        EXPECT_EQ(QFile::permissions(File()), OnlyTheUser);
+        const QByteArray path = QFile::encodeName(File());
+        if (!row.make(path))
+            continue; // only root may make a device
+        {
+            Settings settings;
+            EXPECT_EQ(settings.Read(Keys::EditorFont), QStringLiteral("Arial"));
+            EXPECT_EQ(settings.Unreadable(), QStringList{File()});
+            settings.Write(Keys::EditorFont, QStringLiteral("Courier"));
+            EXPECT_EQ(settings.Read(Keys::EditorFont), QStringLiteral("Courier")) << "for this run";
+            EXPECT_FALSE(settings.Sync());
+        }
+        struct stat status = {};
+        ASSERT_EQ(::lstat(path.constData(), &status), 0);
+        EXPECT_EQ(status.st_mode & S_IFMT, row.kind);
+        EXPECT_EQ(FilesOf(SettingsFolder()).size(), 1);
     }
-}
-
-TEST_F(SettingsTest, SecondNamesAreSettledBesideTheFileOfALink) {
-    const QString real = TestFolder() + QStringLiteral("/real.ini");
-    Store(Keys::EditorFont, QStringLiteral("Courier"));
-    ASSERT_TRUE(QFile::rename(File(), real));
-    ASSERT_TRUE(QFile::link(real, File()));
-    ASSERT_TRUE(QFile::copy(real, real + QStringLiteral(".old") + EndedProcess()));
-    WriteFile("\n");
-    EXPECT_EQ(Stored(Keys::EditorFont), QStringLiteral("Courier"));
-    EXPECT_TRUE(QFileInfo(File()).isSymLink());
-    EXPECT_EQ(SecondNames(TestFolder()), QStringList());
+    EXPECT_EQ(Settings().Unreadable(), QStringList());
 }
 
 TEST_F(SettingsTest, SymbolicLinkIsFollowed) {

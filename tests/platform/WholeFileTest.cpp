@@ -73,7 +73,10 @@ class WholeFileTest : public testing::Test {
         return InChild([&] {
             if (::chdir(Encoded(TestFolder()).constData()) != 0)
                 return cannotTell;
-            if (::getuid() == 0 && (::setgid(nobody) != 0 || ::setuid(nobody) != 0))
+            const QTemporaryDir home;
+            qputenv("TARNWICK_HOME", Encoded(home.path()));
+            if (::getuid() == 0 && (::chown(Encoded(home.path()).constData(), nobody, nobody) != 0 ||
+                                    ::setgid(nobody) != 0 || ::setuid(nobody) != 0))
                 return cannotTell;
             return step() ? 1 : 0;
         });

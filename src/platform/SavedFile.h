@@ -1,0 +1,41 @@
+// The file that a save is about to write, and the two ways to write it.
+#pragma once
+
+#include <QtGlobal>
+
+#ifdef Q_OS_UNIX
+
+#include <optional>
+#include <QByteArray>
+#include <sys/stat.h>
+
+class OpenFile;
+class SaveRecord;
+
+class SavedFile {
+  public:
+    enum class Outcome { Written, Failed, NotReplaceable };
+
+    /// The file of a path, or the one that its symbolic links lead to; it need not be there yet. Nothing
+    /// where that can't be learnt, is no plain file, or may not be written.
+    static std::optional<SavedFile> At(const QByteArray& path);
+
+    /// Its real path.
+    const QByteArray& Path() const { return path_; }
+
+    /// Puts a new file in its place. One that is not there yet gets the mode, less the user's mask.
+    Outcome Replace(QByteArrayView content, mode_t mode) const;
+    /// Writes over the old content. Should the disk fail in the middle of it, the old content is put back.
+    bool Overwrite(QByteArrayView content) const;
+
+  private:
+    SavedFile(QByteArray path, std::optional<struct stat> old) : path_(std::move(path)), old_(old) {}
+
+    Outcome Fill(OpenFile& file, SaveRecord* record, QByteArrayView content) const;
+    bool GiveName(const QByteArray& from) const;
+
+    QByteArray path_;
+    std::optional<struct stat> old_;
+};
+
+#endif
