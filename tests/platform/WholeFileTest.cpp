@@ -1,6 +1,7 @@
 // Reading and saving whole files: whatever fails, the old file stands and nothing is left beside it.
 #include "platform/WholeFile.h"
 
+#include "platform/FileCalls.h"
 #include "support/FreshUser.h"
 #include "support/Text.h"
 
@@ -282,8 +283,8 @@ TEST_F(WholeFileTest, AReadOnlyFileInOnesOwnFolderStaysAsItWas) {
     EXPECT_EQ(folder.Listing(), QStringList{QStringLiteral("a.htm")});
 }
 
-TEST_F(WholeFileTest, ANameTooLongForAFileBesideItIsWrittenInPlace) {
-    const QByteArray name(250, 'n');
+TEST_F(WholeFileTest, ANameAsLongAsNamesCanBeIsReplacedLikeAnyOther) {
+    const QByteArray name(255, 'n');
     const QString path = At(name.constData());
     const QByteArray large(100'000, 'x');
     EXPECT_EQ(WithSizeLimit(10'000, [&] { return WholeFile::Write(path, large); }), 0);
@@ -367,6 +368,63 @@ TEST_F(WholeFileTest, TheSignalOfTheSizeLimitIsGivenBack) {
     struct sigaction now = {};
     ASSERT_EQ(::sigaction(SIGXFSZ, nullptr, &now), 0);
     EXPECT_EQ(now.sa_handler, SIG_DFL);
+}
+
+TEST_F(WholeFileTest, WhatOnlyLooksLikeTheFileOfAKilledSaveStays) {
+    Make("a.htm", "old");
+    for (const char* name : {".tarnwick-0123456789abcdef", "a.htm.abcdef", ".tarnwick-empty"})
+        Make(name, name == QByteArray(".tarnwick-empty") ? "" : "mine");
+    const QStringList before = Listing();
+    EXPECT_TRUE(WholeFile::Write(At("a.htm"), "new"));
+    WholeFile::SettleInterrupted();
+    EXPECT_EQ(Listing(), before);
+}
+
+int toParent[2], toChild[2];
+
+TEST_F(WholeFileTest, TheFileOfASaveThatGoesOnIsLeftToIt) {
+    Make("a.htm", "old");
+    ASSERT_EQ(::pipe(toParent) | ::pipe(toChild), 0);
+    const pid_t child = ::fork();
+    if (child == 0) {
+        ::close(toChild[1]);
+        // It waits in the middle of its save, for the parent to close its end.
+        Calls().fsync = [](int) {
+            char byte = 0;
+            return int(::write(toParent[1], &byte, 1) - 1 + ::read(toChild[0], &byte, 1));
+        };
+        ::_exit(WholeFile::Write(At("a.htm"), "new") ? 1 : 0);
+    }
+    char byte = 0;
+    ASSERT_EQ(::read(toParent[0], &byte, 1), 1);
+    EXPECT_EQ(Listing().size(), 2);
+    WholeFile::SettleInterrupted();
+    EXPECT_TRUE(WholeFile::Write(At("b.htm"), "other"));
+    EXPECT_EQ(Listing().size(), 3) << "its new file is still there";
+    ::close(toChild[1]);
+    int status = 0;
+    ASSERT_EQ(::waitpid(child, &status, 0), child);
+    EXPECT_EQ(WEXITSTATUS(status), 1);
+    EXPECT_EQ(Content(At("a.htm")), "new");
+    EXPECT_EQ(Listing().size(), 2);
+    for (const int end : {toParent[0], toParent[1], toChild[0]})
+        ::close(end);
+}
+
+TEST_F(WholeFileTest, AFileThatSomebodyChangedAfterAKilledSaveIsTheirs) {
+    const QString path = Make("a.htm", "the old text");
+    ASSERT_EQ(::link(Encoded(path).constData(), Encoded(At("b.htm")).constData()), 0);
+    const pid_t child = ::fork();
+    if (child == 0) {
+        Calls().ftruncate = [](int, off_t) { return ::raise(SIGKILL); };
+        WholeFile::Write(path, "new");
+        ::_exit(0);
+    }
+    ASSERT_EQ(::waitpid(child, nullptr, 0), child);
+    ASSERT_EQ(Content(path), "new old text") << "half overwritten";
+    Make("a.htm", "written by hand");
+    WholeFile::SettleInterrupted();
+    EXPECT_EQ(Content(path), "written by hand");
 }
 
 /// A disk of 64 kilobytes of its own, seen by one child process alone.
