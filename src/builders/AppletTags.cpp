@@ -1,11 +1,9 @@
-// What the two dialogs for applets compute. No value is quoted, not even one that holds a blank.
 #include "builders/AppletTags.h"
 
 #include "builders/BuildTag.h"
-#include "editor/InsertTag.h"
 
-TagPair AppletTag(Frame& frame, const AppletFields& fields) {
-    return {BuildTag(frame, QStringLiteral("<APPLET"),
+TagPair AppletTag(const AppletFields& fields, TagCase tagCase) {
+    return {BuildTag(QStringLiteral("<APPLET"),
                      {TagPart::Plain(QStringLiteral("CODEBASE"), fields.codeBase),
                       TagPart::Plain(QStringLiteral("CODE"), fields.code),
                       TagPart::Plain(QStringLiteral("WIDTH"), fields.width),
@@ -14,12 +12,14 @@ TagPair AppletTag(Frame& frame, const AppletFields& fields) {
                       TagPart::Plain(QStringLiteral("NAME"), fields.name),
                       TagPart::Plain(QStringLiteral("VSPACE"), fields.vSpace),
                       TagPart::Plain(QStringLiteral("HSPACE"), fields.hSpace),
-                      TagPart::Plain(QStringLiteral("ALIGN"), fields.align)}),
-            QStringLiteral("\r\n") + BuildBare(frame, QStringLiteral("</APPLET>"))};
+                      TagPart::Plain(QStringLiteral("ALIGN"), fields.align)},
+                     tagCase),
+            QStringLiteral("\r\n") + InCase(QStringLiteral("</APPLET>"), tagCase)};
 }
 
-QString ParamTag(Frame& frame, const QString& name, const QString& value) {
-    return BuildTag(
-        frame, QStringLiteral("<PARAM"),
-        {TagPart::Plain(QStringLiteral("NAME"), name), TagPart::Plain(QStringLiteral("VALUE"), value)});
+QString ParamTag(const ParamFields& fields, TagCase tagCase) {
+    return BuildTag(QStringLiteral("<PARAM"),
+                    {TagPart::Plain(QStringLiteral("NAME"), fields.name),
+                     TagPart::Plain(QStringLiteral("VALUE"), fields.value)},
+                    tagCase);
 }

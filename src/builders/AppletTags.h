@@ -2,8 +2,7 @@
 #pragma once
 
 #include "builders/TagPair.h"
-
-class Frame;
+#include "editor/TagCase.h"
 
 struct AppletFields {
     QString codeBase{};
@@ -18,7 +17,12 @@ struct AppletFields {
 };
 
 /// The closing tag stands on a line of its own.
-TagPair AppletTag(Frame& frame, const AppletFields& fields);
+TagPair AppletTag(const AppletFields& fields, TagCase tagCase);
+
+struct ParamFields {
+    QString name{};
+    QString value{};
+};
 
 /// One parameter of an applet.
-QString ParamTag(Frame& frame, const QString& name, const QString& value);
+QString ParamTag(const ParamFields& fields, TagCase tagCase);

@@ -1,4 +1,3 @@
-// What the Body dialog computes: its tag, and the colours that it finds in a document.
 #include "builders/BodyTag.h"
 
 #include "builders/BuildTag.h"
@@ -13,14 +12,15 @@ QString ColorAfter(const QString& document, const QString& word) {
 
 } // namespace
 
-QString BodyTag(Frame& frame, const BodyFields& fields) {
-    return BuildTag(frame, QStringLiteral("<BODY"),
+QString BodyTag(const BodyFields& fields, TagCase tagCase) {
+    return BuildTag(QStringLiteral("<BODY"),
                     {TagPart::Quoted(QStringLiteral("BGCOLOR"), fields.bg),
                      TagPart::Quoted(QStringLiteral("TEXT"), fields.text),
                      TagPart::Quoted(QStringLiteral("LINK"), fields.link),
                      TagPart::Quoted(QStringLiteral("VLINK"), fields.vlink),
                      TagPart::Quoted(QStringLiteral("ALINK"), fields.alink),
-                     TagPart::Quoted(QStringLiteral("BACKGROUND"), fields.background)});
+                     TagPart::Quoted(QStringLiteral("BACKGROUND"), fields.background)},
+                    tagCase);
 }
 
 BodyFields BodyColorsOf(const QString& document) {

@@ -1,9 +1,7 @@
 // What the Body dialog computes: its tag, and the colours that it finds in a document.
 #pragma once
 
-#include <QString>
-
-class Frame;
+#include "editor/TagCase.h"
 
 struct BodyFields {
     QString bg{};
@@ -15,7 +13,7 @@ struct BodyFields {
     bool operator==(const BodyFields&) const = default;
 };
 
-QString BodyTag(Frame& frame, const BodyFields& fields);
+QString BodyTag(const BodyFields& fields, TagCase tagCase);
 
 /// The five colours as the dialog reads them out of a whole document: for each the first place where its word
 /// stands, in any case and anywhere, and from there the next "#" with the six characters behind it. So a

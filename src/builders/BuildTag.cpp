@@ -1,12 +1,8 @@
-// A start tag from a table: the opening word and one row an attribute.
 #include "builders/BuildTag.h"
 
-#include "editor/InsertTag.h"
-
-QString BuildTag(Frame& frame, const QString& opening, const QVector<TagPart>& parts) {
-    QString tag = BuildBare(frame, opening);
+QString BuildTag(const QString& opening, const QVector<TagPart>& parts, TagCase tagCase) {
+    QString tag = InCase(opening, tagCase);
     for (const TagPart& part : parts)
-        tag += part.bare.isEmpty() ? BuildAttribute(frame, part.name, part.value, part.quoted)
-                                   : BuildBare(frame, part.bare);
+        tag += BuildAttribute(part, tagCase).text;
     return tag + u'>';
 }

@@ -1,10 +1,8 @@
-// What the Spacer and MultiColumn dialogs compute.
 #include "builders/ColumnTags.h"
 
 #include "builders/BuildTag.h"
-#include "editor/InsertTag.h"
 
-QString SpacerTag(Frame& frame, const SpacerFields& fields) {
+QString SpacerTag(const SpacerFields& fields, TagCase tagCase) {
     QVector<TagPart> parts;
     switch (fields.kind) {
     case SpacerKind::None:
@@ -24,13 +22,14 @@ QString SpacerTag(Frame& frame, const SpacerFields& fields) {
                  TagPart::Plain(QStringLiteral("ALIGN"), fields.align)};
         break;
     }
-    return BuildTag(frame, QStringLiteral("<SPACER TYPE="), parts);
+    return BuildTag(QStringLiteral("<SPACER TYPE="), parts, tagCase);
 }
 
-TagPair MultiColumnTag(Frame& frame, const QString& cols, const QString& gutter, const QString& width) {
-    return {BuildTag(frame, QStringLiteral("<MULTICOL"),
-                     {TagPart::Plain(QStringLiteral("COLS"), cols),
-                      TagPart::Plain(QStringLiteral("GUTTER"), gutter),
-                      TagPart::Plain(QStringLiteral("WIDTH"), width)}),
-            BuildBare(frame, QStringLiteral("</MULTICOL>"))};
+TagPair MultiColumnTag(const MultiColumnFields& fields, TagCase tagCase) {
+    return {BuildTag(QStringLiteral("<MULTICOL"),
+                     {TagPart::Plain(QStringLiteral("COLS"), fields.cols),
+                      TagPart::Plain(QStringLiteral("GUTTER"), fields.gutter),
+                      TagPart::Plain(QStringLiteral("WIDTH"), fields.width)},
+                     tagCase),
+            InCase(QStringLiteral("</MULTICOL>"), tagCase)};
 }

@@ -2,8 +2,7 @@
 #pragma once
 
 #include "builders/TagPair.h"
-
-class Frame;
+#include "editor/TagCase.h"
 
 enum class SpacerKind { None, Horizontal, Vertical, Block };
 
@@ -17,6 +16,12 @@ struct SpacerFields {
 
 /// Only the fields of the kind are written, whatever the others hold; without a kind nothing stands behind
 /// "TYPE=".
-QString SpacerTag(Frame& frame, const SpacerFields& fields);
+QString SpacerTag(const SpacerFields& fields, TagCase tagCase);
 
-TagPair MultiColumnTag(Frame& frame, const QString& cols, const QString& gutter, const QString& width);
+struct MultiColumnFields {
+    QString cols{};
+    QString gutter{};
+    QString width{};
+};
+
+TagPair MultiColumnTag(const MultiColumnFields& fields, TagCase tagCase);

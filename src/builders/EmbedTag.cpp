@@ -1,12 +1,12 @@
-// What the Embed dialog computes.
 #include "builders/EmbedTag.h"
 
 #include "builders/BuildTag.h"
 
-QString EmbedTag(Frame& frame, const EmbedFields& fields) {
-    return BuildTag(frame, QStringLiteral("<EMBED"),
+QString EmbedTag(const EmbedFields& fields, TagCase tagCase) {
+    return BuildTag(QStringLiteral("<EMBED"),
                     {TagPart::Plain(QStringLiteral("WIDTH"), fields.width),
                      TagPart::Plain(QStringLiteral("HEIGHT"), fields.height),
                      TagPart::Plain(QStringLiteral("PALETTE"), fields.palette),
-                     TagPart::Quoted(QStringLiteral("SRC"), fields.url)});
+                     TagPart::Quoted(QStringLiteral("SRC"), fields.url)},
+                    tagCase);
 }

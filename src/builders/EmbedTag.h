@@ -1,9 +1,7 @@
 // What the Embed dialog computes.
 #pragma once
 
-#include <QString>
-
-class Frame;
+#include "editor/TagCase.h"
 
 struct EmbedFields {
     QString width{};
@@ -12,4 +10,4 @@ struct EmbedFields {
     QString url{};
 };
 
-QString EmbedTag(Frame& frame, const EmbedFields& fields);
+QString EmbedTag(const EmbedFields& fields, TagCase tagCase);

@@ -2,10 +2,9 @@
 #pragma once
 
 #include "builders/TagPair.h"
+#include "editor/TagCase.h"
 
 #include <QString>
-
-class Frame;
 
 struct FontFields {
     QString size{};
@@ -13,7 +12,7 @@ struct FontFields {
     QString face{};
 };
 
-TagPair FontTag(Frame& frame, const FontFields& fields);
+TagPair FontTag(const FontFields& fields, TagCase tagCase);
 
 /// The face field with one more name: the name alone in an empty field, else behind a comma and a blank.
 QString WithFace(const QString& faces, const QString& name);

@@ -1,14 +1,13 @@
-// What the Link dialog computes: an anchor around the selection.
 #include "builders/LinkTag.h"
 
-#include "editor/InsertTag.h"
+#include "editor/BuildAttribute.h"
 
-TagPair LinkTag(Frame& frame, const LinkFields& fields) {
-    QString open = BuildBare(frame, QStringLiteral("<A HREF=")) + u'"' + fields.protocol + fields.url;
+TagPair LinkTag(const LinkFields& fields, TagCase tagCase) {
+    QString open = InCase(QStringLiteral("<A HREF="), tagCase) + u'"' + fields.protocol + fields.url;
     if (!fields.anchor.isEmpty())
         open += u'#' + fields.anchor;
     open += u'"';
-    open += BuildAttribute(frame, QStringLiteral("TARGET"), fields.target, true);
+    open += BuildAttribute(TagPart::Quoted(QStringLiteral("TARGET"), fields.target), tagCase).text;
     open += u'>';
-    return {open, BuildBare(frame, QStringLiteral("</A>"))};
+    return {open, InCase(QStringLiteral("</A>"), tagCase)};
 }

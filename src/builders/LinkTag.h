@@ -2,8 +2,7 @@
 #pragma once
 
 #include "builders/TagPair.h"
-
-class Frame;
+#include "editor/TagCase.h"
 
 struct LinkFields {
     QString protocol{};
@@ -13,4 +12,4 @@ struct LinkFields {
 };
 
 /// Protocol, URL and anchor are joined unchecked.
-TagPair LinkTag(Frame& frame, const LinkFields& fields);
+TagPair LinkTag(const LinkFields& fields, TagCase tagCase);

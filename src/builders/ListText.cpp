@@ -1,7 +1,4 @@
-// What the Lists dialog computes: a whole list, one item a line.
 #include "builders/ListText.h"
-
-#include "editor/InsertTag.h"
 
 namespace {
 
@@ -14,7 +11,7 @@ struct ListWords {
 
 } // namespace
 
-QString ListText(Frame& frame, const QString& kind, const QStringList& items) {
+QString ListText(const QString& kind, const QStringList& items, TagCase tagCase) {
     const ListWords kinds[] = {
         {QStringLiteral("U"), QStringLiteral("UL>"), QStringLiteral("LI>"), QStringLiteral("/UL>")},
         {QStringLiteral("O"), QStringLiteral("OL>"), QStringLiteral("LI>"), QStringLiteral("/OL>")},
@@ -24,11 +21,11 @@ QString ListText(Frame& frame, const QString& kind, const QStringList& items) {
     for (const ListWords& words : kinds) {
         if (words.kind != kind)
             continue;
-        const QString itemStart = lineEnd + BuildBare(frame, words.item);
-        QString text = u'<' + BuildBare(frame, words.first);
+        const QString itemStart = lineEnd + InCase(words.item, tagCase);
+        QString text = u'<' + InCase(words.first, tagCase);
         for (const QString& item : items)
             text += itemStart + item;
-        return text + lineEnd + BuildBare(frame, words.last);
+        return text + lineEnd + InCase(words.last, tagCase);
     }
     return QString();
 }

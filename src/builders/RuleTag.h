@@ -1,9 +1,7 @@
 // What the Horizontal Rule dialog computes.
 #pragma once
 
-#include <QString>
-
-class Frame;
+#include "editor/TagCase.h"
 
 struct RuleFields {
     QString width{};
@@ -14,4 +12,4 @@ struct RuleFields {
 };
 
 /// With percent the "%" is written even where the width is empty: `<HR%>`.
-QString RuleTag(Frame& frame, const RuleFields& fields);
+QString RuleTag(const RuleFields& fields, TagCase tagCase);

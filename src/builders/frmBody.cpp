@@ -117,9 +117,13 @@ void frmBody::txtBackground_Change() {
 }
 
 void frmBody::cmdOK_Click() {
-    const QString tag =
-        BodyTag(frame_, {FieldText(ui_->txtBG), FieldText(ui_->txtText), FieldText(ui_->txtLink),
-                         FieldText(ui_->txtVlink), FieldText(ui_->txtAlink), FieldText(ui_->txtBackground)});
+    const QString tag = BodyTag({.bg = FieldText(ui_->txtBG),
+                                 .text = FieldText(ui_->txtText),
+                                 .link = FieldText(ui_->txtLink),
+                                 .vlink = FieldText(ui_->txtVlink),
+                                 .alink = FieldText(ui_->txtAlink),
+                                 .background = FieldText(ui_->txtBackground)},
+                                TagCaseOf(frame_.Store()));
     if (Document* document = frame_.ActiveForm()) {
         const UndoAction step(document->txtInput());
         DeleteBodyTag(document->txtInput());

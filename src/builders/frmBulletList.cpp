@@ -33,7 +33,7 @@ void frmBulletList::cmdOK_Click() {
     QStringList items;
     for (int row = 0; row < ui_->List1->count(); ++row)
         items << ui_->List1->item(row)->text();
-    Insert(ListText(frame_, tag_, items));
+    Insert(ListText(tag_, items, TagCaseOf(frame_.Store())));
     Unload();
 }
 

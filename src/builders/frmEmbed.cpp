@@ -4,6 +4,7 @@
 #include "builders/EmbedTag.h"
 #include "builders/FileDialogs.h"
 #include "builders/FormFields.h"
+#include "editor/Frame.h"
 #include "ui_frmEmbed.h"
 
 frmEmbed::frmEmbed(Frame& frame) : TagDialog(frame), ui_(std::make_unique<Ui::frmEmbed>()) {
@@ -32,7 +33,10 @@ void frmEmbed::cmdGetFle_Click() {
 }
 
 void frmEmbed::cmdOK_Click() {
-    Insert(EmbedTag(frame_, {FieldText(ui_->txtWidth), FieldText(ui_->txtHeight), FieldText(ui_->cboPalette),
-                             FieldText(ui_->txtURL)}));
+    Insert(EmbedTag({.width = FieldText(ui_->txtWidth),
+                     .height = FieldText(ui_->txtHeight),
+                     .palette = FieldText(ui_->cboPalette),
+                     .url = FieldText(ui_->txtURL)},
+                    TagCaseOf(frame_.Store())));
     Unload();
 }

@@ -5,6 +5,7 @@
 #include "builders/FormFields.h"
 #include "builders/ListKeys.h"
 #include "builders/PickColor.h"
+#include "editor/Frame.h"
 #include "platform/FaceNames.h"
 #include "ui_frmFont.h"
 
@@ -33,8 +34,10 @@ void frmFont::List1_DblClick() {
 }
 
 void frmFont::cmdOK_Click() {
-    const auto [open, close] = FontTag(
-        frame_, {FieldText(ui_->cboFontSize), FieldText(ui_->txtFontColor), FieldText(ui_->txtFontFace)});
+    const auto [open, close] = FontTag({.size = FieldText(ui_->cboFontSize),
+                                        .color = FieldText(ui_->txtFontColor),
+                                        .face = FieldText(ui_->txtFontFace)},
+                                       TagCaseOf(frame_.Store()));
     Insert(open, close);
     Unload();
 }

@@ -53,11 +53,18 @@ void frmGraphicLink::cmdLinkMe_Click() {
 }
 
 void frmGraphicLink::cmdOK_Click() {
-    const QString tag =
-        ImageTag(frame_, {FieldText(ui_->txtURL), FieldText(ui_->txtLowSRC), FieldText(ui_->txtALT),
-                          FieldText(ui_->txtWidth), FieldText(ui_->txtHeight), FieldText(ui_->txtHSpace),
-                          FieldText(ui_->txtVSpace), FieldText(ui_->txtBorder), FieldText(ui_->txtUseMap),
-                          ui_->chkISMAP->isChecked(), FieldText(ui_->txtLinkMe)});
+    const QString tag = ImageTag({.url = FieldText(ui_->txtURL),
+                                  .lowSrc = FieldText(ui_->txtLowSRC),
+                                  .alt = FieldText(ui_->txtALT),
+                                  .width = FieldText(ui_->txtWidth),
+                                  .height = FieldText(ui_->txtHeight),
+                                  .hSpace = FieldText(ui_->txtHSpace),
+                                  .vSpace = FieldText(ui_->txtVSpace),
+                                  .border = FieldText(ui_->txtBorder),
+                                  .useMap = FieldText(ui_->txtUseMap),
+                                  .isMap = ui_->chkISMAP->isChecked(),
+                                  .linkMe = FieldText(ui_->txtLinkMe)},
+                                 TagCaseOf(frame_.Store()));
     Insert(tag);
     auto& state = frame_.State<BuilderState>();
     state.LastBuiltTag = tag;

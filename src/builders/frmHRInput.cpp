@@ -3,6 +3,7 @@
 
 #include "builders/FormFields.h"
 #include "builders/RuleTag.h"
+#include "editor/Frame.h"
 #include "ui_frmHRInput.h"
 
 frmHRInput::frmHRInput(Frame& frame) : TagDialog(frame), ui_(std::make_unique<Ui::frmHRInput>()) {
@@ -17,9 +18,12 @@ frmHRInput::frmHRInput(Frame& frame) : TagDialog(frame), ui_(std::make_unique<Ui
 frmHRInput::~frmHRInput() = default;
 
 void frmHRInput::cmdOK_Click() {
-    const QString tag = RuleTag(frame_, {FieldText(ui_->txtWidthInput), ui_->optPercent->isChecked(),
-                                         FieldText(ui_->cboThickInput), FieldText(ui_->cboAlign),
-                                         ui_->chkNoShade->isChecked()});
+    const QString tag = RuleTag({.width = FieldText(ui_->txtWidthInput),
+                                 .percent = ui_->optPercent->isChecked(),
+                                 .thickness = FieldText(ui_->cboThickInput),
+                                 .align = FieldText(ui_->cboAlign),
+                                 .noShade = ui_->chkNoShade->isChecked()},
+                                TagCaseOf(frame_.Store()));
     // Alone among the dialogs this one is gone before its tag comes.
     Unload();
     Insert(tag);

@@ -3,6 +3,7 @@
 
 #include "builders/AppletTags.h"
 #include "builders/FormFields.h"
+#include "editor/Frame.h"
 #include "ui_frmJava.h"
 
 frmJava::frmJava(Frame& frame) : TagDialog(frame), ui_(std::make_unique<Ui::frmJava>()) {
@@ -18,10 +19,16 @@ frmJava::frmJava(Frame& frame) : TagDialog(frame), ui_(std::make_unique<Ui::frmJ
 frmJava::~frmJava() = default;
 
 void frmJava::cmdOK_Click() {
-    const auto [open, close] =
-        AppletTag(frame_, {FieldText(ui_->txtCodeBase), FieldText(ui_->txtCode), FieldText(ui_->txtWidth),
-                           FieldText(ui_->txtHeight), FieldText(ui_->txtAlt), FieldText(ui_->txtName),
-                           FieldText(ui_->txtVspace), FieldText(ui_->txtHSpace), FieldText(ui_->cboAlign)});
+    const auto [open, close] = AppletTag({.codeBase = FieldText(ui_->txtCodeBase),
+                                          .code = FieldText(ui_->txtCode),
+                                          .width = FieldText(ui_->txtWidth),
+                                          .height = FieldText(ui_->txtHeight),
+                                          .alt = FieldText(ui_->txtAlt),
+                                          .name = FieldText(ui_->txtName),
+                                          .vSpace = FieldText(ui_->txtVspace),
+                                          .hSpace = FieldText(ui_->txtHSpace),
+                                          .align = FieldText(ui_->cboAlign)},
+                                         TagCaseOf(frame_.Store()));
     Insert(open, close);
     Unload();
 }

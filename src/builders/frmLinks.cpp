@@ -4,6 +4,7 @@
 #include "builders/FileDialogs.h"
 #include "builders/FormFields.h"
 #include "builders/LinkTag.h"
+#include "editor/Frame.h"
 #include "ui_frmLinks.h"
 
 frmLinks::frmLinks(Frame& frame) : TagDialog(frame), ui_(std::make_unique<Ui::frmLinks>()), dialog_(frame) {
@@ -32,8 +33,11 @@ void frmLinks::cmdOpen_Click() {
 }
 
 void frmLinks::cmdOK_Click() {
-    const auto [open, close] = LinkTag(frame_, {FieldText(ui_->cboChoice), FieldText(ui_->txtURL),
-                                                FieldText(ui_->txtAnchor), FieldText(ui_->txtTarget)});
+    const auto [open, close] = LinkTag({.protocol = FieldText(ui_->cboChoice),
+                                        .url = FieldText(ui_->txtURL),
+                                        .anchor = FieldText(ui_->txtAnchor),
+                                        .target = FieldText(ui_->txtTarget)},
+                                       TagCaseOf(frame_.Store()));
     Insert(open, close);
     Unload();
 }

@@ -3,6 +3,7 @@
 
 #include "builders/ColumnTags.h"
 #include "builders/FormFields.h"
+#include "editor/Frame.h"
 #include "ui_frmMulti.h"
 
 frmMulti::frmMulti(Frame& frame) : TagDialog(frame), ui_(std::make_unique<Ui::frmMulti>()) {
@@ -14,8 +15,10 @@ frmMulti::frmMulti(Frame& frame) : TagDialog(frame), ui_(std::make_unique<Ui::fr
 frmMulti::~frmMulti() = default;
 
 void frmMulti::cmdOK_Click() {
-    const auto [open, close] =
-        MultiColumnTag(frame_, FieldText(ui_->txtCols), FieldText(ui_->txtGutter), FieldText(ui_->txtWidth));
+    const auto [open, close] = MultiColumnTag({.cols = FieldText(ui_->txtCols),
+                                               .gutter = FieldText(ui_->txtGutter),
+                                               .width = FieldText(ui_->txtWidth)},
+                                              TagCaseOf(frame_.Store()));
     Insert(open, close);
     Unload();
 }

@@ -3,6 +3,7 @@
 
 #include "builders/AppletTags.h"
 #include "builders/FormFields.h"
+#include "editor/Frame.h"
 #include "ui_frmParam.h"
 
 frmParam::frmParam(Frame& frame) : TagDialog(frame), ui_(std::make_unique<Ui::frmParam>()) {
@@ -13,7 +14,8 @@ frmParam::frmParam(Frame& frame) : TagDialog(frame), ui_(std::make_unique<Ui::fr
 frmParam::~frmParam() = default;
 
 void frmParam::cmdOK_Click() {
-    Insert(ParamTag(frame_, FieldText(ui_->txtName), FieldText(ui_->txtValue)));
+    Insert(ParamTag({.name = FieldText(ui_->txtName), .value = FieldText(ui_->txtValue)},
+                    TagCaseOf(frame_.Store())));
     ui_->txtName->clear();
     ui_->txtValue->clear();
     // Ready for the next name, for those who go by keys.

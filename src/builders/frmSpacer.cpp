@@ -1,8 +1,8 @@
 // The Spacer dialog: white space of a given size.
 #include "builders/frmSpacer.h"
 
-#include "builders/ColumnTags.h"
 #include "builders/FormFields.h"
+#include "editor/Frame.h"
 #include "ui_frmSpacer.h"
 
 frmSpacer::frmSpacer(Frame& frame) : TagDialog(frame), ui_(std::make_unique<Ui::frmSpacer>()) {
@@ -38,18 +38,20 @@ void frmSpacer::EnableFields(bool block) {
         one->setEnabled(block);
 }
 
-void frmSpacer::cmdOK_Click() {
-    SpacerFields fields;
+SpacerKind frmSpacer::Kind() const {
     if (ui_->optHorz->isChecked())
-        fields.kind = SpacerKind::Horizontal;
-    else if (ui_->optVert->isChecked())
-        fields.kind = SpacerKind::Vertical;
-    else if (ui_->optBlock->isChecked())
-        fields.kind = SpacerKind::Block;
-    fields.size = FieldText(ui_->txtSize);
-    fields.width = FieldText(ui_->txtWidth);
-    fields.height = FieldText(ui_->txtHeight);
-    fields.align = FieldText(ui_->cboAlign);
-    Insert(SpacerTag(frame_, fields));
+        return SpacerKind::Horizontal;
+    if (ui_->optVert->isChecked())
+        return SpacerKind::Vertical;
+    return ui_->optBlock->isChecked() ? SpacerKind::Block : SpacerKind::None;
+}
+
+void frmSpacer::cmdOK_Click() {
+    Insert(SpacerTag({.kind = Kind(),
+                      .size = FieldText(ui_->txtSize),
+                      .width = FieldText(ui_->txtWidth),
+                      .height = FieldText(ui_->txtHeight),
+                      .align = FieldText(ui_->cboAlign)},
+                     TagCaseOf(frame_.Store())));
     Unload();
 }

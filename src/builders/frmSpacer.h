@@ -1,6 +1,7 @@
 // The Spacer dialog: white space of a given size.
 #pragma once
 
+#include "builders/ColumnTags.h"
 #include "builders/TagDialog.h"
 
 #include <memory>
@@ -21,6 +22,7 @@ class frmSpacer final : public TagDialog {
     void optVert_Click();
     void optBlock_Click();
     void cmdOK_Click() override;
+    SpacerKind Kind() const;
     /// A block has a width, a height and an alignment; the two other kinds have a size.
     void EnableFields(bool block);
 

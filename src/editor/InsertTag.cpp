@@ -1,27 +1,20 @@
-// The primitives by which menus, toolbar, user buttons and dialogs put HTML into the active document.
 #include "editor/InsertTag.h"
 
 #include "editor/ColorizeText.h"
 #include "editor/Document.h"
 #include "editor/Frame.h"
+#include "editor/TagCase.h"
 #include "editor/WriteColoredText.h"
 #include "platform/Prompts.h"
 #include "platform/RichTextBox.h"
 #include "platform/Settings.h"
 #include "platform/UndoAction.h"
 
-namespace {
-
-bool LowerCaseTags(Frame& frame) {
-    return frame.Store().ReadFlag(Keys::LowerCaseTags);
-}
-
-} // namespace
-
 void InsertTag(Frame& frame, QString& open, QString& close, bool keepCase) {
-    if (!keepCase && LowerCaseTags(frame)) {
-        open = open.toLower();
-        close = close.toLower();
+    if (!keepCase) {
+        const TagCase tagCase = TagCaseOf(frame.Store());
+        open = InCase(open, tagCase);
+        close = InCase(close, tagCase);
     }
     Document* document = frame.ActiveForm();
     if (!document)
@@ -44,35 +37,6 @@ void InsertTag(Frame& frame, const QString& open, const QString& close, bool kee
     QString openCopy = open;
     QString closeCopy = close;
     InsertTag(frame, openCopy, closeCopy, keepCase);
-}
-
-QString BuildAttribute(Frame& frame, QString& name, QString& value, bool quoted, QString& bare) {
-    if (!bare.isEmpty()) {
-        if (LowerCaseTags(frame))
-            bare = bare.toLower();
-        return bare;
-    }
-    if (value.isEmpty())
-        return QString();
-    if (LowerCaseTags(frame))
-        name = name.toLower();
-    if (quoted)
-        value = QLatin1Char('"') + value + QLatin1Char('"');
-    return QLatin1Char(' ') + name + QLatin1Char('=') + value;
-}
-
-QString BuildAttribute(Frame& frame, const QString& name, const QString& value, bool quoted) {
-    QString nameCopy = name;
-    QString valueCopy = value;
-    QString bare;
-    return BuildAttribute(frame, nameCopy, valueCopy, quoted, bare);
-}
-
-QString BuildBare(Frame& frame, const QString& bare) {
-    QString name;
-    QString value;
-    QString bareCopy = bare;
-    return BuildAttribute(frame, name, value, false, bareCopy);
 }
 
 QString ReplaceInSelection(Frame& frame, const QString& text, const QString& find, const QString& replacement,

@@ -14,15 +14,6 @@ void InsertTag(Frame& frame, QString& open, QString& close, bool keepCase);
 /// The same for callers that need nothing back.
 void InsertTag(Frame& frame, const QString& open, const QString& close, bool keepCase);
 
-/// One attribute of a tag. bare alone gives bare; an empty value gives nothing; else ` NAME="value"` or `
-/// NAME=value`. With LowerCaseTags at 1 name and bare are lowered in place; a quoted value gets its quotes in
-/// place.
-QString BuildAttribute(Frame& frame, QString& name, QString& value, bool quoted, QString& bare);
-
-/// The same for callers that need nothing back.
-QString BuildAttribute(Frame& frame, const QString& name, const QString& value, bool quoted);
-QString BuildBare(Frame& frame, const QString& bare);
-
 enum class Compare { Exact = 0, IgnoreCase = 1 };
 
 /// Replaces every find in text, assigns the result to the active document's SelText, uncoloured, and says

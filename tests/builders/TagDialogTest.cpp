@@ -1,7 +1,5 @@
-// What all tag dialogs have in common, and the table that a tag is built from.
 #include "builders/TagDialog.h"
 
-#include "builders/BuildTag.h"
 #include "support/TestFrame.h"
 
 #include <gtest/gtest.h>
@@ -83,22 +81,6 @@ TEST_F(TagDialogTest, WithoutADocumentOkJustCloses) {
     QTest::mouseClick(dialog->findChild<QPushButton*>(QStringLiteral("cmdOK")), Qt::LeftButton);
     EXPECT_FALSE(Loaded());
     EXPECT_TRUE(frame.prompts.asked.isEmpty());
-}
-
-TEST(BuildTag, PartsInOrderEmptyOnesLeftOut) {
-    TestFrame frame;
-    const QVector<TagPart> parts{TagPart::Quoted(QStringLiteral("ALT"), QStringLiteral("A \"b\" C")),
-                                 TagPart::Plain(QStringLiteral("WIDTH"), QStringLiteral("10")),
-                                 TagPart::Plain(QStringLiteral("HEIGHT"), QString()),
-                                 TagPart::Quoted(QStringLiteral("SRC"), QString()),
-                                 TagPart::Word(QStringLiteral(" ISMAP")),
-                                 TagPart::Word(QStringLiteral(" NOSHADE"), false)};
-    EXPECT_EQ(BuildTag(frame, QStringLiteral("<IMG"), parts),
-              QStringLiteral("<IMG ALT=\"A \"b\" C\" WIDTH=10 ISMAP>"));
-    frame.Store().WriteFlag(Keys::LowerCaseTags, true);
-    EXPECT_EQ(BuildTag(frame, QStringLiteral("<IMG"), parts),
-              QStringLiteral("<img alt=\"A \"b\" C\" width=10 ismap>"));
-    EXPECT_EQ(BuildTag(frame, QStringLiteral("<HR"), {}), QStringLiteral("<hr>"));
 }
 
 #include "TagDialogTest.moc"

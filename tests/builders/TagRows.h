@@ -1,25 +1,23 @@
-// Row tables of tags: what a function of a dialog's fields gives with LowerCaseTags off and on.
+// Row tables of tags: what a function of a dialog's fields gives in each case of the tag words.
 #pragma once
 
 #include "builders/TagPair.h"
-#include "support/TestFrame.h"
+#include "editor/TagCase.h"
+#include "support/Text.h"
 
 #include <functional>
 #include <gtest/gtest.h>
 
 struct Row {
-    std::function<QString(Frame&)> tag;
+    std::function<QString(TagCase)> tag;
     const char16_t* asWritten;
     const char16_t* lowered;
 };
 
 inline void Check(const std::vector<Row>& rows) {
-    TestFrame frame;
     for (const Row& row : rows) {
-        frame.Store().WriteFlag(Keys::LowerCaseTags, false);
-        EXPECT_EQ(row.tag(frame), QString::fromUtf16(row.asWritten));
-        frame.Store().WriteFlag(Keys::LowerCaseTags, true);
-        EXPECT_EQ(row.tag(frame), QString::fromUtf16(row.lowered));
+        EXPECT_EQ(row.tag(TagCase::AsWritten), QString::fromUtf16(row.asWritten));
+        EXPECT_EQ(row.tag(TagCase::Lower), QString::fromUtf16(row.lowered));
     }
 }
 

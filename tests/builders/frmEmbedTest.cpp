@@ -1,26 +1,12 @@
 #include "builders/frmEmbed.h"
 
 #include "builders/DialogTest.h"
-#include "builders/EmbedTag.h"
 #include "builders/FileDialogs.h"
 #include "builders/Site.h"
 #include "builders/TagRows.h"
 #include <QCheckBox>
 
 namespace {
-
-Row Embed(EmbedFields fields, const char16_t* asWritten, const char16_t* lowered) {
-    return {[=](Frame& frame) { return EmbedTag(frame, fields); }, asWritten, lowered};
-}
-
-TEST(EmbedTag, QuotesTheSourceAlone) {
-    Check({
-        Embed({}, u"<EMBED>", u"<embed>"),
-        Embed({T(u"1"), T(u"2"), T(u"BACKGROUND"), T(u"My x.mid")},
-              u"<EMBED WIDTH=1 HEIGHT=2 PALETTE=BACKGROUND SRC=\"My x.mid\">",
-              u"<embed width=1 height=2 palette=BACKGROUND src=\"My x.mid\">"),
-    });
-}
 
 class frmEmbedTest : public DialogTest {
   protected:

@@ -8,26 +8,6 @@
 
 namespace {
 
-Row Font(FontFields fields, const char16_t* asWritten, const char16_t* lowered) {
-    return {[=](Frame& frame) { return Shown(FontTag(frame, fields)); }, asWritten, lowered};
-}
-
-TEST(FontTag, QuotesTheFaceAlone) {
-    Check({
-        Font({}, u"<FONT>|</FONT>", u"<font>|</font>"),
-        Font({T(u"3"), T(u"#FF0000"), T(u"Arial, Verdana")},
-             u"<FONT SIZE=3 COLOR=#FF0000 FACE=\"Arial, Verdana\">|</FONT>",
-             u"<font size=3 color=#FF0000 face=\"Arial, Verdana\">|</font>"),
-        Font({T(u"+1"), QString(), QString()}, u"<FONT SIZE=+1>|</FONT>", u"<font size=+1>|</font>"),
-    });
-}
-
-TEST(WithFace, JoinsNamesByACommaAndABlank) {
-    EXPECT_EQ(WithFace(QString(), T(u"Arial")), T(u"Arial"));
-    EXPECT_EQ(WithFace(T(u"Arial"), T(u"Verdana")), T(u"Arial, Verdana"));
-    EXPECT_EQ(WithFace(T(u" "), T(u"Verdana")), T(u" , Verdana"));
-}
-
 class frmFontTest : public DialogTest {
   protected:
     void SetUp() override {

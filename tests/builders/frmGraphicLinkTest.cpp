@@ -3,36 +3,11 @@
 #include "builders/BuilderState.h"
 #include "builders/DialogTest.h"
 #include "builders/FileDialogs.h"
-#include "builders/ImageTag.h"
 #include "builders/Site.h"
 #include "builders/TagRows.h"
 #include <QCheckBox>
 
 namespace {
-
-Row Image(ImageFields fields, const char16_t* asWritten, const char16_t* lowered) {
-    return {[=](Frame& frame) { return ImageTag(frame, fields); }, asWritten, lowered};
-}
-
-TEST(ImageTag, WritesItsAttributesInOrderAndAlwaysTheMap) {
-    Check({
-        Image({}, u"<IMG USEMAP=\"#\">", u"<img usemap=\"#\">"),
-        Image({.url = T(u"a.gif"), .alt = T(u"x"), .width = T(u"10"), .height = T(u"20")},
-              u"<IMG ALT=\"x\" WIDTH=10 HEIGHT=20 SRC=\"a.gif\" USEMAP=\"#\">",
-              u"<img alt=\"x\" width=10 height=20 src=\"a.gif\" usemap=\"#\">"),
-        Image({T(u"A.gif"), T(u"L.gif"), T(u"Alt"), T(u"1"), T(u"2"), T(u"3"), T(u"4"), T(u"5"), T(u"Map"),
-               true, QString()},
-              u"<IMG ALT=\"Alt\" WIDTH=1 HEIGHT=2 HSPACE=3 VSPACE=4 BORDER=5 LOWSRC=\"L.gif\" SRC=\"A.gif\" "
-              u"USEMAP=\"#Map\" ISMAP>",
-              u"<img alt=\"Alt\" width=1 height=2 hspace=3 vspace=4 border=5 lowsrc=\"L.gif\" src=\"A.gif\" "
-              u"usemap=\"#Map\" ismap>"),
-        Image({.url = T(u"a.gif"), .linkMe = T(u"Big.htm")},
-              u" <A HREF==\"Big.htm\"><IMG SRC=\"a.gif\" USEMAP=\"#\"></A>",
-              u" <a href==\"Big.htm\"><img src=\"a.gif\" usemap=\"#\"></a>"),
-        Image({.alt = T(u"say \"x\"")}, u"<IMG ALT=\"say \"x\"\" USEMAP=\"#\">",
-              u"<img alt=\"say \"x\"\" usemap=\"#\">"),
-    });
-}
 
 class frmGraphicLinkTest : public DialogTest {
   protected:

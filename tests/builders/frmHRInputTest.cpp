@@ -1,28 +1,12 @@
 #include "builders/frmHRInput.h"
 
 #include "builders/DialogTest.h"
-#include "builders/RuleTag.h"
 #include "builders/TagRows.h"
 #include <QCheckBox>
 #include <QGroupBox>
 #include <QRadioButton>
 
 namespace {
-
-Row Rule(RuleFields fields, const char16_t* asWritten, const char16_t* lowered) {
-    return {[=](Frame& frame) { return RuleTag(frame, fields); }, asWritten, lowered};
-}
-
-TEST(RuleTag, WritesThePercentEvenWithoutAWidth) {
-    Check({
-        Rule({}, u"<HR>", u"<hr>"),
-        Rule({T(u"50"), true, T(u"2"), T(u"CENTER"), true}, u"<HR WIDTH=50% SIZE=2 ALIGN=CENTER NOSHADE>",
-             u"<hr width=50% size=2 align=CENTER noshade>"),
-        Rule({T(u"50"), false, QString(), QString(), false}, u"<HR WIDTH=50>", u"<hr width=50>"),
-        Rule({QString(), true, QString(), QString(), false}, u"<HR%>", u"<hr%>"),
-        Rule({QString(), true, T(u"3"), QString(), true}, u"<HR% SIZE=3 NOSHADE>", u"<hr% size=3 noshade>"),
-    });
-}
 
 using frmHRInputTest = DialogTest;
 

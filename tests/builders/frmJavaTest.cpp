@@ -1,27 +1,10 @@
 #include "builders/frmJava.h"
 
-#include "builders/AppletTags.h"
 #include "builders/DialogTest.h"
 #include "builders/TagRows.h"
 #include <QGroupBox>
 
 namespace {
-
-Row Applet(AppletFields fields, const char16_t* asWritten, const char16_t* lowered) {
-    return {[=](Frame& frame) { return Shown(AppletTag(frame, fields)); }, asWritten, lowered};
-}
-
-TEST(AppletTag, QuotesNothing) {
-    Check({
-        Applet({}, u"<APPLET>|\r\n</APPLET>", u"<applet>|\r\n</applet>"),
-        Applet({T(u"Base"), T(u"A.class"), T(u"1"), T(u"2"), T(u"two words"), T(u"n"), T(u"3"), T(u"4"),
-                T(u"LEFT")},
-               u"<APPLET CODEBASE=Base CODE=A.class WIDTH=1 HEIGHT=2 ALT=two words NAME=n VSPACE=3 HSPACE=4 "
-               u"ALIGN=LEFT>|\r\n</APPLET>",
-               u"<applet codebase=Base code=A.class width=1 height=2 alt=two words name=n vspace=3 hspace=4 "
-               u"align=LEFT>|\r\n</applet>"),
-    });
-}
 
 class frmJavaTest : public DialogTest {
   protected:

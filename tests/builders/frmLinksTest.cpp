@@ -2,28 +2,11 @@
 
 #include "builders/DialogTest.h"
 #include "builders/FileDialogs.h"
-#include "builders/LinkTag.h"
 #include "builders/Site.h"
 #include "builders/TagRows.h"
 #include <QCheckBox>
 
 namespace {
-
-Row Link(LinkFields fields, const char16_t* asWritten, const char16_t* lowered) {
-    return {[=](Frame& frame) { return Shown(LinkTag(frame, fields)); }, asWritten, lowered};
-}
-
-TEST(LinkTag, JoinsItsPartsUnchecked) {
-    Check({
-        Link({}, u"<A HREF=\"\">|</A>", u"<a href=\"\">|</a>"),
-        Link({QString(), T(u"x.htm"), T(u"top"), T(u"main")}, u"<A HREF=\"x.htm#top\" TARGET=\"main\">|</A>",
-             u"<a href=\"x.htm#top\" target=\"main\">|</a>"),
-        Link({T(u"http://"), T(u"Dir/X.htm"), QString(), QString()}, u"<A HREF=\"http://Dir/X.htm\">|</A>",
-             u"<a href=\"http://Dir/X.htm\">|</a>"),
-        Link({T(u"mailto:"), QString(), T(u"a\"b"), QString()}, u"<A HREF=\"mailto:#a\"b\">|</A>",
-             u"<a href=\"mailto:#a\"b\">|</a>"),
-    });
-}
 
 class frmLinksTest : public DialogTest {
   protected:

@@ -1,24 +1,9 @@
 #include "builders/frmMulti.h"
 
-#include "builders/ColumnTags.h"
 #include "builders/DialogTest.h"
 #include "builders/TagRows.h"
 
 namespace {
-
-Row Columns(const char16_t* cols, const char16_t* gutter, const char16_t* width, const char16_t* asWritten,
-            const char16_t* lowered) {
-    return {[=](Frame& frame) { return Shown(MultiColumnTag(frame, T(cols), T(gutter), T(width))); },
-            asWritten, lowered};
-}
-
-TEST(MultiColumnTag, WritesItsAttributesInOrder) {
-    Check({
-        Columns(u"", u"", u"", u"<MULTICOL>|</MULTICOL>", u"<multicol>|</multicol>"),
-        Columns(u"2", u"8", u"90%", u"<MULTICOL COLS=2 GUTTER=8 WIDTH=90%>|</MULTICOL>",
-                u"<multicol cols=2 gutter=8 width=90%>|</multicol>"),
-    });
-}
 
 class frmMultiTest : public DialogTest {
   protected:

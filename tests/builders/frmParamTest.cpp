@@ -1,23 +1,9 @@
 #include "builders/frmParam.h"
 
-#include "builders/AppletTags.h"
 #include "builders/DialogTest.h"
 #include "builders/TagRows.h"
 
 namespace {
-
-Row Param(const char16_t* name, const char16_t* value, const char16_t* asWritten, const char16_t* lowered) {
-    return {[=](Frame& frame) { return ParamTag(frame, T(name), T(value)); }, asWritten, lowered};
-}
-
-TEST(ParamTag, QuotesNothing) {
-    Check({
-        Param(u"", u"", u"<PARAM>", u"<param>"),
-        Param(u"Speed", u"very fast", u"<PARAM NAME=Speed VALUE=very fast>",
-              u"<param name=Speed value=very fast>"),
-        Param(u"", u"1", u"<PARAM VALUE=1>", u"<param value=1>"),
-    });
-}
 
 class frmParamTest : public DialogTest {
   protected:

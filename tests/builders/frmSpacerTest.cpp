@@ -1,33 +1,10 @@
 #include "builders/frmSpacer.h"
 
-#include "builders/ColumnTags.h"
 #include "builders/DialogTest.h"
 #include "builders/TagRows.h"
 #include <QRadioButton>
 
 namespace {
-
-Row Spacer(SpacerKind kind, const char16_t* asWritten, const char16_t* lowered) {
-    return {[=](Frame& frame) {
-                return SpacerTag(frame, {kind, T(u"5"), T(u"10"), T(u"20"), T(u"LEFT")});
-            },
-            asWritten, lowered};
-}
-
-TEST(SpacerTag, WritesTheFieldsOfItsKindAlone) {
-    Check({
-        Spacer(SpacerKind::None, u"<SPACER TYPE=>", u"<spacer type=>"),
-        Spacer(SpacerKind::Horizontal, u"<SPACER TYPE=HORIZONTAL SIZE=5>",
-               u"<spacer type=horizontal size=5>"),
-        Spacer(SpacerKind::Vertical, u"<SPACER TYPE=VERTICAL SIZE=5>", u"<spacer type=vertical size=5>"),
-        Spacer(SpacerKind::Block, u"<SPACER TYPE=BLOCK WIDTH=10 HEIGHT=20 ALIGN=LEFT>",
-               u"<spacer type=block width=10 height=20 align=LEFT>"),
-        {[](Frame& frame) {
-             return SpacerTag(frame, {SpacerKind::Block, {}, {}, {}, {}});
-         },
-         u"<SPACER TYPE=BLOCK>", u"<spacer type=block>"},
-    });
-}
 
 class frmSpacerTest : public DialogTest {
   protected:

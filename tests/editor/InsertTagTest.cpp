@@ -1,4 +1,4 @@
-// InsertTag, BuildAttribute and ReplaceInSelection: what they write, what they change, where the caret
+// InsertTag and ReplaceInSelection: what they write, what they change, where the caret
 // stands.
 #include "editor/InsertTag.h"
 
@@ -168,49 +168,6 @@ TEST(InsertTag, WithoutADocumentChangesNothing) {
     InsertTag(frame, QStringLiteral("<B>"), QStringLiteral("</B>"), false);
     EXPECT_TRUE(frame.prompts.asked.isEmpty());
     EXPECT_TRUE(frame.State<EditorState>().RtfBuffer.isEmpty());
-}
-
-struct AttributeRow {
-    const char *name, *value;
-    bool quoted;
-    const char* bare;
-    bool lower;
-    const char *result, *nameAfter, *valueAfter, *bareAfter;
-};
-
-TEST(BuildAttribute, FourCasesWithTheirEffects) {
-    const AttributeRow rows[] = {
-        {"WIDTH", "100", true, "", false, " WIDTH=\"100\"", "WIDTH", "\"100\"", ""},
-        {"WIDTH", "100", true, "", true, " width=\"100\"", "width", "\"100\"", ""},
-        {"WIDTH", "\"100\"", true, "", false, " WIDTH=\"\"100\"\"", "WIDTH", "\"\"100\"\"", ""},
-        {"WIDTH", "A1", false, "", false, " WIDTH=A1", "WIDTH", "A1", ""},
-        {"WIDTH", "A1", false, "", true, " width=A1", "width", "A1", ""},
-        {"ALT", "Big CAT", true, "", true, " alt=\"Big CAT\"", "alt", "\"Big CAT\"", ""},
-        {"", "x", false, "", false, " =x", "", "x", ""},
-        {"WIDTH", "", true, "", true, "", "WIDTH", "", ""},
-        {"WIDTH", "", false, "", false, "", "WIDTH", "", ""},
-        {"", "", true, " NOSHADE", false, " NOSHADE", "", "", " NOSHADE"},
-        {"X", "y", true, " NOSHADE", true, " noshade", "X", "y", " noshade"},
-        {"X", "y", false, "<HR", false, "<HR", "X", "y", "<HR"},
-    };
-    TestFrame frame;
-    for (const AttributeRow& row : rows) {
-        frame.Store().WriteFlag(Keys::LowerCaseTags, row.lower);
-        QString name = QString::fromLatin1(row.name), value = QString::fromLatin1(row.value),
-                bare = QString::fromLatin1(row.bare);
-        EXPECT_EQ(BuildAttribute(frame, name, value, row.quoted, bare), QString::fromLatin1(row.result));
-        EXPECT_EQ(name, QString::fromLatin1(row.nameAfter));
-        EXPECT_EQ(value, QString::fromLatin1(row.valueAfter));
-        EXPECT_EQ(bare, QString::fromLatin1(row.bareAfter));
-    }
-}
-
-TEST(BuildAttribute, OnlyExactlyOneLowers) {
-    TestFrame frame;
-    frame.Store().Write(Keys::LowerCaseTags, QStringLiteral("2"));
-    EXPECT_EQ(BuildAttribute(frame, QStringLiteral("ALT"), QStringLiteral("x"), false),
-              QStringLiteral(" ALT=x"));
-    EXPECT_EQ(BuildBare(frame, QStringLiteral("<IMG")), QStringLiteral("<IMG"));
 }
 
 struct ReplaceRow {

@@ -1,0 +1,19 @@
+#include "builders/BuildTag.h"
+
+#include "support/Text.h"
+
+#include <gtest/gtest.h>
+
+TEST(BuildTag, PartsInOrderEmptyOnesLeftOut) {
+    const QVector<TagPart> parts{TagPart::Quoted(QStringLiteral("ALT"), QStringLiteral("A \"b\" C")),
+                                 TagPart::Plain(QStringLiteral("WIDTH"), QStringLiteral("10")),
+                                 TagPart::Plain(QStringLiteral("HEIGHT"), QString()),
+                                 TagPart::Quoted(QStringLiteral("SRC"), QString()),
+                                 TagPart::Word(QStringLiteral(" ISMAP")),
+                                 TagPart::Word(QStringLiteral(" NOSHADE"), false)};
+    EXPECT_EQ(BuildTag(QStringLiteral("<IMG"), parts, TagCase::AsWritten),
+              QStringLiteral("<IMG ALT=\"A \"b\" C\" WIDTH=10 ISMAP>"));
+    EXPECT_EQ(BuildTag(QStringLiteral("<IMG"), parts, TagCase::Lower),
+              QStringLiteral("<img alt=\"A \"b\" C\" width=10 ismap>"));
+    EXPECT_EQ(BuildTag(QStringLiteral("<HR"), {}, TagCase::Lower), QStringLiteral("<hr>"));
+}
