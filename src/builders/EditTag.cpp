@@ -1,22 +1,16 @@
-// The road back from a tag to its dialog.
 #include "builders/EditTag.h"
 
+#include "builders/EmbedTag.h"
 #include "builders/frmBody.h"
 #include "builders/frmEmbed.h"
 #include "builders/frmGraphicLink.h"
-#include "builders/TagParser.h"
+#include "builders/ImageTag.h"
 #include "editor/Commands.h"
 #include "editor/Document.h"
 #include "editor/Forms.h"
 #include "editor/Frame.h"
+#include "editor/TagEnds.h"
 #include "platform/RichTextBox.h"
-
-#include <algorithm>
-#include <initializer_list>
-#include <QCheckBox>
-#include <QComboBox>
-#include <QLineEdit>
-#include <utility>
 
 namespace {
 
@@ -24,53 +18,34 @@ const QString ImageForm = QStringLiteral("frmGraphicLink");
 const QString BodyForm = QStringLiteral("frmBody");
 const QString EmbedForm = QStringLiteral("frmEmbed");
 
-void SetField(const QWidget& form, const QString& name, const QString& value) {
-    auto* combo = form.findChild<QComboBox*>(name);
-    QLineEdit* field = combo ? combo->lineEdit() : form.findChild<QLineEdit*>(name);
-    if (!field)
-        return;
-    // The old tag is gone once the dialog is up: a long value must not lose its end.
-    field->setMaxLength(std::max(field->maxLength(), static_cast<int>(value.size())));
-    field->setText(value);
-}
-
-/// Sets the fields in the order given from the rows of a table; an attribute that the tag lacks empties its
-/// field.
-void SetFields(const QWidget& form, const QString& tag, const QVector<TagKey>& keys,
-               std::initializer_list<const char*> order) {
-    for (const char* name : order) {
-        const QString field = QString::fromLatin1(name);
-        const auto row =
-            std::find_if(keys.begin(), keys.end(), [&](const TagKey& key) { return key.field == field; });
-        if (row != keys.end())
-            SetField(form, field, TagValue(tag, *row));
-    }
-}
-
 void CutSelection(Frame& frame) {
     if (Document* document = frame.ActiveForm())
         document->txtInput().SetSelText(QString());
 }
 
 void FillImage(Frame& frame, const QString& tag) {
-    auto& form = frame.LoadedForms().Load<frmGraphicLink>(ImageForm, frame);
-    // A dialog that is open already keeps a box that was checked before.
-    if (auto* chkISMAP = form.findChild<QCheckBox*>(QStringLiteral("chkISMAP")); chkISMAP && HasIsMap(tag))
-        chkISMAP->setChecked(true);
-    frame.LoadedForms().Show<frmGraphicLink>(ImageForm, frame);
-    SetFields(form, tag, ImageKeys(),
-              {"txtURL", "txtLowSRC", "txtALT", "txtWidth", "txtHeight", "txtHSpace", "txtVSpace",
-               "txtBorder", "cboAlign", "txtUseMap"});
+    frame.LoadedForms().Show<frmGraphicLink>(ImageForm, frame).Take(ImageFieldsOf(tag));
     CutSelection(frame);
 }
 
 void FillEmbed(Frame& frame, const QString& tag) {
-    auto& form = frame.LoadedForms().Show<frmEmbed>(EmbedForm, frame);
-    SetFields(form, tag, EmbedKeys(), {"txtWidth", "txtHeight", "cboPalette", "txtURL"});
+    frame.LoadedForms().Show<frmEmbed>(EmbedForm, frame).Take(EmbedFieldsOf(tag));
     CutSelection(frame);
 }
 
+bool Holds(const QString& tag, QStringView text) {
+    return tag.contains(text, Qt::CaseInsensitive);
+}
+
 } // namespace
+
+TagKind KindOfTag(const QString& tag) {
+    if (Holds(tag, u"img "))
+        return TagKind::Image;
+    if (Holds(tag, u"body"))
+        return TagKind::Body;
+    return Holds(tag, u"embed") ? TagKind::Embed : TagKind::None;
+}
 
 void EditTag(Frame& frame) {
     Document* document = frame.ActiveForm();

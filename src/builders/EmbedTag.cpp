@@ -1,6 +1,7 @@
 #include "builders/EmbedTag.h"
 
 #include "builders/BuildTag.h"
+#include "builders/TagValue.h"
 
 QString EmbedTag(const EmbedFields& fields, TagCase tagCase) {
     return BuildTag(QStringLiteral("<EMBED"),
@@ -9,4 +10,11 @@ QString EmbedTag(const EmbedFields& fields, TagCase tagCase) {
                      TagPart::Plain(QStringLiteral("PALETTE"), fields.palette),
                      TagPart::Quoted(QStringLiteral("SRC"), fields.url)},
                     tagCase);
+}
+
+EmbedFields EmbedFieldsOf(const QString& tag) {
+    return {.width = PlainValue(tag, u"width="),
+            .height = PlainValue(tag, u"height="),
+            .palette = PlainValue(tag, u"palette="),
+            .url = QuotedValue(tag, u" src=\"")};
 }

@@ -1,4 +1,4 @@
-// What the Embed dialog computes.
+// The tag of an embedded file both ways: from the fields of the Embed dialog, and back into them.
 #pragma once
 
 #include "editor/TagCase.h"
@@ -8,6 +8,10 @@ struct EmbedFields {
     QString height{};
     QString palette{};
     QString url{};
+    bool operator==(const EmbedFields&) const = default;
 };
 
 QString EmbedTag(const EmbedFields& fields, TagCase tagCase);
+
+/// What an embed's tag says; each word counts wherever it stands first.
+EmbedFields EmbedFieldsOf(const QString& tag);

@@ -3,6 +3,7 @@
 
 #include "platform/Cp1252.h"
 
+#include <algorithm>
 #include <QAbstractButton>
 #include <QAbstractItemView>
 #include <QAccessible>
@@ -54,6 +55,15 @@ void NamePartsOf(QComboBox& combo) {
     combo.view()->setAccessibleName(name);
     if (combo.lineEdit())
         combo.lineEdit()->setAccessibleName(name);
+}
+
+void SetWholeText(QLineEdit* field, const QString& text) {
+    field->setMaxLength(std::max(field->maxLength(), static_cast<int>(text.size())));
+    field->setText(text);
+}
+
+void SetWholeText(QComboBox* field, const QString& text) {
+    SetWholeText(field->lineEdit(), text);
 }
 
 void PrepareComboBoxes(QWidget& form) {

@@ -16,6 +16,10 @@ QString FieldText(const QComboBox* field);
 /// Gives the field and the list of a combo box the box's own accessible name.
 void NamePartsOf(QComboBox& combo);
 
+/// Puts a text into a field whole, even one longer than a person can type there.
+void SetWholeText(QLineEdit* field, const QString& text);
+void SetWholeText(QComboBox* field, const QString& text);
+
 /// Makes every combo box of a form a plain field with a list beside it: empty at first, and holding just what
 /// is typed into it, never a list entry that merely begins the same way.
 void PrepareComboBoxes(QWidget& form);

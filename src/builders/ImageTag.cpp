@@ -1,6 +1,7 @@
 #include "builders/ImageTag.h"
 
 #include "builders/BuildTag.h"
+#include "builders/TagValue.h"
 
 QString ImageTag(const ImageFields& fields, TagCase tagCase) {
     const QString tag = BuildTag(QStringLiteral("<IMG"),
@@ -20,4 +21,21 @@ QString ImageTag(const ImageFields& fields, TagCase tagCase) {
     // The "=" belongs to the name here, and a second one comes with the value.
     return BuildAttribute(TagPart::Quoted(QStringLiteral("<A HREF="), fields.linkMe), tagCase).text + u'>' +
            tag + InCase(QStringLiteral("</A>"), tagCase);
+}
+
+ImageFields ImageFieldsOf(const QString& tag) {
+    return {
+        // The blank keeps LOWSRC out.
+        .url = QuotedValue(tag, u" src=\""),
+        .lowSrc = QuotedValue(tag, u"lowsrc=\""),
+        .alt = QuotedValue(tag, u"alt=\""),
+        .width = PlainValue(tag, u"width="),
+        .height = PlainValue(tag, u"height="),
+        .hSpace = PlainValue(tag, u"hspace="),
+        .vSpace = PlainValue(tag, u"vspace="),
+        .border = PlainValue(tag, u"border="),
+        .align = PlainValue(tag, u"align="),
+        .useMap = QuotedValue(tag, u"usemap=\"#"),
+        .isMap = tag.contains(u"ismap", Qt::CaseInsensitive),
+    };
 }

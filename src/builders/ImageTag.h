@@ -1,9 +1,8 @@
-// What the Image dialog computes: an image tag, bare or wrapped in a link.
+// An image tag both ways: from the fields of the Image dialog, and back into them.
 #pragma once
 
 #include "editor/TagCase.h"
 
-/// The dialog's fields that are written. Its alignment is not one of them: no image tag gets an ALIGN.
 struct ImageFields {
     QString url{};
     QString lowSrc{};
@@ -13,11 +12,17 @@ struct ImageFields {
     QString hSpace{};
     QString vSpace{};
     QString border{};
+    QString align{}; ///< read from a tag and never written: no image tag gets an ALIGN
     QString useMap{};
     bool isMap = false;
     QString linkMe{};
+    bool operator==(const ImageFields&) const = default;
 };
 
 /// USEMAP is always written, as "#" where no map is named. A link makes ` <A HREF=="…">` of the text before
 /// the tag, with a blank in front and two equal signs: documents written so far have this form.
 QString ImageTag(const ImageFields& fields, TagCase tagCase);
+
+/// What an image tag says. A word counts wherever it stands first, in a value as well, and a value in other
+/// quotes than the tag function writes is not found. The link around an image is no part of its tag.
+ImageFields ImageFieldsOf(const QString& tag);

@@ -19,6 +19,13 @@ frmEmbed::frmEmbed(Frame& frame) : TagDialog(frame), ui_(std::make_unique<Ui::fr
 
 frmEmbed::~frmEmbed() = default;
 
+void frmEmbed::Take(const EmbedFields& fields) {
+    SetWholeText(ui_->txtWidth, fields.width);
+    SetWholeText(ui_->txtHeight, fields.height);
+    SetWholeText(ui_->cboPalette, fields.palette);
+    SetWholeText(ui_->txtURL, fields.url);
+}
+
 void frmEmbed::txtURL_Change() {
     ui_->cmdOK->setEnabled(!ui_->txtURL->text().isEmpty());
 }

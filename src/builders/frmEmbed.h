@@ -9,6 +9,8 @@ namespace Ui {
 class frmEmbed;
 }
 
+struct EmbedFields;
+
 /// OK is enabled while there is a source.
 class frmEmbed final : public TagDialog {
     Q_OBJECT
@@ -16,6 +18,9 @@ class frmEmbed final : public TagDialog {
   public:
     explicit frmEmbed(Frame& frame);
     ~frmEmbed() override;
+
+    /// Puts a tag's fields into the form, empty ones too.
+    void Take(const EmbedFields& fields);
 
   private:
     void txtURL_Change();

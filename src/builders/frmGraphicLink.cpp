@@ -23,6 +23,21 @@ frmGraphicLink::frmGraphicLink(Frame& frame)
 
 frmGraphicLink::~frmGraphicLink() = default;
 
+void frmGraphicLink::Take(const ImageFields& fields) {
+    if (fields.isMap)
+        ui_->chkISMAP->setChecked(true);
+    SetWholeText(ui_->txtURL, fields.url);
+    SetWholeText(ui_->txtLowSRC, fields.lowSrc);
+    SetWholeText(ui_->txtALT, fields.alt);
+    SetWholeText(ui_->txtWidth, fields.width);
+    SetWholeText(ui_->txtHeight, fields.height);
+    SetWholeText(ui_->txtHSpace, fields.hSpace);
+    SetWholeText(ui_->txtVSpace, fields.vSpace);
+    SetWholeText(ui_->txtBorder, fields.border);
+    SetWholeText(ui_->cboAlign, fields.align);
+    SetWholeText(ui_->txtUseMap, fields.useMap);
+}
+
 void frmGraphicLink::cmdPicOpen_Click() {
     PictureBrowse browse(frame_);
     dialog_.SetFilter(FileFilter::Picture);

@@ -10,12 +10,18 @@ namespace Ui {
 class frmGraphicLink;
 }
 
+struct ImageFields;
+
 class frmGraphicLink final : public TagDialog {
     Q_OBJECT
 
   public:
     explicit frmGraphicLink(Frame& frame);
     ~frmGraphicLink() override;
+
+    /// Puts a tag's fields into the form, empty ones too. chkISMAP is only ever checked, and txtLinkMe left
+    /// alone.
+    void Take(const ImageFields& fields);
 
   private:
     /// Picks the picture and fills in its size, and its name where there is no alternate text yet.

@@ -36,6 +36,31 @@ class EditTagTest : public DialogTest {
 
 } // namespace
 
+TEST(KindOfTag, SubstringsInOrder) {
+    struct Row {
+        QStringView tag;
+        TagKind kind;
+    };
+    const Row rows[] = {
+        {u"<IMG SRC=\"a.gif\">", TagKind::Image},
+        {u"<img src=\"a.gif\">", TagKind::Image},
+        {u"<img\r\nsrc=\"a.gif\">", TagKind::None},
+        {u"<img>", TagKind::None},
+        {u"<!-- img here -->", TagKind::Image},
+        {u"<BODY>", TagKind::Body},
+        {u"</BODY>", TagKind::Body},
+        {u"<a href=\"antibody.htm\">", TagKind::Body},
+        {u"<img alt=\"body\">", TagKind::Image},
+        {u"<embed src=\"x.mid\">", TagKind::Embed},
+        {u"<embed src=\"body.mid\">", TagKind::Body},
+        {u"</noembed>", TagKind::Embed},
+        {u"<a href=\"x.htm\">", TagKind::None},
+        {u"", TagKind::None},
+    };
+    for (const Row& row : rows)
+        EXPECT_EQ(KindOfTag(row.tag.toString()), row.kind) << row.tag.toString().toStdString();
+}
+
 TEST_F(EditTagTest, ImageFillsItsDialogAndLeavesTheDocument) {
     EditAt(QStringLiteral("before <IMG SRC=\"a.gif\" WI|DTH=10 HEIGHT=20> after"));
     EXPECT_EQ(Shown(), QStringLiteral("frmGraphicLink"));

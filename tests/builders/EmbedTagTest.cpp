@@ -17,4 +17,26 @@ TEST(EmbedTag, QuotesTheSourceAlone) {
     });
 }
 
+TEST(EmbedFieldsOf, EachWordFillsItsField) {
+    const std::pair<const char16_t*, EmbedFields> rows[] = {
+        {u"<width=\"a\" more>", {.width = T(u"\"a\"")}},
+        {u"<HEIGHT=\"a\" more>", {.height = T(u"\"a\"")}},
+        {u"<palette=\"a\" more>", {.palette = T(u"\"a\"")}},
+        {u"< SRC=\"a b\"more>", {.url = T(u"a b")}},
+        {u"<embed src=\"x.mid\" palette=foreground width=10>",
+         {.width = T(u"10"), .palette = T(u"foreground"), .url = T(u"x.mid")}},
+        {u"<embed src=x.mid>", {}},
+        {u"", {}},
+    };
+    for (const auto& [tag, fields] : rows)
+        EXPECT_EQ(EmbedFieldsOf(T(tag)), fields) << T(tag).toStdString();
+}
+
+TEST(EmbedFieldsOf, WhatIsWrittenIsReadBack) {
+    const EmbedFields fields{
+        .width = T(u"1"), .height = T(u"2"), .palette = T(u"BACKGROUND"), .url = T(u"My x.mid")};
+    for (const TagCase tagCase : {TagCase::AsWritten, TagCase::Lower})
+        EXPECT_EQ(EmbedFieldsOf(EmbedTag(fields, tagCase)), fields);
+}
+
 } // namespace
