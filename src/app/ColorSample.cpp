@@ -1,7 +1,7 @@
 // A label that shows a colour and can be clicked, by mouse and by keyboard.
 #include "app/ColorSample.h"
 
-#include "editor/EditorColors.h"
+#include "platform/ColorNumber.h"
 
 #include <QKeyEvent>
 #include <QLayout>
@@ -13,20 +13,20 @@ ColorSample::ColorSample(QWidget* parent) : ClickLabel(parent) {
 }
 
 ColorNumber ColorSample::ForeNumber() const {
-    return EditorColors::FromQColor(ForeColor());
+    return FromQColor(ForeColor());
 }
 
 void ColorSample::SetForeNumber(ColorNumber color) {
-    SetForeColor(EditorColors::ToQColor(color));
+    SetForeColor(ToQColor(color));
 }
 
 ColorNumber ColorSample::BackNumber() const {
-    return EditorColors::FromQColor(palette().color(QPalette::Window));
+    return FromQColor(palette().color(QPalette::Window));
 }
 
 void ColorSample::SetBackNumber(ColorNumber color) {
     QPalette colored = palette();
-    colored.setColor(QPalette::Window, EditorColors::ToQColor(color));
+    colored.setColor(QPalette::Window, ToQColor(color));
     setPalette(colored);
     setAutoFillBackground(true);
 }

@@ -9,12 +9,12 @@
 #include "editor/ColorizeText.h"
 #include "editor/Commands.h"
 #include "editor/Document.h"
-#include "editor/EditorColors.h"
 #include "editor/EditorFont.h"
 #include "editor/EditorState.h"
 #include "editor/Forms.h"
 #include "editor/Frame.h"
 #include "editor/Modes.h"
+#include "platform/ColorNumber.h"
 #include "platform/Cp1252.h"
 #include "platform/FaceNames.h"
 #include "platform/Settings.h"
@@ -274,7 +274,7 @@ bool frmExternal::SelectTagColor() {
     editor.Background2 = ui_->lblTagBG->BackNumber();
     for (size_t index = 0; index < lblTag_.size(); ++index) {
         const ColorNumber color = lblTag_[index]->ForeNumber();
-        editor.ColorTable[index] = EditorColors::RtfText(color);
+        editor.ColorTable[index] = RtfColor(color);
         store.WriteNumber(Keys::TextColor[index], color);
     }
     if (const QListWidgetItem* font = ui_->List1->currentItem())

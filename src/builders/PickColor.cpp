@@ -2,6 +2,7 @@
 #include "builders/PickColor.h"
 
 #include "editor/Frame.h"
+#include "platform/ColorNumber.h"
 #include "platform/Prompts.h"
 #include "platform/Values.h"
 
@@ -13,7 +14,7 @@ QString PickColor(Frame& frame, QWidget* owner) {
 }
 
 QString ColorHex(const QString& picked) {
-    const auto number = static_cast<uint>(Values::WholeVal(picked));
-    const QString digits = (QStringLiteral("000000") + QString::number(number, 16).toUpper()).right(6);
-    return digits.mid(4, 2) + digits.mid(2, 2) + digits.mid(0, 2);
+    const auto [red, green, blue] = PartsOf(Values::WholeVal(picked));
+    const auto number = static_cast<uint>(red << 16 | green << 8 | blue);
+    return QStringLiteral("%1").arg(number, 6, 16, QLatin1Char('0')).toUpper();
 }

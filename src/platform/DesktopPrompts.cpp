@@ -248,8 +248,7 @@ std::optional<ColorNumber> DesktopPrompts::ChooseColor(QWidget* owner, QByteArra
         customColors[4 * i + 2] = static_cast<char>(color.blue());
         customColors[4 * i + 3] = '\0';
     }
-    const QColor chosen = dialog.selectedColor();
-    return chosen.red() | chosen.green() << 8 | chosen.blue() << 16;
+    return FromQColor(dialog.selectedColor());
 }
 
 FileAnswer DesktopPrompts::OpenFile(QWidget* owner, const FileRequest& request) {

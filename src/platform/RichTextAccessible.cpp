@@ -30,10 +30,8 @@ QTextBoundaryFinder::BoundaryType FinderType(QAccessible::TextBoundaryType type)
 }
 
 QString Rgb(ColorNumber color) {
-    return QStringLiteral("rgb(%1,%2,%3)")
-        .arg(color & 0xff)
-        .arg((color >> 8) & 0xff)
-        .arg((color >> 16) & 0xff);
+    const auto [red, green, blue] = PartsOf(color);
+    return QStringLiteral("rgb(%1,%2,%3)").arg(red).arg(green).arg(blue);
 }
 
 } // namespace

@@ -73,8 +73,7 @@ void RichTextBox::ApplyStyles() {
         if (StyleTable::IsForText(style))
             Sci(SCI_STYLESETFORE, style, styles_.ColorOf(style));
     }
-    const QColor back(backColor_ & 0xff, (backColor_ >> 8) & 0xff, (backColor_ >> 16) & 0xff);
-    Sci(SCI_SETCARETFORE, qGray(back.rgb()) < 128 ? 0xffffff : 0);
+    Sci(SCI_SETCARETFORE, qGray(ToQColor(backColor_).rgb()) < 128 ? 0xffffff : 0);
 }
 
 void RichTextBox::ApplyPalette() {

@@ -9,17 +9,13 @@ namespace {
 
 constexpr std::uint32_t longestRun = 0xffffff;
 
-int Channel(ColorNumber color, int index) {
-    return (color >> (8 * index)) & 0xff;
-}
-
 int Distance(ColorNumber a, ColorNumber b) {
-    int sum = 0;
-    for (int i = 0; i < 3; ++i) {
-        const int difference = Channel(a, i) - Channel(b, i);
-        sum += difference * difference;
-    }
-    return sum;
+    const ColorParts one = PartsOf(a);
+    const ColorParts other = PartsOf(b);
+    const int red = one.red - other.red;
+    const int green = one.green - other.green;
+    const int blue = one.blue - other.blue;
+    return red * red + green * green + blue * blue;
 }
 
 } // namespace

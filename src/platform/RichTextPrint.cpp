@@ -10,10 +10,6 @@ namespace {
 /// A line of the text may be a megabyte: it is laid out in stretches of this many characters.
 constexpr int longestStretch = 1 << 13;
 
-QColor FromNumber(ColorNumber color) {
-    return QColor(color & 0xff, (color >> 8) & 0xff, (color >> 16) & 0xff);
-}
-
 QString WithoutLineEnd(QString text) {
     while (text.endsWith(QLatin1Char('\n')) || text.endsWith(QLatin1Char('\r')))
         text.chop(1);
@@ -32,7 +28,7 @@ QVector<QTextLayout::FormatRange> RichTextBox::PrintColors(int startByte, const 
         QTextLayout::FormatRange format;
         format.start = character;
         format.length = static_cast<int>(QString::fromUtf8(bytes.mid(from, styles.LengthOf(run))).size());
-        format.format.setForeground(FromNumber(styles_.ColorOf(styles.StyleOf(run))));
+        format.format.setForeground(ToQColor(styles_.ColorOf(styles.StyleOf(run))));
         formats.push_back(format);
         from += styles.LengthOf(run);
         character += format.length;

@@ -34,13 +34,8 @@ void RichTextBox::ReplaceByRtf(ByteRange range, const QString& rtf) {
 QString RichTextBox::RtfOf(ByteRange range) const {
     const StyleRuns styles = StylesOf(range.start, range.end - range.start);
     QString table = QStringLiteral("{{\\colortbl ;");
-    for (int style = 1; style < styles_.End(); ++style) {
-        const ColorNumber color = styles_.ColorOf(style);
-        table += QStringLiteral("\\red%1\\green%2\\blue%3;")
-                     .arg(color & 0xff)
-                     .arg((color >> 8) & 0xff)
-                     .arg((color >> 16) & 0xff);
-    }
+    for (int style = 1; style < styles_.End(); ++style)
+        table += RtfColor(styles_.ColorOf(style)) + u';';
     QString rtf = table + QLatin1Char('}');
     int from = range.start;
     for (std::size_t run = 0; run < styles.Count(); ++run) {

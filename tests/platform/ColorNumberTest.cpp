@@ -1,0 +1,33 @@
+#include "platform/ColorNumber.h"
+
+#include "support/Text.h"
+
+#include <gtest/gtest.h>
+#include <QColor>
+
+TEST(ColorNumber, RedIsTheLowByte) {
+    const std::pair<int, const char*> rows[] = {
+        {0, "\\red0\\green0\\blue0"},
+        {16711680, "\\red0\\green0\\blue255"},
+        {32768, "\\red0\\green128\\blue0"},
+        {255, "\\red255\\green0\\blue0"},
+        {32767, "\\red255\\green127\\blue0"},
+        {8421504, "\\red128\\green128\\blue128"},
+        {16777215, "\\red255\\green255\\blue255"},
+        {0x7F000001, "\\red1\\green0\\blue0"},
+    };
+    for (const auto& [number, text] : rows)
+        EXPECT_EQ(RtfColor(number), QString::fromLatin1(text));
+}
+
+TEST(ColorNumber, NumbersGoToTheScreenAndBack) {
+    EXPECT_EQ(ToQColor(0x030201), QColor(1, 2, 3));
+    for (const int number : {0, 255, 32767, 0x030201, 16777215})
+        EXPECT_EQ(FromQColor(ToQColor(number)), number);
+}
+
+TEST(ColorNumber, SplitsIntoItsParts) {
+    EXPECT_EQ(PartsOf(0x030201), (ColorParts{.red = 1, .green = 2, .blue = 3}));
+    EXPECT_EQ(PartsOf(0x7F0000FF), (ColorParts{.red = 255, .green = 0, .blue = 0}));
+    EXPECT_EQ(PartsOf(-1), (ColorParts{.red = 255, .green = 255, .blue = 255}));
+}
