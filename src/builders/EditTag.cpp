@@ -52,9 +52,7 @@ void EditTag(Frame& frame) {
     if (!document)
         return;
     RichTextBox& txtInput = document->txtInput();
-    const auto place = FindTagAround(txtInput.SelStart(), [&txtInput](int start, int length) {
-        return txtInput.TextRange(start, length);
-    });
+    const auto place = FindTagAround(txtInput.SelStart(), ReaderOf(txtInput));
     if (!place)
         return;
     const QString tag = txtInput.TextRange(place->start, place->length);

@@ -7,6 +7,8 @@
 #include "editor/Forms.h"
 #include "editor/Frame.h"
 #include "editor/frmDropDown.h"
+#include "editor/TagCase.h"
+#include "editor/TagEnds.h"
 #include "platform/RichTextBox.h"
 #include "platform/Settings.h"
 
@@ -47,19 +49,15 @@ void AutoFill::StopTimer() {
 
 void AutoFill::WhatChar(const QString& typed) {
     const int caret = document_.txtInput().SelStart();
-    const int length = std::min(caret, reach);
-    const QString before = document_.txtInput().TextRange(caret - length, length);
-    for (auto i = before.size() - 1; i >= 0; --i) {
-        if (before.at(i) == u'>') {
-            frame_.State<EditorState>().DropDownOpen = false;
-            return;
-        }
-        if (before.at(i) == u'<') {
-            int position = caret - length + static_cast<int>(i) + 1;
-            OpenFunc(typed, position);
-            return;
-        }
+    const auto bracket = BracketBefore(caret, ReaderOf(document_.txtInput()), reach);
+    if (!bracket)
+        return;
+    if (bracket->kind == Bracket::Close) {
+        frame_.State<EditorState>().DropDownOpen = false;
+        return;
     }
+    int position = bracket->place + 1;
+    OpenFunc(typed, position);
 }
 
 void AutoFill::OpenFunc(const QString& typed, int& position) {
@@ -160,8 +158,8 @@ QChar AutoFill::WriteKey(const QString& key) {
         if (picked.isEmpty())
             return {};
         written = u'#' + picked;
-    } else if (frame_.Store().ReadFlag(Keys::LowerCaseTags)) {
-        written = key.toLower();
+    } else {
+        written = InCase(key, TagCaseOf(frame_.Store()));
     }
     document_.txtInput().SetSelText(written);
     return written.back();

@@ -7,6 +7,7 @@
 #include "editor/Frame.h"
 #include "editor/frmDropDown.h"
 #include "editor/InsertTag.h"
+#include "editor/TagEnds.h"
 #include "editor/WriteColoredText.h"
 #include "platform/RichTextBox.h"
 #include "platform/Settings.h"
@@ -154,16 +155,13 @@ bool TypingEngine::CloseTag() {
     RichTextBox& text = document_.txtInput();
     const int caret = text.SelStart();
     const int selected = text.SelLength();
-    // The character directly before the caret doesn't count: "<>" is no tag.
-    const int open = caret < 2 ? -1 : text.FindBackward(u'<', caret - 1);
-    if (open < 0)
+    // The character directly before the caret doesn't count: "<>" is no tag. Only a ">" from there on lets
+    // the tag be coloured: one before it closes the tag already, and without any, as behind the last tag of a
+    // document, the tag stays plain until the document is coloured anew.
+    const auto around = FindTagAround(caret - 1, ReaderOf(text));
+    if (!around || around->length == 0)
         return false;
-    // Only a ">" at the caret or behind it lets the tag be coloured: one before it closes the tag already,
-    // and without any, as behind the last tag of a document, the tag stays plain until the document is
-    // coloured anew.
-    const int close = text.FindForward(u'>', open);
-    if (close < caret - 1)
-        return false;
+    const int open = around->start;
     // Not escaped: a backslash or a brace in a typed tag goes into the stream as it stands.
     QString tag = text.TextRange(open, caret - open) + u'>';
     const QStringView color = TagColorCode(tag);

@@ -1,5 +1,6 @@
 #include "editor/TagEnds.h"
 
+#include "platform/RichTextBox.h"
 #include "support/Text.h"
 
 #include <gtest/gtest.h>
@@ -71,13 +72,39 @@ TEST(FindTagAround, FarBracketsAreFoundWhereverThePartsReadEnd) {
     const auto find = [](const QString& text, int caret) {
         return FindTagAround(caret, [&](int start, int length) { return text.mid(start, length); });
     };
-    for (int far = 4090; far <= 8200; far = far == 4100 ? 8185 : far + 1) {
-        const QString filler(far, u'x');
-        // Far to the left, far to the right, and none at all.
-        EXPECT_EQ(find(u'<' + filler + u'>', far + 1), (TagPlace{0, far + 2})) << far;
-        EXPECT_EQ(find(u'<' + filler + u'>', 1), (TagPlace{0, far + 2})) << far;
-        EXPECT_EQ(find(u'>' + filler, far + 1), std::nullopt) << far;
-        EXPECT_EQ(find(filler, far), (TagPlace{far, 0})) << far;
-        EXPECT_EQ(find(u'<' + filler, far + 1), std::nullopt) << far;
+    // Around the lengths where one part ends and the next begins.
+    for (const int edge : {512, 1536, 3584, 4096, 7680, 8192}) {
+        for (int far = edge - 8; far <= edge + 8; ++far) {
+            const QString filler(far, u'x');
+            // Far to the left, far to the right, and none at all.
+            EXPECT_EQ(find(u'<' + filler + u'>', far + 1), (TagPlace{0, far + 2})) << far;
+            EXPECT_EQ(find(u'<' + filler + u'>', 1), (TagPlace{0, far + 2})) << far;
+            EXPECT_EQ(find(u'>' + filler, far + 1), std::nullopt) << far;
+            EXPECT_EQ(find(filler, far), (TagPlace{far, 0})) << far;
+            EXPECT_EQ(find(u'<' + filler, far + 1), std::nullopt) << far;
+        }
     }
+}
+
+TEST(BracketBefore, TheNearestOneWithinReach) {
+    const QString text = T(u"<b>xx<i");
+    const TextReader read = [&](int start, int length) { return text.mid(start, length); };
+    const BracketPlace first{Bracket::Open, 0}, close{Bracket::Close, 2}, last{Bracket::Open, 5};
+    EXPECT_EQ(BracketBefore(0, read), std::nullopt);
+    EXPECT_EQ(BracketBefore(-1, read), std::nullopt);
+    EXPECT_EQ(BracketBefore(1, read), first);
+    EXPECT_EQ(BracketBefore(2, read), first);
+    EXPECT_EQ(BracketBefore(3, read), close);
+    EXPECT_EQ(BracketBefore(5, read), close);
+    EXPECT_EQ(BracketBefore(7, read), last);
+    EXPECT_EQ(BracketBefore(5, read, 2), std::nullopt);
+    EXPECT_EQ(BracketBefore(5, read, 3), close);
+}
+
+TEST(TagFrom, GoesThroughTheNextClose) {
+    RichTextBox box;
+    box.SetText(T(u"a<\u00e9\r\n>b>"));
+    EXPECT_EQ(TagFrom(1, ReaderOf(box)), (TagPlace{1, 5}));
+    EXPECT_EQ(TagFrom(6, ReaderOf(box)), (TagPlace{6, 2}));
+    EXPECT_EQ(TagFrom(8, ReaderOf(box)), std::nullopt);
 }
