@@ -1,5 +1,5 @@
 // What turning a picked file into a link target costs by the length of its path: it must be linear.
-#include "builders/Paths.h"
+#include "dialogs/Paths.h"
 #include "editor/TagEnds.h"
 
 #include <benchmark/benchmark.h>

@@ -1,5 +1,5 @@
 // Random document and target paths, in both forms, over a file system that knows some names and not others.
-#include "builders/Paths.h"
+#include "dialogs/Paths.h"
 #include "platform/Cp1252.h"
 #include "platform/Path.h"
 

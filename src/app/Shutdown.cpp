@@ -5,7 +5,7 @@
 #include "app/ProgramState.h"
 #include "app/RecentFiles.h"
 #include "app/UserButtons.h"
-#include "builders/BuilderState.h"
+#include "dialogs/BuilderState.h"
 #include "editor/Document.h"
 #include "editor/EditorState.h"
 #include "editor/SpellChecker.h"

@@ -8,7 +8,7 @@
 #include "app/UserButtons.h"
 #include "app/Version.h"
 #include "app/WindowPlace.h"
-#include "builders/BuilderState.h"
+#include "dialogs/BuilderState.h"
 #include "editor/EditorState.h"
 #include "editor/SpellChecker.h"
 #include "platform/Path.h"

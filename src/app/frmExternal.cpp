@@ -3,9 +3,9 @@
 
 #include "app/BrowserLookup.h"
 #include "app/ProgramState.h"
-#include "builders/FileDialogs.h"
-#include "builders/FormFields.h"
-#include "builders/PickColor.h"
+#include "dialogs/FileDialogs.h"
+#include "dialogs/FormFields.h"
+#include "dialogs/PickColor.h"
 #include "editor/ColorizeText.h"
 #include "editor/Commands.h"
 #include "editor/Document.h"

@@ -1,6 +1,6 @@
 #include "builders/AppletTags.h"
 
-#include "builders/BuildTag.h"
+#include "dialogs/BuildTag.h"
 
 TagPair AppletTag(const AppletFields& fields, TagCase tagCase) {
     return {BuildTag(QStringLiteral("<APPLET"),

@@ -1,7 +1,7 @@
 // What the two dialogs for applets compute. No value is quoted, not even one that holds a blank.
 #pragma once
 
-#include "builders/TagPair.h"
+#include "dialogs/TagPair.h"
 #include "editor/TagCase.h"
 
 struct AppletFields {

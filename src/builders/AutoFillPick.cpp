@@ -1,7 +1,7 @@
 // The colour dialog of the auto-fill lists.
 #include "builders/AutoFillPick.h"
 
-#include "builders/PickColor.h"
+#include "dialogs/PickColor.h"
 #include "editor/AutoFillHooks.h"
 #include "editor/Frame.h"
 

@@ -1,6 +1,6 @@
 #include "builders/BodyTag.h"
 
-#include "builders/BuildTag.h"
+#include "dialogs/BuildTag.h"
 
 namespace {
 

@@ -1,6 +1,6 @@
 #include "builders/ColumnTags.h"
 
-#include "builders/BuildTag.h"
+#include "dialogs/BuildTag.h"
 
 QString SpacerTag(const SpacerFields& fields, TagCase tagCase) {
     QVector<TagPart> parts;

@@ -1,7 +1,7 @@
 // What the Spacer and MultiColumn dialogs compute.
 #pragma once
 
-#include "builders/TagPair.h"
+#include "dialogs/TagPair.h"
 #include "editor/TagCase.h"
 
 enum class SpacerKind { None, Horizontal, Vertical, Block };

@@ -1,7 +1,7 @@
 #include "builders/EmbedTag.h"
 
-#include "builders/BuildTag.h"
 #include "builders/TagValue.h"
+#include "dialogs/BuildTag.h"
 
 QString EmbedTag(const EmbedFields& fields, TagCase tagCase) {
     return BuildTag(QStringLiteral("<EMBED"),

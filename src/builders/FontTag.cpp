@@ -1,6 +1,6 @@
 #include "builders/FontTag.h"
 
-#include "builders/BuildTag.h"
+#include "dialogs/BuildTag.h"
 
 TagPair FontTag(const FontFields& fields, TagCase tagCase) {
     return {BuildTag(QStringLiteral("<FONT"),

@@ -1,7 +1,7 @@
 // What the Font dialog computes: its tag, and the face field as faces are added.
 #pragma once
 
-#include "builders/TagPair.h"
+#include "dialogs/TagPair.h"
 #include "editor/TagCase.h"
 
 #include <QString>

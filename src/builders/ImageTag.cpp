@@ -1,7 +1,7 @@
 #include "builders/ImageTag.h"
 
-#include "builders/BuildTag.h"
 #include "builders/TagValue.h"
+#include "dialogs/BuildTag.h"
 
 QString ImageTag(const ImageFields& fields, TagCase tagCase) {
     const QString tag = BuildTag(QStringLiteral("<IMG"),

@@ -1,7 +1,7 @@
 // What the Link dialog computes: an anchor around the selection.
 #pragma once
 
-#include "builders/TagPair.h"
+#include "dialogs/TagPair.h"
 #include "editor/TagCase.h"
 
 struct LinkFields {

@@ -1,6 +1,6 @@
 #include "builders/RuleTag.h"
 
-#include "builders/BuildTag.h"
+#include "dialogs/BuildTag.h"
 
 QString RuleTag(const RuleFields& fields, TagCase tagCase) {
     return BuildTag(QStringLiteral("<HR"),

@@ -1,7 +1,7 @@
 // The Body dialog: writes the document's body tag anew, from the colours that it found there.
 #pragma once
 
-#include "builders/TagDialog.h"
+#include "dialogs/TagDialog.h"
 
 #include <memory>
 

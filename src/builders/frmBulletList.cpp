@@ -1,9 +1,9 @@
 // The Lists dialog: collects the items of a list and writes them all at once.
 #include "builders/frmBulletList.h"
 
-#include "builders/FormFields.h"
-#include "builders/ListKeys.h"
 #include "builders/ListText.h"
+#include "dialogs/FormFields.h"
+#include "dialogs/ListKeys.h"
 #include "editor/Forms.h"
 #include "editor/Frame.h"
 #include "ui_frmBulletList.h"

@@ -1,7 +1,7 @@
 // The Lists dialog: collects the items of a list and writes them all at once.
 #pragma once
 
-#include "builders/TagDialog.h"
+#include "dialogs/TagDialog.h"
 
 #include <memory>
 

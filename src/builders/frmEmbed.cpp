@@ -2,8 +2,8 @@
 #include "builders/frmEmbed.h"
 
 #include "builders/EmbedTag.h"
-#include "builders/FileDialogs.h"
-#include "builders/FormFields.h"
+#include "dialogs/FileDialogs.h"
+#include "dialogs/FormFields.h"
 #include "editor/Frame.h"
 #include "ui_frmEmbed.h"
 

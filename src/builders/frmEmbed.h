@@ -1,7 +1,7 @@
 // The Embed dialog.
 #pragma once
 
-#include "builders/TagDialog.h"
+#include "dialogs/TagDialog.h"
 
 #include <memory>
 

@@ -2,9 +2,9 @@
 #include "builders/frmFont.h"
 
 #include "builders/FontTag.h"
-#include "builders/FormFields.h"
-#include "builders/ListKeys.h"
-#include "builders/PickColor.h"
+#include "dialogs/FormFields.h"
+#include "dialogs/ListKeys.h"
+#include "dialogs/PickColor.h"
 #include "editor/Frame.h"
 #include "platform/FaceNames.h"
 #include "ui_frmFont.h"

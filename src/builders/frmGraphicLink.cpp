@@ -1,9 +1,9 @@
 // The Image dialog: an image tag, bare or wrapped in a link.
 #include "builders/frmGraphicLink.h"
 
-#include "builders/BuilderState.h"
-#include "builders/FormFields.h"
 #include "builders/ImageTag.h"
+#include "dialogs/BuilderState.h"
+#include "dialogs/FormFields.h"
 #include "editor/Frame.h"
 #include "platform/Path.h"
 #include "ui_frmGraphicLink.h"

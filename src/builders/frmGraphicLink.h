@@ -1,8 +1,8 @@
 // The Image dialog: an image tag, bare or wrapped in a link.
 #pragma once
 
-#include "builders/FileDialogs.h"
-#include "builders/TagDialog.h"
+#include "dialogs/FileDialogs.h"
+#include "dialogs/TagDialog.h"
 
 #include <memory>
 

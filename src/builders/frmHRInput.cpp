@@ -1,8 +1,8 @@
 // The Horizontal Rule dialog.
 #include "builders/frmHRInput.h"
 
-#include "builders/FormFields.h"
 #include "builders/RuleTag.h"
+#include "dialogs/FormFields.h"
 #include "editor/Frame.h"
 #include "ui_frmHRInput.h"
 

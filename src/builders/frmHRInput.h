@@ -1,7 +1,7 @@
 // The Horizontal Rule dialog.
 #pragma once
 
-#include "builders/TagDialog.h"
+#include "dialogs/TagDialog.h"
 
 #include <memory>
 

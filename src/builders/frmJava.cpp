@@ -2,7 +2,7 @@
 #include "builders/frmJava.h"
 
 #include "builders/AppletTags.h"
-#include "builders/FormFields.h"
+#include "dialogs/FormFields.h"
 #include "editor/Frame.h"
 #include "ui_frmJava.h"
 

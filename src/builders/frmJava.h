@@ -1,7 +1,7 @@
 // The JAVA Applet dialog.
 #pragma once
 
-#include "builders/TagDialog.h"
+#include "dialogs/TagDialog.h"
 
 #include <memory>
 

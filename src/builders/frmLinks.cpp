@@ -1,9 +1,9 @@
 // The Link dialog: an anchor around the selection.
 #include "builders/frmLinks.h"
 
-#include "builders/FileDialogs.h"
-#include "builders/FormFields.h"
 #include "builders/LinkTag.h"
+#include "dialogs/FileDialogs.h"
+#include "dialogs/FormFields.h"
 #include "editor/Frame.h"
 #include "ui_frmLinks.h"
 

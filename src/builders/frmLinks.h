@@ -1,8 +1,8 @@
 // The Link dialog: an anchor around the selection.
 #pragma once
 
-#include "builders/CDialog.h"
-#include "builders/TagDialog.h"
+#include "dialogs/CDialog.h"
+#include "dialogs/TagDialog.h"
 
 #include <memory>
 

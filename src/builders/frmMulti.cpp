@@ -2,7 +2,7 @@
 #include "builders/frmMulti.h"
 
 #include "builders/ColumnTags.h"
-#include "builders/FormFields.h"
+#include "dialogs/FormFields.h"
 #include "editor/Frame.h"
 #include "ui_frmMulti.h"
 

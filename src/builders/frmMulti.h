@@ -1,7 +1,7 @@
 // The MultiColumn dialog: lays the selection out in columns.
 #pragma once
 
-#include "builders/TagDialog.h"
+#include "dialogs/TagDialog.h"
 
 #include <memory>
 

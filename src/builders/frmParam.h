@@ -1,7 +1,7 @@
 // The JAVA Parameters dialog: writes one parameter after the other and stays open.
 #pragma once
 
-#include "builders/TagDialog.h"
+#include "dialogs/TagDialog.h"
 
 #include <memory>
 

@@ -1,7 +1,7 @@
 // The Spacer dialog: white space of a given size.
 #include "builders/frmSpacer.h"
 
-#include "builders/FormFields.h"
+#include "dialogs/FormFields.h"
 #include "editor/Frame.h"
 #include "ui_frmSpacer.h"
 

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "builders/ColumnTags.h"
-#include "builders/TagDialog.h"
+#include "dialogs/TagDialog.h"
 
 #include <memory>
 

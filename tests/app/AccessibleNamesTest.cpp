@@ -6,7 +6,7 @@
 #include "app/StatusPanels.h"
 #include "app/UserButtons.h"
 #include "builders/frmBulletList.h"
-#include "builders/frmImage.h"
+#include "dialogs/frmImage.h"
 #include "editor/frmDropDown.h"
 
 #include <QAccessible>

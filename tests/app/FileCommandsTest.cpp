@@ -3,7 +3,7 @@
 
 #include "app/FilesFrame.h"
 #include "app/RecentFiles.h"
-#include "builders/BuilderState.h"
+#include "dialogs/BuilderState.h"
 
 #include <QCoreApplication>
 #include <QDir>

@@ -5,7 +5,7 @@
 #include "app/RealFrame.h"
 #include "app/RecentFiles.h"
 #include "app/UserButtons.h"
-#include "builders/BuilderState.h"
+#include "dialogs/BuilderState.h"
 #include "platform/ProgramFolder.h"
 
 #include <QDialog>

@@ -5,7 +5,7 @@
 #include "app/frmExternal.h"
 #include "app/RealFrame.h"
 #include "app/UserButtons.h"
-#include "builders/BuilderState.h"
+#include "dialogs/BuilderState.h"
 
 #include <QScreen>
 #include <QTimer>

@@ -2,8 +2,8 @@
 #include "app/frmExternal.h"
 
 #include "app/BrowserLookup.h"
-#include "app/ColorSample.h"
 #include "app/ProgramState.h"
+#include "dialogs/ColorSample.h"
 #include "editor/EditorState.h"
 #include "editor/WebControls.h"
 #include "support/FreshUser.h"

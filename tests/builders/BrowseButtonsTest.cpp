@@ -1,8 +1,8 @@
 // The buttons of all tag dialogs that pick a file into a field: the same rules in each.
-#include "builders/BuilderState.h"
 #include "builders/DialogTest.h"
-#include "builders/FileDialogs.h"
-#include "builders/TagRows.h"
+#include "dialogs/BuilderState.h"
+#include "dialogs/FileDialogs.h"
+#include "dialogs/TagRows.h"
 #include <QCheckBox>
 
 namespace {

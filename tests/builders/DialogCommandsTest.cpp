@@ -1,9 +1,9 @@
 #include "builders/DialogCommands.h"
 
-#include "builders/BuilderState.h"
 #include "builders/DialogTest.h"
-#include "builders/FieldFrame.h"
 #include "builders/frmBulletList.h"
+#include "dialogs/BuilderState.h"
+#include "dialogs/FieldFrame.h"
 #include <QAccessible>
 #include <QCheckBox>
 #include <QRadioButton>

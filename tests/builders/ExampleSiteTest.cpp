@@ -1,7 +1,7 @@
 // The pages of the example site, read by the program's own dialogs: each field shows what its tag says.
 #include "builders/DialogTest.h"
 #include "builders/EditTag.h"
-#include "builders/TagRows.h"
+#include "dialogs/TagRows.h"
 #include "platform/Cp1252.h"
 #include <map>
 #include <QDirIterator>

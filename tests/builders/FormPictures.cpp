@@ -1,7 +1,7 @@
 // Pictures of every tag dialog for the eye: set TARNWICK_PICTURES to a folder and run FormPictures.*.
 #include "builders/DialogTest.h"
 #include "builders/frmBulletList.h"
-#include "builders/Site.h"
+#include "support/Site.h"
 #include <QDir>
 #include <QStyleFactory>
 

@@ -1,6 +1,6 @@
 #include "builders/LinkTag.h"
 
-#include "builders/TagRows.h"
+#include "dialogs/TagRows.h"
 
 namespace {
 

@@ -1,6 +1,6 @@
 #include "builders/ListText.h"
 
-#include "builders/TagRows.h"
+#include "dialogs/TagRows.h"
 
 namespace {
 

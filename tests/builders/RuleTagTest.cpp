@@ -1,6 +1,6 @@
 #include "builders/RuleTag.h"
 
-#include "builders/TagRows.h"
+#include "dialogs/TagRows.h"
 
 namespace {
 

@@ -1,12 +1,12 @@
 #include "builders/frmBody.h"
 
-#include "builders/BuilderState.h"
-#include "builders/ClickLabel.h"
 #include "builders/DialogTest.h"
-#include "builders/FileDialogs.h"
 #include "builders/PageSample.h"
-#include "builders/Site.h"
-#include "builders/TagRows.h"
+#include "dialogs/BuilderState.h"
+#include "dialogs/ClickLabel.h"
+#include "dialogs/FileDialogs.h"
+#include "dialogs/TagRows.h"
+#include "support/Site.h"
 #include <QCheckBox>
 
 namespace {

@@ -1,9 +1,9 @@
 #include "builders/frmEmbed.h"
 
 #include "builders/DialogTest.h"
-#include "builders/FileDialogs.h"
-#include "builders/Site.h"
-#include "builders/TagRows.h"
+#include "dialogs/FileDialogs.h"
+#include "dialogs/TagRows.h"
+#include "support/Site.h"
 #include <QCheckBox>
 
 namespace {

@@ -2,7 +2,7 @@
 
 #include "builders/DialogTest.h"
 #include "builders/FontTag.h"
-#include "builders/TagRows.h"
+#include "dialogs/TagRows.h"
 #include "platform/FaceNames.h"
 #include <QSignalSpy>
 

@@ -1,10 +1,10 @@
 #include "builders/frmGraphicLink.h"
 
-#include "builders/BuilderState.h"
 #include "builders/DialogTest.h"
-#include "builders/FileDialogs.h"
-#include "builders/Site.h"
-#include "builders/TagRows.h"
+#include "dialogs/BuilderState.h"
+#include "dialogs/FileDialogs.h"
+#include "dialogs/TagRows.h"
+#include "support/Site.h"
 #include <QCheckBox>
 
 namespace {

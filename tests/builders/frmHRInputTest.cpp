@@ -1,7 +1,7 @@
 #include "builders/frmHRInput.h"
 
 #include "builders/DialogTest.h"
-#include "builders/TagRows.h"
+#include "dialogs/TagRows.h"
 #include <QCheckBox>
 #include <QGroupBox>
 #include <QRadioButton>

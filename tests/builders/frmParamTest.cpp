@@ -1,7 +1,7 @@
 #include "builders/frmParam.h"
 
 #include "builders/DialogTest.h"
-#include "builders/TagRows.h"
+#include "dialogs/TagRows.h"
 
 namespace {
 

@@ -1,7 +1,7 @@
 #include "builders/frmSpacer.h"
 
 #include "builders/DialogTest.h"
-#include "builders/TagRows.h"
+#include "dialogs/TagRows.h"
 #include <QRadioButton>
 
 namespace {

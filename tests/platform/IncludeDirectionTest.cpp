@@ -11,12 +11,16 @@ namespace {
 const std::map<QString, std::set<QString>> mayInclude = {
     {QStringLiteral("platform"), {}},
     {QStringLiteral("editor"), {QStringLiteral("platform")}},
-    {QStringLiteral("builders"), {QStringLiteral("platform"), QStringLiteral("editor")}},
-    {QStringLiteral("styles"), {QStringLiteral("platform"), QStringLiteral("editor")}},
-    {QStringLiteral("tools"), {QStringLiteral("platform"), QStringLiteral("editor")}},
+    {QStringLiteral("dialogs"), {QStringLiteral("platform"), QStringLiteral("editor")}},
+    {QStringLiteral("builders"),
+     {QStringLiteral("platform"), QStringLiteral("editor"), QStringLiteral("dialogs")}},
+    {QStringLiteral("styles"),
+     {QStringLiteral("platform"), QStringLiteral("editor"), QStringLiteral("dialogs")}},
+    {QStringLiteral("tools"),
+     {QStringLiteral("platform"), QStringLiteral("editor"), QStringLiteral("dialogs")}},
     {QStringLiteral("app"),
-     {QStringLiteral("platform"), QStringLiteral("editor"), QStringLiteral("builders"),
-      QStringLiteral("styles"), QStringLiteral("tools")}},
+     {QStringLiteral("platform"), QStringLiteral("editor"), QStringLiteral("dialogs"),
+      QStringLiteral("builders"), QStringLiteral("styles"), QStringLiteral("tools")}},
     {QStringLiteral("web"), {QStringLiteral("platform"), QStringLiteral("editor")}},
     {QStringLiteral("ftp"), {}},
 };
@@ -39,6 +43,8 @@ TEST(IncludeDirection, TheRuleTellsUpFromDown) {
     EXPECT_TRUE(Allowed(QStringLiteral("app"), QStringLiteral("platform")));
     EXPECT_FALSE(Allowed(QStringLiteral("platform"), QStringLiteral("editor")));
     EXPECT_FALSE(Allowed(QStringLiteral("tools"), QStringLiteral("builders")));
+    EXPECT_TRUE(Allowed(QStringLiteral("tools"), QStringLiteral("dialogs")));
+    EXPECT_FALSE(Allowed(QStringLiteral("dialogs"), QStringLiteral("builders")));
     EXPECT_EQ(IncludedFolders(QStringLiteral("#include \"app/frmTarnwick.h\"\n#include <QString>\n")),
               std::set<QString>{QStringLiteral("app")});
 }

@@ -1,9 +1,9 @@
 // Picking a file into a field of a tag dialog: filters, a form's file dialog, the picture browse.
-#include "builders/FileDialogs.h"
+#include "dialogs/FileDialogs.h"
 
-#include "builders/BuilderState.h"
-#include "builders/frmImage.h"
-#include "builders/Paths.h"
+#include "dialogs/BuilderState.h"
+#include "dialogs/frmImage.h"
+#include "dialogs/Paths.h"
 #include "editor/Document.h"
 #include "editor/Forms.h"
 #include "editor/Frame.h"

@@ -1,5 +1,5 @@
 // What the controls of all tag dialogs have in common.
-#include "builders/FormFields.h"
+#include "dialogs/FormFields.h"
 
 #include "platform/Cp1252.h"
 

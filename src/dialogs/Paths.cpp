@@ -1,5 +1,5 @@
 // From a picked file to a link target: exact case, paths relative to the document, slashes.
-#include "builders/Paths.h"
+#include "dialogs/Paths.h"
 
 #include "editor/Frame.h"
 #include "platform/Path.h"

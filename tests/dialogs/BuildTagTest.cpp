@@ -1,4 +1,4 @@
-#include "builders/BuildTag.h"
+#include "dialogs/BuildTag.h"
 
 #include "support/Text.h"
 

@@ -1,5 +1,5 @@
 // Keys that act on a list.
-#include "builders/ListKeys.h"
+#include "dialogs/ListKeys.h"
 
 #include <QKeyEvent>
 #include <QListWidget>

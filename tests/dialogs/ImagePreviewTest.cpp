@@ -1,7 +1,7 @@
 // How large the preview of a picture is, and the form that shows it.
-#include "builders/ImagePreview.h"
+#include "dialogs/ImagePreview.h"
 
-#include "builders/frmImage.h"
+#include "dialogs/frmImage.h"
 #include "support/FreshUser.h"
 #include "support/TestFrame.h"
 

@@ -1,8 +1,8 @@
 // The file dialog of links, frames and the site tools.
-#include "builders/CDialog.h"
+#include "dialogs/CDialog.h"
 
-#include "builders/BuilderState.h"
-#include "builders/FileDialogs.h"
+#include "dialogs/BuilderState.h"
+#include "dialogs/FileDialogs.h"
 #include "support/FreshUser.h"
 #include "support/TestFrame.h"
 

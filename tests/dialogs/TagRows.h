@@ -1,7 +1,7 @@
 // Row tables of tags: what a function of a dialog's fields gives in each case of the tag words.
 #pragma once
 
-#include "builders/TagPair.h"
+#include "dialogs/TagPair.h"
 #include "editor/TagCase.h"
 #include "support/Text.h"
 

@@ -1,5 +1,5 @@
 // From a picked file to a link target.
-#include "builders/Paths.h"
+#include "dialogs/Paths.h"
 
 #include "support/FreshUser.h"
 #include "support/TestFrame.h"

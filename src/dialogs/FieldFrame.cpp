@@ -1,5 +1,5 @@
 // A titled frame around one field, whose title is the field's label.
-#include "builders/FieldFrame.h"
+#include "dialogs/FieldFrame.h"
 
 #include <QComboBox>
 #include <QEvent>

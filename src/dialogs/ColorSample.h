@@ -1,7 +1,7 @@
 // A label that shows a colour and can be clicked, by mouse and by keyboard.
 #pragma once
 
-#include "builders/ClickLabel.h"
+#include "dialogs/ClickLabel.h"
 #include "platform/ColorNumber.h"
 
 /// ForeNumber is the colour of its text, BackNumber that of the ground, which is the parent's until it is

@@ -1,4 +1,4 @@
-#include "builders/BuildTag.h"
+#include "dialogs/BuildTag.h"
 
 QString BuildTag(const QString& opening, const QVector<TagPart>& parts, TagCase tagCase) {
     QString tag = InCase(opening, tagCase);

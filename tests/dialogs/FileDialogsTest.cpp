@@ -1,8 +1,8 @@
 // Picking a file into a field of a tag dialog.
-#include "builders/FileDialogs.h"
+#include "dialogs/FileDialogs.h"
 
-#include "builders/BuilderState.h"
-#include "builders/frmImage.h"
+#include "dialogs/BuilderState.h"
+#include "dialogs/frmImage.h"
 #include "platform/DesktopPrompts.h"
 #include "support/FreshUser.h"
 #include "support/TestFrame.h"

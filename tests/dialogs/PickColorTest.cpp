@@ -1,5 +1,5 @@
 // Picking a colour, and a colour's form on the web.
-#include "builders/PickColor.h"
+#include "dialogs/PickColor.h"
 
 #include "support/TestFrame.h"
 

@@ -1,7 +1,7 @@
 // The file dialog of links, frames and the site tools: filters and selection.
-#include "builders/CDialog.h"
+#include "dialogs/CDialog.h"
 
-#include "builders/BuilderState.h"
+#include "dialogs/BuilderState.h"
 #include "editor/Frame.h"
 #include "platform/Path.h"
 #include "platform/Prompts.h"

@@ -1,5 +1,5 @@
 // A label that can be clicked.
-#include "builders/ClickLabel.h"
+#include "dialogs/ClickLabel.h"
 
 #include <QMouseEvent>
 

@@ -1,7 +1,7 @@
 // The picture preview that stands beside the file list while a picture is picked.
-#include "builders/frmImage.h"
+#include "dialogs/frmImage.h"
 
-#include "builders/ImagePreview.h"
+#include "dialogs/ImagePreview.h"
 #include "editor/Forms.h"
 #include "editor/Frame.h"
 #include "ui_frmImage.h"

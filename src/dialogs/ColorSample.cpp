@@ -1,5 +1,5 @@
 // A label that shows a colour and can be clicked, by mouse and by keyboard.
-#include "app/ColorSample.h"
+#include "dialogs/ColorSample.h"
 
 #include "platform/ColorNumber.h"
 

@@ -1,4 +1,4 @@
-#include "builders/TagDialog.h"
+#include "dialogs/TagDialog.h"
 
 #include "support/TestFrame.h"
 

@@ -1,5 +1,5 @@
 // How large the preview of a picture is.
-#include "builders/ImagePreview.h"
+#include "dialogs/ImagePreview.h"
 
 ImagePreview PreviewOf(QSize picture) {
     constexpr int Side = 150;

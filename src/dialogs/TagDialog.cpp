@@ -1,5 +1,5 @@
 // What all tag dialogs have in common: owner, OK, Cancel, and an end that leaves nothing behind.
-#include "builders/TagDialog.h"
+#include "dialogs/TagDialog.h"
 
 #include "editor/Forms.h"
 #include "editor/Frame.h"

@@ -1,5 +1,5 @@
 // What a file dialog's target is: its default filters, and how a file goes into it and out of it.
-#include "builders/CDialog.h"
+#include "dialogs/CDialog.h"
 
 #include "platform/Cp1252.h"
 #include "platform/RichTextBox.h"
