@@ -4,7 +4,7 @@
 #include "app/DocumentFiles.h"
 #include "app/OpenDocument.h"
 #include "app/RecentFiles.h"
-#include "dialogs/BuilderState.h"
+#include "dialogs/DialogState.h"
 #include "dialogs/FileDialogs.h"
 #include "editor/Commands.h"
 #include "editor/Document.h"
@@ -39,7 +39,7 @@ FileAnswer AskWhereToSave(Frame& frame) {
         FileRequest request = DocumentRequest();
         request.defaultExtension =
             frame.Store().ReadFlag(Keys::UseHTM) ? QStringLiteral("htm") : QStringLiteral("html");
-        request.folder = frame.State<BuilderState>().LastDir;
+        request.folder = frame.State<DialogState>().LastDir;
         FileAnswer answer = frame.Ask().SaveFile(frame.Window(), request);
         if (answer.Cancelled() || answer.names.first().isEmpty())
             return {};
@@ -70,13 +70,13 @@ void FillFileCommands(Frame& frame) {
 void mnuOpen_Click(Frame& frame) {
     FileRequest request = DocumentRequest();
     request.multiSelect = true;
-    request.folder = frame.State<BuilderState>().LastDir;
+    request.folder = frame.State<DialogState>().LastDir;
     const FileAnswer answer = frame.Ask().OpenFile(frame.Window(), request);
     if (answer.Cancelled())
         return;
     for (const QString& name : answer.names)
         frame.OpenDocumentFile(answer.folder + name);
-    frame.State<BuilderState>().LastDir = answer.folder;
+    frame.State<DialogState>().LastDir = answer.folder;
 }
 
 void mnuSave_Click(Frame& frame) {
@@ -100,7 +100,7 @@ void mnuSaveAs_Click(Frame& frame) {
     // The document takes the new path either way; only what is safely in the file counts as saved.
     if (DocumentFiles::Save(path, document->txtInput().Text()))
         document->SetModified(false);
-    frame.State<BuilderState>().LastDir = answer.folder;
+    frame.State<DialogState>().LastDir = answer.folder;
     frame.RemoveDocumentTab(document->Caption());
     document->SetCaption(path);
     AddToRecentFiles(frame);

@@ -5,7 +5,7 @@
 #include "app/ProgramState.h"
 #include "app/RecentFiles.h"
 #include "app/UserButtons.h"
-#include "dialogs/BuilderState.h"
+#include "dialogs/DialogState.h"
 #include "editor/Document.h"
 #include "editor/EditorState.h"
 #include "editor/SpellChecker.h"
@@ -123,7 +123,7 @@ void Shutdown::WriteEditorValues() {
     store.WriteNumber(Keys::Background2, frame_.State<EditorState>().Background2);
     store.Write(Keys::ReloadFlag, Values::FromBoolean(program.ReloadFlag));
     store.Write(Keys::TheOpenFile, program.TheOpenFile);
-    store.Write(Keys::LastDir(), frame_.State<BuilderState>().LastDir);
+    store.Write(Keys::LastDir(), frame_.State<DialogState>().LastDir);
 }
 
 void Shutdown::WriteGeometry() {

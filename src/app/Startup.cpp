@@ -8,7 +8,7 @@
 #include "app/UserButtons.h"
 #include "app/Version.h"
 #include "app/WindowPlace.h"
-#include "dialogs/BuilderState.h"
+#include "dialogs/DialogState.h"
 #include "editor/EditorState.h"
 #include "editor/SpellChecker.h"
 #include "platform/Path.h"
@@ -167,7 +167,7 @@ void Startup::ReadEditorValues() {
 }
 
 void Startup::ReadLastDir() {
-    frame_.State<BuilderState>().LastDir = WithoutLastSeparator(Text(Keys::LastDir()));
+    frame_.State<DialogState>().LastDir = WithoutLastSeparator(Text(Keys::LastDir()));
 }
 
 void Startup::ReadProgramValues() {

@@ -2,7 +2,7 @@
 #include "builders/frmBody.h"
 
 #include "builders/BodyTag.h"
-#include "dialogs/BuilderState.h"
+#include "dialogs/DialogState.h"
 #include "dialogs/FileDialogs.h"
 #include "dialogs/FormFields.h"
 #include "dialogs/PickColor.h"
@@ -129,7 +129,7 @@ void frmBody::cmdOK_Click() {
         DeleteBodyTag(document->txtInput());
         Insert(tag);
     }
-    auto& state = frame_.State<BuilderState>();
+    auto& state = frame_.State<DialogState>();
     state.LastBuiltTag = tag;
     state.TagBuilt = true;
     Unload();

@@ -2,7 +2,7 @@
 #include "builders/frmGraphicLink.h"
 
 #include "builders/ImageTag.h"
-#include "dialogs/BuilderState.h"
+#include "dialogs/DialogState.h"
 #include "dialogs/FormFields.h"
 #include "editor/Frame.h"
 #include "platform/Path.h"
@@ -81,7 +81,7 @@ void frmGraphicLink::cmdOK_Click() {
                                   .linkMe = FieldText(ui_->txtLinkMe)},
                                  TagCaseOf(frame_.Store()));
     Insert(tag);
-    auto& state = frame_.State<BuilderState>();
+    auto& state = frame_.State<DialogState>();
     state.LastBuiltTag = tag;
     state.TagBuilt = true;
     Unload();

@@ -1,7 +1,7 @@
 // The file dialog of links, frames and the site tools: filters and selection.
 #include "dialogs/CDialog.h"
 
-#include "dialogs/BuilderState.h"
+#include "dialogs/DialogState.h"
 #include "editor/Frame.h"
 #include "platform/Path.h"
 #include "platform/Prompts.h"
@@ -96,7 +96,7 @@ bool CDialog::Show(bool open, QWidget* owner, const DialogTarget& target) {
     FileRequest request;
     request.filter = filter_;
     request.filterIndex = filterIndex_;
-    request.folder = frame_.State<BuilderState>().LastDir;
+    request.folder = frame_.State<DialogState>().LastDir;
     request.multiSelect = open && multiSelect_ != Off;
     request.mustExist = fileMustExist_;
     if (!owner)

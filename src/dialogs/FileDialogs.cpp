@@ -1,7 +1,7 @@
 // Picking a file into a field of a tag dialog: filters, a form's file dialog, the picture browse.
 #include "dialogs/FileDialogs.h"
 
-#include "dialogs/BuilderState.h"
+#include "dialogs/DialogState.h"
 #include "dialogs/frmImage.h"
 #include "dialogs/Paths.h"
 #include "editor/Document.h"
@@ -32,7 +32,7 @@ std::optional<QString> FileDialog::ShowOpen(QWidget* owner, QWidget* panel,
     FileRequest request;
     request.filter = filter_;
     request.filterIndex = filterIndex_;
-    request.folder = frame_.State<BuilderState>().LastDir;
+    request.folder = frame_.State<DialogState>().LastDir;
     request.panel = panel;
     request.selectionChanged = std::move(selectionChanged);
     const FileAnswer answer = frame_.Ask().OpenFile(owner, request);

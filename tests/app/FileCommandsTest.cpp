@@ -3,7 +3,7 @@
 
 #include "app/FilesFrame.h"
 #include "app/RecentFiles.h"
-#include "dialogs/BuilderState.h"
+#include "dialogs/DialogState.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -18,7 +18,7 @@ const QString filter = QStringLiteral(
 
 class FileCommands : public testing::Test {
   protected:
-    QString& LastDir() { return frame.State<BuilderState>().LastDir; }
+    QString& LastDir() { return frame.State<DialogState>().LastDir; }
     static QString Folder() { return TestFolder() + u'/'; }
     /// A typed text in a document of a file that is as given before.
     QString Edited(const QByteArray& before, const QString& text) {

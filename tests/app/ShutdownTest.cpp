@@ -5,7 +5,7 @@
 #include "app/RealFrame.h"
 #include "app/RecentFiles.h"
 #include "app/UserButtons.h"
-#include "dialogs/BuilderState.h"
+#include "dialogs/DialogState.h"
 #include "platform/ProgramFolder.h"
 
 #include <QDialog>
@@ -124,7 +124,7 @@ TEST_F(ShutdownOf, ValuesGoToTheStore) {
     run.Program().TheOpenFile = QStringLiteral("/o.htm");
     run.VSSpell1().setProperty("StandardDic", QStringLiteral("/s.dic"));
     run.VSSpell1().setProperty("CustomDic", QStringLiteral("/c.dic"));
-    run.frame->State<BuilderState>().LastDir = QStringLiteral("/site");
+    run.frame->State<DialogState>().LastDir = QStringLiteral("/site");
     run.Editor().FirstBut[29] = QStringLiteral("<X>");
     run.Editor().SecondBut[29] = QStringLiteral("</X>");
     run.frame->Picture2().SetCaption(29, QStringLiteral("X"));

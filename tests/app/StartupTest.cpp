@@ -5,7 +5,7 @@
 #include "app/frmExternal.h"
 #include "app/RealFrame.h"
 #include "app/UserButtons.h"
-#include "dialogs/BuilderState.h"
+#include "dialogs/DialogState.h"
 
 #include <QScreen>
 #include <QTimer>
@@ -79,7 +79,7 @@ TEST_F(StartupOf, FreshStoreGivesTheDefaults) {
     EXPECT_EQ(run.Editor().ColorTable[4], QStringLiteral("\\red255\\green127\\blue0"));
     EXPECT_TRUE(run.VSSpell1().property("StandardDic").toString().endsWith(QStringLiteral("american.vtd")));
     EXPECT_TRUE(run.VSSpell1().property("CustomDic").toString().endsWith(QStringLiteral("custom.vtc")));
-    EXPECT_EQ(run.frame->State<BuilderState>().LastDir, qEnvironmentVariable("TARNWICK_HOME"));
+    EXPECT_EQ(run.frame->State<DialogState>().LastDir, qEnvironmentVariable("TARNWICK_HOME"));
     EXPECT_FALSE(run.frame->isMaximized());
     const QRect place(run.frame->pos(), run.frame->size());
     // With a title bar above, which the desktop draws, and edges.
@@ -222,7 +222,7 @@ TEST_F(StartupOf, LastDirLosesExactlyOneSeparator) {
         {"/odd\\", "/odd\\"},
     };
     for (const auto& row : rows)
-        EXPECT_EQ(With(Keys::LastDir(), row.stored)->frame->State<BuilderState>().LastDir,
+        EXPECT_EQ(With(Keys::LastDir(), row.stored)->frame->State<DialogState>().LastDir,
                   QString::fromLatin1(row.kept))
             << row.stored;
 }

@@ -1,6 +1,6 @@
 // The buttons of all tag dialogs that pick a file into a field: the same rules in each.
 #include "builders/DialogTest.h"
-#include "dialogs/BuilderState.h"
+#include "dialogs/DialogState.h"
 #include "dialogs/FileDialogs.h"
 #include "dialogs/TagRows.h"
 #include <QCheckBox>
@@ -57,7 +57,7 @@ class BrowseButtonsTest : public DialogTest, public testing::WithParamInterface<
 };
 
 TEST_P(BrowseButtonsTest, AskWithTheirFilterInTheLastFolder) {
-    frame.State<BuilderState>().LastDir = T(u"/last");
+    frame.State<DialogState>().LastDir = T(u"/last");
     Pick(u"C:\\site\\img\\b.gif");
     ASSERT_EQ(frame.prompts.asked.size(), 1);
     const Asked& asked = frame.prompts.asked.first();
@@ -68,7 +68,7 @@ TEST_P(BrowseButtonsTest, AskWithTheirFilterInTheLastFolder) {
     EXPECT_EQ(asked.request.panel != nullptr, GetParam().pictures);
     EXPECT_FALSE(asked.request.multiSelect);
     EXPECT_EQ(asked.owner, form);
-    EXPECT_EQ(frame.State<BuilderState>().LastDir, T(u"/last"));
+    EXPECT_EQ(frame.State<DialogState>().LastDir, T(u"/last"));
 }
 
 TEST_P(BrowseButtonsTest, GoByTheTwoBoxes) {

@@ -2,7 +2,7 @@
 
 #include "builders/DialogTest.h"
 #include "builders/frmBulletList.h"
-#include "dialogs/BuilderState.h"
+#include "dialogs/DialogState.h"
 #include "dialogs/FieldFrame.h"
 #include <QAccessible>
 #include <QCheckBox>
@@ -192,7 +192,7 @@ TEST_P(AnyDialogTest, ItsButtonsAreNamedAndCancelDoesNothingButClose) {
     EXPECT_FALSE(Loaded(FormName()));
     EXPECT_EQ(Text(), QStringLiteral("abc"));
     EXPECT_FALSE(frame.active->modified);
-    EXPECT_FALSE(frame.State<BuilderState>().TagBuilt);
+    EXPECT_FALSE(frame.State<DialogState>().TagBuilt);
 }
 
 TEST_P(AnyDialogTest, IsEmptyAtFirstButForTheForwardSlashes) {
@@ -229,7 +229,7 @@ TEST_P(AnyDialogTest, OkActsOnTheDocumentAndTheSelectionOfThatMoment) {
 
 TEST_P(AnyDialogTest, OnlyTheBodyAndTheImageHandTheirTagOnAndOnlyOnceItStands) {
     LowerCaseTags();
-    const BuilderState& state = frame.State<BuilderState>();
+    const DialogState& state = frame.State<DialogState>();
     Show();
     FillIn();
     bool early = false;
@@ -303,8 +303,8 @@ TEST_P(AnyDialogTest, OkWithoutADocumentClosesItAndDoesNothingElse) {
     EXPECT_TRUE(frame.opened.isEmpty() && frame.previewed.isEmpty() && frame.statuses.isEmpty());
     EXPECT_EQ(frame.saves, 0);
     // Whoever waits for the tag is not left waiting.
-    EXPECT_EQ(frame.State<BuilderState>().TagBuilt, GetParam().tellsTag);
-    EXPECT_EQ(frame.State<BuilderState>().LastBuiltTag,
+    EXPECT_EQ(frame.State<DialogState>().TagBuilt, GetParam().tellsTag);
+    EXPECT_EQ(frame.State<DialogState>().LastBuiltTag,
               GetParam().tellsTag ? Name(GetParam().open) : QString());
 }
 

@@ -2,8 +2,8 @@
 
 #include "builders/DialogTest.h"
 #include "builders/PageSample.h"
-#include "dialogs/BuilderState.h"
 #include "dialogs/ClickLabel.h"
+#include "dialogs/DialogState.h"
 #include "dialogs/FileDialogs.h"
 #include "dialogs/TagRows.h"
 #include "support/Site.h"
@@ -163,7 +163,7 @@ TEST_F(frmBodyTest, TheButtonShowsTheColourOfItsField) {
 TEST_F(frmBodyTest, BrowsesForTheBackground) {
     const Site site;
     frame.active->caption = site.Path(T(u"pages/a.htm"));
-    frame.State<BuilderState>().LastDir = site.Path(T(u"img"));
+    frame.State<DialogState>().LastDir = site.Path(T(u"img"));
     Show();
     frame.prompts.openAnswers = {ScriptedPrompts::Picked(site.Path(T(u"img/banner.png"))),
                                  ScriptedPrompts::Cancelled()};
@@ -181,7 +181,7 @@ TEST_F(frmBodyTest, BrowsesForTheBackground) {
     EXPECT_EQ(Field(T(u"txtBackground")), T(u"../img/banner.png"));
     EXPECT_EQ(Page().Picture().size(), QSize(468, 60));
     EXPECT_FALSE(Loaded(T(u"frmImage")));
-    EXPECT_EQ(frame.State<BuilderState>().LastDir, site.Path(T(u"img")));
+    EXPECT_EQ(frame.State<DialogState>().LastDir, site.Path(T(u"img")));
 
     Fill(T(u"txtBackground"), QString());
     EXPECT_TRUE(Page().Picture().isNull());
@@ -258,13 +258,13 @@ TEST_F(frmBodyTest, WritesAllFieldsAndHandsTheTagOn) {
     for (int i = 0; i < 5; ++i)
         Fill(fields[i], QString::number(i));
     Fill(T(u"txtBackground"), T(u"img/back.gif"));
-    EXPECT_FALSE(frame.State<BuilderState>().TagBuilt);
+    EXPECT_FALSE(frame.State<DialogState>().TagBuilt);
     Press(T(u"cmdOK"));
     const QString tag =
         T(u"<BODY BGCOLOR=\"0\" TEXT=\"1\" LINK=\"2\" VLINK=\"3\" ALINK=\"4\" BACKGROUND=\"img/back.gif\">");
     EXPECT_EQ(Text(), tag);
-    EXPECT_EQ(frame.State<BuilderState>().LastBuiltTag, tag);
-    EXPECT_TRUE(frame.State<BuilderState>().TagBuilt);
+    EXPECT_EQ(frame.State<DialogState>().LastBuiltTag, tag);
+    EXPECT_TRUE(frame.State<DialogState>().TagBuilt);
 }
 
 TEST_F(frmBodyTest, CancelChangesNothing) {
@@ -273,7 +273,7 @@ TEST_F(frmBodyTest, CancelChangesNothing) {
     Press(T(u"cmdCancel"));
     EXPECT_EQ(Text(), T(u"<BODY>"));
     EXPECT_FALSE(Loaded(T(u"frmBody")));
-    EXPECT_FALSE(frame.State<BuilderState>().TagBuilt);
+    EXPECT_FALSE(frame.State<DialogState>().TagBuilt);
 }
 
 TEST_F(frmBodyTest, ActsOnTheDocumentThatIsActiveAtOk) {

@@ -1,7 +1,7 @@
 #include "builders/frmGraphicLink.h"
 
 #include "builders/DialogTest.h"
-#include "dialogs/BuilderState.h"
+#include "dialogs/DialogState.h"
 #include "dialogs/FileDialogs.h"
 #include "dialogs/TagRows.h"
 #include "support/Site.h"
@@ -60,7 +60,7 @@ TEST_F(frmGraphicLinkTest, LooksAsItShould) {
 }
 
 TEST_F(frmGraphicLinkTest, PickingTheSourceFillsSizeAndAlternateText) {
-    frame.State<BuilderState>().LastDir = T(u"/somewhere/");
+    frame.State<DialogState>().LastDir = T(u"/somewhere/");
     const FileRequest request = Browse(u"cmdPicOpen", u"img/banner.png");
     EXPECT_EQ(request.filter, FileFilter::Picture);
     EXPECT_EQ(request.folder, T(u"/somewhere/"));
@@ -179,8 +179,8 @@ TEST_F(frmGraphicLinkTest, WritesEveryFieldButTheAlignment) {
         T(u"<IMG ALT=\"ALT\" WIDTH=Width HEIGHT=Height HSPACE=HSpace VSPACE=VSpace BORDER=Border "
           u"LOWSRC=\"LowSRC\" SRC=\"URL\" USEMAP=\"#UseMap\" ISMAP>");
     EXPECT_EQ(Text(), tag);
-    EXPECT_EQ(frame.State<BuilderState>().LastBuiltTag, tag);
-    EXPECT_TRUE(frame.State<BuilderState>().TagBuilt);
+    EXPECT_EQ(frame.State<DialogState>().LastBuiltTag, tag);
+    EXPECT_TRUE(frame.State<DialogState>().TagBuilt);
     EXPECT_FALSE(Loaded(T(u"frmGraphicLink")));
 }
 
@@ -195,7 +195,7 @@ TEST_F(frmGraphicLinkTest, WrapsTheTagInALink) {
     Fill(T(u"txtLinkMe"), T(u"Big.htm"));
     Press(T(u"cmdOK"));
     EXPECT_EQ(Text(), T(u" <a href==\"Big.htm\"><img src=\"A.gif\" usemap=\"#\"></a>"));
-    EXPECT_EQ(frame.State<BuilderState>().LastBuiltTag, Text());
+    EXPECT_EQ(frame.State<DialogState>().LastBuiltTag, Text());
 }
 
 TEST_F(frmGraphicLinkTest, ABackslashGoesIntoTheColouredTextAsItStands) {
@@ -203,7 +203,7 @@ TEST_F(frmGraphicLinkTest, ABackslashGoesIntoTheColouredTextAsItStands) {
     Press(T(u"cmdOK"));
     EXPECT_EQ(Text(), T(u"<IMG SRC=\"img.gif\" USEMAP=\"#\">"))
         << "the text control reads a word of its own there";
-    EXPECT_EQ(frame.State<BuilderState>().LastBuiltTag, T(u"<IMG SRC=\"img\\a.gif\" USEMAP=\"#\">"));
+    EXPECT_EQ(frame.State<DialogState>().LastBuiltTag, T(u"<IMG SRC=\"img\\a.gif\" USEMAP=\"#\">"));
     frame.SetText(QString());
     frame.Store().WriteFlag(Keys::ColoredTags, false);
     Open(T(u"mnuImage"), T(u"frmGraphicLink"));

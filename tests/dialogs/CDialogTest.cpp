@@ -1,7 +1,7 @@
 // The file dialog of links, frames and the site tools.
 #include "dialogs/CDialog.h"
 
-#include "dialogs/BuilderState.h"
+#include "dialogs/DialogState.h"
 #include "dialogs/FileDialogs.h"
 #include "support/FreshUser.h"
 #include "support/TestFrame.h"
@@ -118,7 +118,7 @@ TEST_F(CDialogTest, CancelForgetsTheSelectionAndIsNoError) {
 }
 
 TEST_F(CDialogTest, AsksWithItsFilterIndexFolderAndKind) {
-    frame.State<BuilderState>().LastDir = QStringLiteral("/site");
+    frame.State<DialogState>().LastDir = QStringLiteral("/site");
     frame.prompts.openAnswers = {ScriptedPrompts::Cancelled(), ScriptedPrompts::Cancelled()};
     frame.prompts.saveAnswers = {ScriptedPrompts::Cancelled()};
     dialog.SetFilter(FileFilter::Document);
@@ -159,12 +159,12 @@ TEST_F(CDialogTest, ItsOwnerIsTheActiveFormUnlessOneIsGiven) {
 }
 
 TEST_F(CDialogTest, LeavesTheLastFolderToTheFrame) {
-    frame.State<BuilderState>().LastDir = QStringLiteral("/site");
+    frame.State<DialogState>().LastDir = QStringLiteral("/site");
     frame.prompts.openAnswers = {ScriptedPrompts::Picked(QStringLiteral("/elsewhere/a.htm"))};
     frame.prompts.saveAnswers = {ScriptedPrompts::Picked(QStringLiteral("/elsewhere/a.htm"))};
     EXPECT_TRUE(dialog.ShowOpen());
     EXPECT_TRUE(dialog.ShowSave());
-    EXPECT_EQ(frame.State<BuilderState>().LastDir, QStringLiteral("/site"));
+    EXPECT_EQ(frame.State<DialogState>().LastDir, QStringLiteral("/site"));
 }
 
 TEST_F(CDialogTest, FiltersAreAddedOneByOne) {

@@ -1,7 +1,7 @@
 // Picking a file into a field of a tag dialog.
 #include "dialogs/FileDialogs.h"
 
-#include "dialogs/BuilderState.h"
+#include "dialogs/DialogState.h"
 #include "dialogs/frmImage.h"
 #include "platform/DesktopPrompts.h"
 #include "support/FreshUser.h"
@@ -63,7 +63,7 @@ TEST(FileFilter, TextsToTheLetter) {
 
 TEST(FileDialog, OpensInLastDirAndKeepsItsFilter) {
     TestFrame frame;
-    auto& state = frame.State<BuilderState>();
+    auto& state = frame.State<DialogState>();
     state.LastDir = QStringLiteral("/site");
     frame.prompts.openAnswers = {ScriptedPrompts::Cancelled(),
                                  ScriptedPrompts::Picked(QStringLiteral("/img/a.gif")),
@@ -114,7 +114,7 @@ TEST(PictureBrowse, PreviewsTheSelectionAndUnloadsTheForm) {
 TEST(PictureBrowse, ShowsThePictureInTheRealFileDialog) {
     RealPromptsFrame frame;
     Picture(Here("wide.png"), 468, 60);
-    frame.State<BuilderState>().LastDir = TestFolder();
+    frame.State<DialogState>().LastDir = TestFolder();
     FileDialog pictures(frame);
     pictures.SetFilter(FileFilter::Picture);
     bool seen = false;
