@@ -7,6 +7,13 @@
 #include <algorithm>
 #include <QPalette>
 
+namespace {
+
+/// How many stretches of text the base class keeps the measures of: the words of a page of some megabytes.
+constexpr int stretchesRemembered = 1 << 16;
+
+} // namespace
+
 RichTextBox::RichTextBox(QWidget* parent)
     : QsciScintillaBase(parent), font_(QStringLiteral("Arial"), 10),
 #ifdef Q_OS_WIN
@@ -50,6 +57,7 @@ void RichTextBox::SetUp() {
     Sci(SCI_SETENDATLASTLINE, 1);
     Sci(SCI_SETTABWIDTH, 8);
     Sci(SCI_SETLAYOUTCACHE, SC_CACHE_PAGE);
+    Sci(SCI_SETPOSITIONCACHE, stretchesRemembered);
     Sci(SCI_SETIDLESTYLING, SC_IDLESTYLING_NONE);
     // Last of all, since it is the one call that loads the fonts: what changes the look behind it would make
     // them load twice.
@@ -69,10 +77,8 @@ void RichTextBox::ApplyStyles() {
     Sci(SCI_STYLESETFORE, STYLE_DEFAULT, 0);
     Sci(SCI_STYLESETBACK, STYLE_DEFAULT, backColor_);
     Sci(SCI_STYLECLEARALL);
-    for (int style = 1; style < styles_.End(); ++style) {
-        if (StyleTable::IsForText(style))
-            Sci(SCI_STYLESETFORE, style, styles_.ColorOf(style));
-    }
+    for (int style = 1; style < styles_.End(); ++style)
+        ShowStyle(style);
     Sci(SCI_SETCARETFORE, qGray(ToQColor(backColor_).rgb()) < 128 ? 0xffffff : 0);
 }
 

@@ -3,6 +3,7 @@
 
 #include "platform/ColorNumber.h"
 #include "platform/RichTextColors.h"
+#include "platform/TextStretches.h"
 
 #include <optional>
 #include <QByteArray>
@@ -213,7 +214,8 @@ class RichTextBox : public QsciScintillaBase {
         bool Empty() const { return start == end; }
         bool operator==(const ByteRange&) const = default;
     };
-    /// Text that the base class has announced and not yet been seen to hold, with the colours it is to have.
+    /// Text that the base class has announced and not yet been seen to hold, with the colours it is to have;
+    /// of no length where text is going away.
     struct Incoming {
         int start;
         int length;
@@ -269,7 +271,12 @@ class RichTextBox : public QsciScintillaBase {
     int StyleBefore(int byte) const;
     int StyleAtCaret() const;
     StyleRuns StylesOf(int start, int length) const;
+    CellText CellsOf(int start, int end) const;
     void SetStyles(int start, const StyleRuns& styles);
+    /// Gives a style its colour on the screen.
+    void ShowStyle(int style);
+    /// Keeps stretches short where an edit made two of them meet.
+    void MendStretches(int seam);
 
     void Settle();
     void TakeIncoming();

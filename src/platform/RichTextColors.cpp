@@ -1,4 +1,4 @@
-// One style number for each colour, and the colours that undo and redo bring back.
+// One style for each colour, and the colours that undo and redo bring back.
 #include "platform/RichTextColors.h"
 
 #include <algorithm>
@@ -43,8 +43,7 @@ StyleTable::Found StyleTable::StyleFor(ColorNumber color) {
         return {*known, false};
     if (next_ == count)
         return {Nearest(color), false};
-    const int style = next_;
-    next_ = style == 31 ? 40 : style + 1;
+    const int style = next_++;
     colors_[static_cast<std::size_t>(style)] = color;
     styles_.insert(color, style);
     return {style, true};
@@ -53,7 +52,7 @@ StyleTable::Found StyleTable::StyleFor(ColorNumber color) {
 int StyleTable::Nearest(ColorNumber color) const {
     int best = 0;
     for (int style = 1; style < next_; ++style) {
-        if (IsForText(style) && Distance(ColorOf(style), color) < Distance(ColorOf(best), color))
+        if (Distance(ColorOf(style), color) < Distance(ColorOf(best), color))
             best = style;
     }
     return best;

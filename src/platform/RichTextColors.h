@@ -1,8 +1,9 @@
-// The colours behind the text control: one style number for each colour, and the memory that lets undo and
+// The colours behind the text control: one style for each colour, and the memory that lets undo and
 // redo bring colours back, which the control's own undo forgets.
 #pragma once
 
 #include "platform/ColorNumber.h"
+#include "platform/TextStretches.h"
 
 #include <array>
 #include <cstdint>
@@ -26,11 +27,12 @@ class StyleRuns {
     std::vector<std::uint32_t> packed_;
 };
 
-/// Which style number shows which colour. Style 0 is the control's own text colour, black. The numbers 32 to
-/// 39 are not for text. When all others are taken, a new colour is shown in the nearest one there is.
+/// Which style shows which colour. Style 0 is the control's own text colour, black. A document has room for
+/// 123 colours beside it, over its whole life; any further one is shown in the nearest there is, and is that
+/// one for whoever asks.
 class StyleTable {
   public:
-    static constexpr int count = 256;
+    static constexpr int count = StyleCells::styles;
 
     struct Found {
         int style;
@@ -39,9 +41,8 @@ class StyleTable {
     /// The style of a colour; a negative colour is the control's own text colour.
     Found StyleFor(ColorNumber color);
     ColorNumber ColorOf(int style) const { return colors_[static_cast<std::size_t>(style)]; }
-    /// All styles in use are those below this number, but for 32 to 39.
+    /// All styles in use are those below this number.
     int End() const { return next_; }
-    static bool IsForText(int style) { return style < 32 || style > 39; }
 
   private:
     int Nearest(ColorNumber color) const;

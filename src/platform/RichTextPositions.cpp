@@ -128,12 +128,18 @@ void RichTextBox::ScrollTo(int start, int end) {
 int RichTextBox::StyleFor(ColorNumber color) {
     const StyleTable::Found found = styles_.StyleFor(color);
     if (found.isNew)
-        Sci(SCI_STYLESETFORE, found.style, styles_.ColorOf(found.style));
+        ShowStyle(found.style);
     return found.style;
 }
 
+void RichTextBox::ShowStyle(int style) {
+    const char first = StyleCells::First(style);
+    for (const char cell : {first, StyleCells::Twin(first)})
+        Sci(SCI_STYLESETFORE, static_cast<unsigned char>(cell), styles_.ColorOf(style));
+}
+
 int RichTextBox::StyleAt(int byte) const {
-    return static_cast<int>(Sci(SCI_GETSTYLEAT, byte) & 0xff);
+    return StyleCells::StyleOf(static_cast<char>(Sci(SCI_GETSTYLEAT, byte)));
 }
 
 int RichTextBox::StyleBefore(int byte) const {
@@ -151,19 +157,32 @@ int RichTextBox::StyleAtCaret() const {
     return StyleBefore(range.start);
 }
 
+CellText RichTextBox::CellsOf(int start, int end) const {
+    const int from = std::max(start, 0);
+    const int size = std::min(end, ByteLength()) - from;
+    // Each byte of the text comes with its cell behind it, and two zero bytes follow the last one.
+    QByteArray pairs(2 * size + 2, Qt::Uninitialized);
+    SendScintilla(SCI_GETSTYLEDTEXT, from, from + size, pairs.data());
+    CellText both{QByteArray(size, Qt::Uninitialized), QByteArray(size, Qt::Uninitialized)};
+    char* text = both.text.data();
+    char* cells = both.cells.data();
+    for (const char* pair = pairs.constData(); pair < pairs.constData() + 2 * size; pair += 2) {
+        *text++ = pair[0];
+        *cells++ = pair[1];
+    }
+    return both;
+}
+
 StyleRuns RichTextBox::StylesOf(int start, int length) const {
     constexpr int step = 1 << 16;
     StyleRuns runs;
-    // Each byte of the text comes with its style behind it, and two zero bytes follow the last one.
-    QByteArray cells(2 * std::min(step, length) + 2, Qt::Uninitialized);
     for (int from = start; from < start + length; from += step) {
-        const int size = std::min(step, start + length - from);
-        SendScintilla(SCI_GETSTYLEDTEXT, from, from + size, cells.data());
-        int first = 0;
-        for (int i = 1; i <= size; ++i) {
-            if (i < size && cells[2 * i + 1] == cells[2 * first + 1])
+        const QByteArray cells = CellsOf(from, std::min(from + step, start + length)).cells;
+        qsizetype first = 0;
+        for (qsizetype i = 1; i <= cells.size(); ++i) {
+            if (i < cells.size() && StyleCells::SameStyle(cells[i], cells[first]))
                 continue;
-            runs.Append(i - first, static_cast<unsigned char>(cells[2 * first + 1]));
+            runs.Append(static_cast<int>(i - first), StyleCells::StyleOf(cells[first]));
             first = i;
         }
     }
@@ -171,17 +190,36 @@ StyleRuns RichTextBox::StylesOf(int start, int length) const {
 }
 
 void RichTextBox::SetStyles(int start, const StyleRuns& styles) {
+    constexpr int step = 1 << 16;
+    StretchCutter cutter(CellsOf(start - StretchCutter::longest - 1, start));
+    QByteArray cells;
+    const auto write = [&] {
+        SendScintilla(SCI_SETSTYLINGEX, static_cast<unsigned long>(cells.size()), cells.constData());
+        cells.resize(0);
+    };
     Sci(SCI_STARTSTYLING, start);
-    if (styles.Count() == 1) {
-        Sci(SCI_SETSTYLING, styles.LengthOf(0), styles.StyleOf(0));
-        return;
+    int at = start;
+    for (std::size_t run = 0; run < styles.Count(); ++run) {
+        for (const int end = at + styles.LengthOf(run); at < end;) {
+            const int next = std::min(end, at + step);
+            cutter.Append(BytesInPlace(at, next), styles.StyleOf(run), cells);
+            at = next;
+            if (cells.size() >= step)
+                write();
+        }
     }
-    qsizetype length = 0;
-    for (std::size_t run = 0; run < styles.Count(); ++run)
-        length += styles.LengthOf(run);
-    QByteArray bytes(length, Qt::Uninitialized);
-    char* to = bytes.data();
-    for (std::size_t run = 0; run < styles.Count(); ++run)
-        to = std::fill_n(to, styles.LengthOf(run), static_cast<char>(styles.StyleOf(run)));
-    SendScintilla(SCI_SETSTYLINGEX, static_cast<unsigned long>(bytes.size()), bytes.constData());
+    write();
+    MendStretches(at);
+}
+
+void RichTextBox::MendStretches(int seam) {
+    constexpr int reach = 2 * StretchCutter::longest;
+    const int from = std::max(seam - reach, 0);
+    const CellText around = CellsOf(from, seam + reach);
+    const TextPart part = PartToTurn(around, seam - from);
+    if (part.start == part.end)
+        return;
+    const auto cell = static_cast<unsigned char>(StyleCells::Twin(around.cells[part.start]));
+    Sci(SCI_STARTSTYLING, from + part.start);
+    Sci(SCI_SETSTYLING, part.end - part.start, cell);
 }

@@ -90,14 +90,15 @@ void RichTextBox::TakeIncoming() {
     if (!incoming_)
         return;
     const Incoming incoming = *std::exchange(incoming_, std::nullopt);
+    if (incoming.length == 0) {
+        MendStretches(incoming.start);
+        return;
+    }
     const QByteArrayView text = BytesInPlace(incoming.start, incoming.start + incoming.length);
     CountInsertion(incoming.start, text);
     if (HasAssistants())
         untold_.push_back({true, CharFromByte(incoming.start), QString::fromUtf8(text)});
-    // What comes in has style 0 already.
-    const StyleRuns& styles = incoming.styles;
-    if (styles.Count() > 1 || (styles.Count() == 1 && styles.StyleOf(0) != 0))
-        SetStyles(incoming.start, styles);
+    SetStyles(incoming.start, incoming.styles);
 }
 
 void RichTextBox::CountInsertion(int start, QByteArrayView text) {
@@ -170,4 +171,5 @@ void RichTextBox::BeforeDeletion(int position, int type, int length) {
         undoColors_.Append(UndoColors::Kind::Deletion, std::move(styles));
         caretMovedByEdit_ = true;
     }
+    incoming_ = Incoming{position, 0, {}};
 }
