@@ -1,6 +1,8 @@
-// What the text control costs by the length of its text: a key, a search or a page the same in every text, a
-// whole assignment and its undo linear.
+// What the text control costs by the length of its text, with lines wrapped and until it is idle: a key, a
+// search or a page the same in every text, a whole assignment and its undo linear, a key linear in the length
+// of its line.
 #include "platform/RichTextBox.h"
+#include "UntilIdle.h"
 
 #include <benchmark/benchmark.h>
 #include <QApplication>
@@ -30,13 +32,11 @@ QString Page(benchmark::IterationCount size, bool ascii) {
     return rtf + QLatin1Char('}');
 }
 
-/// A control of that many characters, shown, with its caret in the middle. Lines do not wrap: that goes on in
-/// the background for a while after a text came in, and would be measured with each key.
+/// A control of that many characters, shown, wrapped and idle, with its caret in the middle.
 class Filled {
   public:
     explicit Filled(benchmark::IterationCount size, bool ascii = true) {
         box.resize(800, 600);
-        box.SetRightMargin(65000);
         box.show();
         box.SetSelRTF(Page(size, ascii));
         box.EmptyUndoBuffer();
@@ -44,6 +44,7 @@ class Filled {
         QObject::connect(&box, &RichTextBox::SCN_PAINTED, &box, [this] { ++paints; });
         while (paints == 0)
             QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+        RunUntilIdle();
     }
 
     RichTextBox box;
@@ -79,6 +80,97 @@ BENCHMARK(KeyUntilPaintedWithAccents)
     ->RangeMultiplier(10)
     ->Range(shortest, longest)
     ->Complexity(benchmark::o1);
+
+/// A key in the middle while all lines wait to be wrapped anew, up to where it is painted.
+void KeyWhileWrapping(benchmark::State& state) {
+    Filled filled(state.range(0));
+    const auto press = [&](int key, const QString& text) {
+        QKeyEvent event(QEvent::KeyPress, key, Qt::NoModifier, text);
+        QApplication::sendEvent(&filled.box, &event);
+        // Paints, but leaves the timer alone that wraps.
+        QCoreApplication::sendPostedEvents();
+    };
+    int painted = 0;
+    for ([[maybe_unused]] auto step : state) {
+        state.PauseTiming();
+        filled.box.SetRightMargin(1);
+        filled.box.SetRightMargin(0);
+        filled.box.viewport()->repaint();
+        const int before = filled.paints;
+        state.ResumeTiming();
+        press(Qt::Key_X, QStringLiteral("x"));
+        press(Qt::Key_Backspace, QStringLiteral("\b"));
+        painted += filled.paints - before;
+    }
+    if (painted < 2 * state.iterations())
+        state.SkipWithError("not every key was painted");
+    state.SetItemsProcessed(2 * state.iterations());
+    state.SetComplexityN(state.range(0));
+}
+BENCHMARK(KeyWhileWrapping)->RangeMultiplier(10)->Range(shortest, longest)->Complexity(benchmark::o1);
+
+/// Brings a text into a control on the screen and wraps it.
+void WrapUntilIdle(benchmark::State& state, const QString& text) {
+    for ([[maybe_unused]] auto step : state) {
+        RichTextBox box;
+        box.resize(800, 600);
+        box.show();
+        box.SetText(text);
+        RunUntilIdle();
+    }
+    state.SetBytesProcessed(state.iterations() * state.range(0));
+    state.SetComplexityN(state.range(0));
+}
+void WrapLines(benchmark::State& state) {
+    const QString line = QStringLiteral("<td>A few words for each line, and a &quot;tag&quot;</td>\r\n");
+    WrapUntilIdle(state, line.repeated(state.range(0) / line.size()));
+}
+BENCHMARK(WrapLines)
+    ->RangeMultiplier(10)
+    ->Range(shortest, longest)
+    ->Unit(benchmark::kMillisecond)
+    ->Complexity(benchmark::oN);
+void WrapOneLine(benchmark::State& state) {
+    WrapUntilIdle(state, QString(state.range(0), u'<'));
+}
+BENCHMARK(WrapOneLine)
+    ->RangeMultiplier(10)
+    ->Range(shortest, longest)
+    ->Unit(benchmark::kMillisecond)
+    ->Complexity(benchmark::oN);
+
+/// A key in a text that is all one line, made of a few words, of tags, or of what never ends a word.
+void KeyInOneLine(benchmark::State& state, const QString& piece) {
+    RichTextBox box;
+    box.resize(800, 600);
+    box.show();
+    box.SetText(piece.repeated(state.range(0) / piece.size()));
+    box.SetSelStart(box.TextLength() / 2);
+    RunUntilIdle();
+    for ([[maybe_unused]] auto step : state) {
+        Press(box, Qt::Key_X, QStringLiteral("x"));
+        Press(box, Qt::Key_Backspace, QStringLiteral("\b"));
+    }
+    state.SetItemsProcessed(2 * state.iterations());
+    state.SetComplexityN(state.range(0));
+}
+void KeyInALineOfWords(benchmark::State& state) {
+    KeyInOneLine(state, QStringLiteral("some words and no end of the line "));
+}
+void KeyInALineOfTags(benchmark::State& state) {
+    KeyInOneLine(state, QStringLiteral("<p align=\"left\"><a href=\"x/y.html\"></a></p>"));
+}
+void KeyInALineOfBrackets(benchmark::State& state) {
+    KeyInOneLine(state, QStringLiteral("<"));
+}
+void LineLengths(benchmark::internal::Benchmark* benchmark) {
+    for (const int64_t length : {shortest, 10 * shortest, 100 * shortest})
+        benchmark->Arg(length);
+    benchmark->Complexity(benchmark::oN)->Unit(benchmark::kMillisecond);
+}
+BENCHMARK(KeyInALineOfWords)->Apply(LineLengths);
+BENCHMARK(KeyInALineOfTags)->Apply(LineLengths);
+BENCHMARK(KeyInALineOfBrackets)->Apply(LineLengths);
 
 void AssignRtf(benchmark::State& state) {
     const QString rtf = Page(state.range(0), false);
