@@ -2,6 +2,7 @@
 // the start and redo to the end, with the same colours.
 #include "FuzzApplication.h"
 #include "platform/RichTextBox.h"
+#include "platform/RtfReader.h"
 
 #include <algorithm>
 #include <cstddef>

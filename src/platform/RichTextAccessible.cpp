@@ -1,9 +1,9 @@
-// The text control for assistive technology.
 #include "platform/RichTextAccessible.h"
 
-#include "platform/RichTextBox.h"
+#include "platform/AccessibleText.h"
 
 #include <algorithm>
+#include <QAbstractScrollArea>
 #include <QTextBoundaryFinder>
 
 namespace {
@@ -12,10 +12,12 @@ namespace {
 constexpr int context = 512;
 
 QAccessibleInterface* Create(const QString& name, QObject* object) {
-    if (name != QLatin1String(RichTextBox::staticMetaObject.className()))
+    // Asked for each class that the object derives from; the object's own comes first.
+    if (name != QLatin1String(object->metaObject()->className()))
         return nullptr;
-    auto* box = qobject_cast<RichTextBox*>(object);
-    return box ? new RichTextAccessible(box) : nullptr;
+    auto* text = dynamic_cast<AccessibleText*>(object);
+    auto* area = qobject_cast<QAbstractScrollArea*>(object);
+    return text && area ? new RichTextAccessible(area, *text, *area->viewport()) : nullptr;
 }
 
 QTextBoundaryFinder::BoundaryType FinderType(QAccessible::TextBoundaryType type) {
@@ -36,8 +38,8 @@ QString Rgb(ColorNumber color) {
 
 } // namespace
 
-RichTextAccessible::RichTextAccessible(RichTextBox* box)
-    : QAccessibleWidget(box, QAccessible::EditableText), box_(box) {}
+RichTextAccessible::RichTextAccessible(QWidget* control, AccessibleText& text, const QWidget& viewport)
+    : QAccessibleWidget(control, QAccessible::EditableText), text_(text), viewport_(viewport) {}
 
 void RichTextAccessible::Install() {
     QAccessible::installFactory(Create);
@@ -62,12 +64,12 @@ QAccessible::State RichTextAccessible::state() const {
 
 void RichTextAccessible::selection(int index, int* start, int* end) const {
     const bool known = index == 0 && selectionCount() == 1;
-    *start = known ? box_->SelStart() : 0;
-    *end = known ? *start + box_->SelLength() : 0;
+    *start = known ? text_.SelStart() : 0;
+    *end = known ? *start + text_.SelLength() : 0;
 }
 
 int RichTextAccessible::selectionCount() const {
-    return box_->SelLength() > 0 ? 1 : 0;
+    return text_.SelLength() > 0 ? 1 : 0;
 }
 
 void RichTextAccessible::addSelection(int start, int end) {
@@ -76,28 +78,28 @@ void RichTextAccessible::addSelection(int start, int end) {
 
 void RichTextAccessible::removeSelection(int index) {
     if (index == 0)
-        box_->SetSelStart(box_->CaretPosition());
+        text_.SetSelStart(text_.CaretPosition());
 }
 
 void RichTextAccessible::setSelection(int index, int start, int end) {
     if (index != 0)
         return;
     const int from = Resolve(start);
-    box_->SetSelStart(from);
-    box_->SetSelLength(std::max(Resolve(end) - from, 0));
+    text_.SetSelStart(from);
+    text_.SetSelLength(std::max(Resolve(end) - from, 0));
 }
 
 int RichTextAccessible::cursorPosition() const {
-    return box_->CaretPosition();
+    return text_.CaretPosition();
 }
 
 void RichTextAccessible::setCursorPosition(int position) {
-    box_->SetSelStart(Resolve(position));
+    text_.SetSelStart(Resolve(position));
 }
 
 QString RichTextAccessible::text(int start, int end) const {
     const int from = Resolve(start);
-    return box_->TextRange(from, Resolve(end) - from);
+    return text_.TextRange(from, Resolve(end) - from);
 }
 
 QString RichTextAccessible::text(QAccessible::Text which) const {
@@ -106,22 +108,22 @@ QString RichTextAccessible::text(QAccessible::Text which) const {
 
 int RichTextAccessible::Resolve(int offset) const {
     if (offset == -2)
-        return box_->CaretPosition();
-    const int count = box_->TextLength();
+        return text_.CaretPosition();
+    const int count = text_.TextLength();
     return offset == -1 ? count : std::clamp(offset, 0, count);
 }
 
 RichTextAccessible::Stretch RichTextAccessible::StretchAt(int offset,
                                                           QAccessible::TextBoundaryType type) const {
     if (type == QAccessible::NoBoundary)
-        return {0, box_->TextLength()};
-    const int lineStart = box_->LineStart(offset);
-    const int nextLine = box_->NextLineStart(offset);
+        return {0, text_.TextLength()};
+    const int lineStart = text_.LineStart(offset);
+    const int nextLine = text_.NextLineStart(offset);
     if (type == QAccessible::LineBoundary || type == QAccessible::ParagraphBoundary)
         return {lineStart, nextLine};
     const int from = std::max(lineStart, offset - context);
     const int to = std::min(nextLine, offset + context);
-    const QString around = box_->TextRange(from, to - from);
+    const QString around = text_.TextRange(from, to - from);
     QTextBoundaryFinder finder(FinderType(type), around);
     finder.setPosition(offset - from);
     if (!finder.isAtBoundary())
@@ -132,13 +134,13 @@ RichTextAccessible::Stretch RichTextAccessible::StretchAt(int offset,
 }
 
 bool RichTextAccessible::IsBlank(Stretch stretch) const {
-    return box_->TextRange(stretch.start, std::min(stretch.end - stretch.start, context)).trimmed().isEmpty();
+    return text_.TextRange(stretch.start, std::min(stretch.end - stretch.start, context)).trimmed().isEmpty();
 }
 
 QString RichTextAccessible::Tell(Stretch stretch, int* start, int* end) const {
     *start = stretch.start;
     *end = stretch.end;
-    return box_->TextRange(stretch.start, stretch.end - stretch.start);
+    return text_.TextRange(stretch.start, stretch.end - stretch.start);
 }
 
 QString RichTextAccessible::textAtOffset(int offset, QAccessible::TextBoundaryType type, int* start,
@@ -159,7 +161,7 @@ QString RichTextAccessible::textBeforeOffset(int offset, QAccessible::TextBounda
 
 QString RichTextAccessible::textAfterOffset(int offset, QAccessible::TextBoundaryType type, int* start,
                                             int* end) const {
-    const int count = box_->TextLength();
+    const int count = text_.TextLength();
     Stretch stretch = StretchAt(Resolve(offset), type);
     do {
         if (stretch.end >= count || type == QAccessible::NoBoundary)
@@ -170,36 +172,36 @@ QString RichTextAccessible::textAfterOffset(int offset, QAccessible::TextBoundar
 }
 
 int RichTextAccessible::characterCount() const {
-    return box_->TextLength();
+    return text_.TextLength();
 }
 
 QRect RichTextAccessible::characterRect(int offset) const {
-    const QRect inside = box_->CharacterRect(Resolve(offset));
-    return {box_->viewport()->mapToGlobal(inside.topLeft()), inside.size()};
+    const QRect inside = text_.CharacterRect(Resolve(offset));
+    return {viewport_.mapToGlobal(inside.topLeft()), inside.size()};
 }
 
 int RichTextAccessible::offsetAtPoint(const QPoint& point) const {
-    const QPoint inside = box_->viewport()->mapFromGlobal(point);
-    return box_->viewport()->rect().contains(inside) ? box_->PositionAt(inside) : -1;
+    const QPoint inside = viewport_.mapFromGlobal(point);
+    return viewport_.rect().contains(inside) ? text_.PositionAt(inside) : -1;
 }
 
 void RichTextAccessible::scrollToSubstring(int start, int end) {
-    box_->ScrollTo(Resolve(start), Resolve(end));
+    text_.ScrollTo(Resolve(start), Resolve(end));
 }
 
 QString RichTextAccessible::attributes(int offset, int* start, int* end) const {
     const int at = Resolve(offset);
-    const ColorNumber color = box_->ColorAt(at);
+    const ColorNumber color = text_.ColorAt(at);
     *start = *end = at;
     if (color < 0)
         return QString();
-    while (*start > std::max(at - context, 0) && box_->ColorAt(*start - 1) == color)
+    while (*start > std::max(at - context, 0) && text_.ColorAt(*start - 1) == color)
         --*start;
-    while (*end < at + context && box_->ColorAt(*end) == color)
+    while (*end < at + context && text_.ColorAt(*end) == color)
         ++*end;
     return QStringLiteral("color:%1;background-color:%2;font-family:\"%3\";font-size:%4pt;")
-        .arg(Rgb(color), Rgb(box_->BackColor()), box_->Font().family())
-        .arg(box_->Font().pointSizeF());
+        .arg(Rgb(color), Rgb(text_.BackColor()), text_.Font().family())
+        .arg(text_.Font().pointSizeF());
 }
 
 void RichTextAccessible::deleteText(int start, int end) {
@@ -211,8 +213,8 @@ void RichTextAccessible::insertText(int offset, const QString& text) {
 }
 
 void RichTextAccessible::replaceText(int start, int end, const QString& text) {
-    if (!box_->Enabled())
+    if (!text_.Enabled())
         return;
     setSelection(0, start, end);
-    box_->InsertForeign(text);
+    text_.InsertForeign(text);
 }

@@ -4,16 +4,19 @@
 #include <QAccessible>
 #include <QAccessibleWidget>
 
-class RichTextBox;
+class AccessibleText;
 
-/// The text, caret and selection of a RichTextBox. No query costs more than the text that it returns: the
-/// class that the box derives from would count the characters of the whole text at each key.
+/// The text, caret and selection of a control that is an AccessibleText. No query costs more than the text
+/// that it returns: the interface of the class that the control derives from counts the characters of the
+/// whole text at each key.
 class RichTextAccessible final : public QAccessibleWidget,
                                  public QAccessibleTextInterface,
                                  public QAccessibleEditableTextInterface {
   public:
-    explicit RichTextAccessible(RichTextBox* box);
-    /// Makes every RichTextBox get this interface. Once is enough; more do no harm.
+    /// The viewport is the widget whose pixels the text speaks of.
+    RichTextAccessible(QWidget* control, AccessibleText& text, const QWidget& viewport);
+    /// Makes every scrolling widget that is an AccessibleText get this interface. Once is enough; more do no
+    /// harm.
     static void Install();
 
     void* interface_cast(QAccessible::InterfaceType type) override;
@@ -55,5 +58,6 @@ class RichTextAccessible final : public QAccessibleWidget,
     bool IsBlank(Stretch stretch) const;
     QString Tell(Stretch stretch, int* start, int* end) const;
 
-    RichTextBox* box_;
+    AccessibleText& text_;
+    const QWidget& viewport_;
 };

@@ -1,10 +1,13 @@
-// The text control of a document: its text, its selection and what it looks like.
 #include "platform/RichTextBox.h"
 
 #include "platform/RichTextAccessible.h"
-#include "platform/UndoAction.h"
+#include "platform/RtfReader.h"
+#include "platform/RtfWriter.h"
+#include "platform/TextPrinter.h"
 
 #include <algorithm>
+#include <QApplication>
+#include <QClipboard>
 #include <QPalette>
 
 namespace {
@@ -15,7 +18,11 @@ constexpr int stretchesRemembered = 1 << 16;
 } // namespace
 
 RichTextBox::RichTextBox(QWidget* parent)
-    : QsciScintillaBase(parent), font_(QStringLiteral("Arial"), 10),
+    : QsciScintillaBase(parent),
+      keys_(*this, buffer_, editing_,
+            {.keyDown = [this](int& KeyCode, int Shift) { Outside([&] { Q_EMIT KeyDown(KeyCode, Shift); }); },
+             .keyPress = [this](int& KeyAscii) { Outside([&] { Q_EMIT KeyPress(KeyAscii); }); }}),
+      inputMethod_(*viewport()), font_(QStringLiteral("Arial"), 10),
 #ifdef Q_OS_WIN
       rawLineEnds_(RawLineEnds::Skip)
 #else
@@ -24,6 +31,7 @@ RichTextBox::RichTextBox(QWidget* parent)
 {
     // Found before that of the base class, since it goes by the name of the derived class.
     RichTextAccessible::Install();
+    editing_.takeIncoming = [this] { TakeIncoming(); };
     ApplyStyles();
     ApplyPalette();
     SetUp();
@@ -42,8 +50,7 @@ long RichTextBox::Sci(unsigned int message, long wParam, long lParam) const {
 }
 
 void RichTextBox::SetUp() {
-    Sci(SCI_SETCODEPAGE, SC_CP_UTF8);
-    Sci(SCI_ALLOCATELINECHARACTERINDEX, SC_LINECHARACTERINDEX_UTF32);
+    buffer_.SetUp();
     Sci(SCI_SETMODEVENTMASK, SC_MOD_BEFOREINSERT | SC_MOD_BEFOREDELETE);
     Sci(SCI_CLEARALLCMDKEYS);
     Sci(SCI_USEPOPUP, 0);
@@ -77,8 +84,7 @@ void RichTextBox::ApplyStyles() {
     Sci(SCI_STYLESETFORE, STYLE_DEFAULT, 0);
     Sci(SCI_STYLESETBACK, STYLE_DEFAULT, backColor_);
     Sci(SCI_STYLECLEARALL);
-    for (int style = 1; style < styles_.End(); ++style)
-        ShowStyle(style);
+    colors_.ShowStyles();
     Sci(SCI_SETCARETFORE, qGray(ToQColor(backColor_).rgb()) < 128 ? 0xffffff : 0);
 }
 
@@ -88,92 +94,119 @@ void RichTextBox::ApplyPalette() {
 }
 
 QString RichTextBox::Text() const {
-    return TextOf({0, ByteLength()});
+    return buffer_.Text(buffer_.Whole());
 }
 
 void RichTextBox::SetText(const QString& text) {
     const Settling settling(*this);
-    const int style = StyleAtCaret();
+    const int style = colors_.StyleAtCaret(editing_.Selection());
     const QByteArray bytes = text.toUtf8();
-    Replace({0, ByteLength()}, bytes, StyleRuns(static_cast<int>(bytes.size()), style));
+    editing_.Replace(buffer_.Whole(), bytes, StyleRuns(static_cast<int>(bytes.size()), style));
     GoToStart();
 }
 
 void RichTextBox::GoToStart() {
-    MoveCaret(0);
+    editing_.MoveCaret(0);
     caretMovedByEdit_ = false;
 }
 
+int RichTextBox::TextLength() const {
+    return buffer_.Length();
+}
+
 QString RichTextBox::TextRange(int start, int length) const {
-    const int all = TextLength();
-    const int from = std::clamp(start, 0, all);
-    const int to = static_cast<int>(std::clamp<qint64>(qint64{start} + length, from, all));
-    return TextOf({ByteFromChar(from), ByteFromChar(to)});
+    return buffer_.Text(buffer_.FromChars(start, qint64{start} + length));
 }
 
 QChar RichTextBox::CharAt(int position) const {
     if (position < 0 || position >= TextLength())
         return QChar();
-    const int byte = ByteFromChar(position);
-    const QString one = TextOf({byte, static_cast<int>(Sci(SCI_POSITIONRELATIVE, byte, 1))});
+    const QString one = buffer_.Text(buffer_.CharacterAt(buffer_.ByteFromChar(position)));
     return one.isEmpty() ? QChar() : one[0];
 }
 
 ColorNumber RichTextBox::ColorAt(int position) const {
     if (position < 0 || position >= TextLength())
         return -1;
-    return styles_.ColorOf(StyleAt(ByteFromChar(position)));
+    return colors_.ColorOf(colors_.StyleAt(buffer_.ByteFromChar(position)));
 }
 
 int RichTextBox::SelStart() const {
-    return CharFromByte(Selection().start);
+    return buffer_.CharFromByte(editing_.Selection().start);
 }
 
 void RichTextBox::SetSelStart(int position) {
     if (position < 0)
         return;
     const Settling settling(*this);
-    MoveCaret(ByteFromChar(std::min(position, TextLength())));
+    editing_.MoveCaret(buffer_.ByteFromChar(position));
 }
 
 int RichTextBox::SelLength() const {
-    const ByteRange range = Selection();
-    return range.Empty() ? 0 : CharFromByte(range.end) - CharFromByte(range.start);
+    const ByteRange range = editing_.Selection();
+    return range.Empty() ? 0 : buffer_.CharFromByte(range.end) - buffer_.CharFromByte(range.start);
 }
 
 void RichTextBox::SetSelLength(int length) {
     if (length < 0)
         return;
     const Settling settling(*this);
-    const int start = Selection().start;
-    const qint64 end = qint64{CharFromByte(start)} + length;
-    Select(start, ByteFromChar(static_cast<int>(std::min<qint64>(end, TextLength()))));
+    const int start = SelStart();
+    const ByteRange range = buffer_.FromChars(start, qint64{start} + length);
+    editing_.Select(range.start, range.end);
 }
 
 QString RichTextBox::SelText() const {
-    return TextOf(Selection());
+    return buffer_.Text(editing_.Selection());
 }
 
 void RichTextBox::SetSelText(const QString& text) {
     const Settling settling(*this);
-    ReplaceSelection(text.toUtf8());
+    editing_.ReplaceSelection(text.toUtf8());
 }
 
 ColorNumber RichTextBox::SelColor() const {
-    return styles_.ColorOf(StyleAtCaret());
+    return colors_.ColorOf(colors_.StyleAtCaret(editing_.Selection()));
 }
 
 void RichTextBox::SetSelColor(ColorNumber color) {
     const Settling settling(*this);
-    const int style = StyleFor(color);
-    const ByteRange range = Selection();
+    const int style = colors_.StyleFor(color);
+    const ByteRange range = editing_.Selection();
     if (range.Empty()) {
-        typingStyle_ = style;
-        typingCaret_ = range.start;
+        colors_.KeepForTyping(style, range.start);
     } else {
-        SetStyles(range.start, StyleRuns(range.end - range.start, style));
+        colors_.SetStyles(range.start, StyleRuns(range.Length(), style));
         changed_ = true;
     }
+}
+
+void RichTextBox::SetSelRTF(const QString& rtf) {
+    const Settling settling(*this);
+    ReplaceByRtf(editing_.Selection(), rtf);
+}
+
+QString RichTextBox::SelRTF() const {
+    return WriteRtf(buffer_, colors_, editing_.Selection());
+}
+
+void RichTextBox::SetTextRTF(const QString& rtf) {
+    const Settling settling(*this);
+    ReplaceByRtf(buffer_.Whole(), rtf);
+    GoToStart();
+}
+
+QString RichTextBox::TextRTF() const {
+    return WriteRtf(buffer_, colors_, buffer_.Whole());
+}
+
+void RichTextBox::ReplaceByRtf(ByteRange range, const QString& rtf) {
+    const RtfText content = ReadRtf(rtf, rawLineEnds_);
+    StyleRuns styles;
+    for (const RtfRun& run : content.runs)
+        styles.Append(run.length, colors_.StyleFor(run.color));
+    editing_.Replace(range, content.text, styles);
+    colors_.ForgetTyping();
 }
 
 int RichTextBox::RightMargin() const {
@@ -221,7 +254,46 @@ void RichTextBox::SetFocus() {
 }
 
 int RichTextBox::GetLineFromChar(int position) const {
-    return static_cast<int>(Sci(SCI_LINEFROMPOSITION, ByteFromChar(std::clamp(position, 0, TextLength()))));
+    return buffer_.LineOf(buffer_.ByteFromChar(std::max(position, 0)));
+}
+
+int RichTextBox::LineStart(int position) const {
+    return buffer_.CharFromByte(buffer_.LineStart(GetLineFromChar(position)));
+}
+
+int RichTextBox::NextLineStart(int position) const {
+    const int line = GetLineFromChar(position);
+    return line + 1 < buffer_.LineCount() ? buffer_.CharFromByte(buffer_.LineStart(line + 1)) : TextLength();
+}
+
+int RichTextBox::Find(const QString& text, std::optional<int> start, std::optional<int> end, int options) {
+    if (text.isEmpty())
+        return -1;
+    const Settling settling(*this);
+    ByteRange range = editing_.Selection();
+    if (start || end) {
+        if (start)
+            range.start = buffer_.ByteFromChar(std::max(*start, 0));
+        range.end = end ? buffer_.ByteFromChar(std::max(*end, 0)) : buffer_.Bytes();
+    } else if (range.Empty()) {
+        range = buffer_.Whole();
+    }
+    const std::optional<ByteRange> match = search_.Forward(text, range, options);
+    if (!match)
+        return -1;
+    editing_.Select(match->start, match->end);
+    return buffer_.CharFromByte(match->start);
+}
+
+int RichTextBox::FindForward(QChar character, int from) const {
+    const ByteRange range = buffer_.FromChars(from, TextLength());
+    const std::optional<ByteRange> match = search_.Forward(QString(character), range, MatchCase);
+    return match ? buffer_.CharFromByte(match->start) : -1;
+}
+
+int RichTextBox::FindBackward(QChar character, int before) const {
+    const std::optional<int> byte = search_.Backward(character, buffer_.ByteFromChar(std::max(before, 0)));
+    return byte ? buffer_.CharFromByte(*byte) : -1;
 }
 
 int RichTextBox::Send(Message message) {
@@ -233,13 +305,13 @@ int RichTextBox::Send(Message message) {
         Sci(SCI_UNDO);
         break;
     case Message::Cut:
-        Cut();
+        Sci(SCI_CUT);
         break;
     case Message::Copy:
         Sci(SCI_COPY);
         break;
     case Message::Paste:
-        Paste();
+        editing_.PasteFrom(QApplication::clipboard()->mimeData());
         break;
     case Message::LeftButtonUp:
         ReleaseLeftButton();
@@ -252,48 +324,64 @@ int RichTextBox::Send(Message message) {
 
 void RichTextBox::EmptyUndoBuffer() {
     Sci(SCI_EMPTYUNDOBUFFER);
-    undoColors_.Clear();
+    colors_.ForgetUndo();
 }
 
 QString RichTextBox::LineEnd() const {
-    if (Sci(SCI_GETLINECOUNT) < 2)
-        return QStringLiteral("\r\n");
-    return TextOf(
-        {static_cast<int>(Sci(SCI_GETLINEENDPOSITION, 0)), static_cast<int>(Sci(SCI_POSITIONFROMLINE, 1))});
+    return buffer_.LineEnd();
+}
+
+void RichTextBox::InsertForeign(const QString& text) {
+    const Settling settling(*this);
+    editing_.ReplaceSelection(editing_.Incorporate(text));
+}
+
+int RichTextBox::FormatRange(bool draw, QPainter& painter, const QRectF& page, int from) {
+    return TextPrinter(buffer_, colors_, font_).FormatRange(draw, painter, page, from);
 }
 
 int RichTextBox::LineHeight() const {
     return static_cast<int>(Sci(SCI_TEXTHEIGHT, 0));
 }
 
+int RichTextBox::CaretPosition() const {
+    return buffer_.CharFromByte(editing_.Caret());
+}
+
+QPoint RichTextBox::PixelOfByte(int byte) const {
+    return {static_cast<int>(Sci(SCI_POINTXFROMPOSITION, 0, byte)),
+            static_cast<int>(Sci(SCI_POINTYFROMPOSITION, 0, byte))};
+}
+
+QPoint RichTextBox::CaretPixel() const {
+    return PixelOfByte(editing_.Caret());
+}
+
+QRect RichTextBox::CharacterRect(int position) const {
+    const ByteRange character = buffer_.CharacterAt(buffer_.ByteFromChar(std::max(position, 0)));
+    const QPoint here = PixelOfByte(character.start);
+    const QPoint next = PixelOfByte(character.end);
+    // The last character of a line is followed by one on the next line.
+    const int width = next.y() == here.y() ? next.x() - here.x() : 1;
+    return {here, QSize(std::max(width, 1), LineHeight())};
+}
+
+int RichTextBox::PositionAt(QPoint pixel) const {
+    return buffer_.CharFromByte(static_cast<int>(Sci(SCI_CHARPOSITIONFROMPOINT, pixel.x(), pixel.y())));
+}
+
+void RichTextBox::ScrollTo(int start, int end) {
+    Sci(SCI_SCROLLRANGE, buffer_.ByteFromChar(std::max(end, 0)), buffer_.ByteFromChar(std::max(start, 0)));
+}
+
 RichTextBox::PaintHold::PaintHold(RichTextBox& box) : box_(box) {
+    box_.editing_.HoldScrolling();
     if (box_.holds_++ == 0)
         box_.setUpdatesEnabled(false);
 }
 
 RichTextBox::PaintHold::~PaintHold() {
-    if (--box_.holds_ > 0)
-        return;
-    if (std::exchange(box_.caretMovedInHold_, false))
-        box_.ShowCaret();
-    box_.setUpdatesEnabled(true);
-}
-
-void RichTextBox::Replace(ByteRange range, const QByteArray& text, const StyleRuns& styles) {
-    if (range.Empty() && text.isEmpty())
-        return;
-    TakeIncoming();
-    {
-        const UndoAction step(*this);
-        if (!text.isEmpty())
-            nextStyles_ = styles;
-        Sci(SCI_SETTARGETRANGE, range.start, range.end);
-        SendScintilla(SCI_REPLACETARGET, static_cast<unsigned long>(text.size()), text.constData());
-    }
-    TakeIncoming();
-    MoveCaret(range.start + static_cast<int>(text.size()));
-}
-
-void RichTextBox::ReplaceSelection(const QByteArray& text) {
-    Replace(Selection(), text, StyleRuns(static_cast<int>(text.size()), StyleAtCaret()));
+    box_.editing_.ReleaseScrolling();
+    if (--box_.holds_ == 0)
+        box_.setUpdatesEnabled(true);
 }

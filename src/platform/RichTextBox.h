@@ -1,35 +1,32 @@
 // The text control of a document: plain text, one colour per character, and the events of typing.
 #pragma once
 
-#include "platform/ColorNumber.h"
-#include "platform/RichTextColors.h"
-#include "platform/TextStretches.h"
+#include "platform/AccessibleText.h"
+#include "platform/AssistantNews.h"
+#include "platform/InputMethod.h"
+#include "platform/KeyInput.h"
+#include "platform/TextBuffer.h"
+#include "platform/TextColors.h"
+#include "platform/TextEditing.h"
+#include "platform/TextSearch.h"
 
 #include <optional>
-#include <QByteArray>
 #include <Qsci/qsciscintillabase.h>
 #include <QString>
-#include <QTextLayout>
 #include <utility>
-#include <vector>
 
-class QAccessibleEvent;
 class QPainter;
 class QRectF;
+enum class RawLineEnds;
 
-/// How the bytes 13 and 10 standing raw in an RTF text are taken.
-enum class RawLineEnds {
-    Skip, ///< white space, as RTF has it: they vanish
-    Keep  ///< text: no file loses its lines where text files end lines with a bare LF
-};
-
-/// The rich-text control. Text is a QString whose characters are all of code page 1252, so that one character
-/// is one byte of the file; positions count characters from 0, and a CR and an LF are one each.
+/// The rich-text control: the face of the classes that it is made of. Text is a QString whose characters are
+/// all of code page 1252, so that one character is one byte of the file; positions count characters from 0,
+/// and a CR and an LF are one each.
 ///
 /// Every assignment (`Text`, `SelText`, `SelRTF`) is one undo step, and undo and redo bring the colours back.
 /// Signals come after the event or call that caused them is complete, in the order Change, SelChange; one
 /// Change for one event or call, however many steps it took.
-class RichTextBox : public QsciScintillaBase {
+class RichTextBox : public QsciScintillaBase, public AccessibleText {
     Q_OBJECT
     Q_PROPERTY(QString Text READ Text WRITE SetText)
     Q_PROPERTY(int SelStart READ SelStart WRITE SetSelStart)
@@ -48,7 +45,9 @@ class RichTextBox : public QsciScintillaBase {
     enum class Message { CanUndo = 198, LeftButtonUp = 514, Cut = 768, Copy = 769, Paste = 770, Undo = 772 };
 
     /// Options of Find, combined by OR.
-    enum FindOption { WholeWord = 2, MatchCase = 4 };
+    using FindOption = TextSearch::Option;
+    static constexpr FindOption WholeWord = TextSearch::WholeWord;
+    static constexpr FindOption MatchCase = TextSearch::MatchCase;
 
     explicit RichTextBox(QWidget* parent = nullptr);
     ~RichTextBox() override;
@@ -57,22 +56,22 @@ class RichTextBox : public QsciScintillaBase {
     QString Text() const;
     void SetText(const QString& text);
     /// The number of characters of the text, without fetching it.
-    int TextLength() const;
+    int TextLength() const override;
     /// The characters [start, start + length), cut to what there is; never fetches more of the text.
-    QString TextRange(int start, int length) const;
+    QString TextRange(int start, int length) const override;
     /// The character at a position, or a null QChar outside the text. Constant time.
     QChar CharAt(int position) const;
     /// The colour of the character at a position (0-based), or -1 outside the text.
-    ColorNumber ColorAt(int position) const;
+    ColorNumber ColorAt(int position) const override;
 
     /// The start of the selection, or the caret. Assigning takes the selection away and moves the caret
     /// there; a value behind the text's end is cut to it, a negative one is refused: nothing changes.
-    int SelStart() const;
-    void SetSelStart(int position);
+    int SelStart() const override;
+    void SetSelStart(int position) override;
     /// The selection's length. Assigning keeps SelStart, and puts the caret behind the selection; a negative
     /// value is refused: nothing changes.
-    int SelLength() const;
-    void SetSelLength(int length);
+    int SelLength() const override;
+    void SetSelLength(int length) override;
     /// The selected text. Assigning replaces the selection, in the colour at the caret, and leaves the caret
     /// behind the new text with nothing selected.
     QString SelText() const;
@@ -97,12 +96,12 @@ class RichTextBox : public QsciScintillaBase {
     /// 0 wraps lines at the window's edge; any other value, in twips, is a right margin far away: no wrap.
     int RightMargin() const;
     void SetRightMargin(int twips);
-    ColorNumber BackColor() const;
+    ColorNumber BackColor() const override;
     void SetBackColor(ColorNumber color);
-    QFont Font() const;
+    QFont Font() const override;
     void SetFont(const QFont& font);
     /// While off, keys, mouse and drops change nothing; the focus stays where it is.
-    bool Enabled() const;
+    bool Enabled() const override;
     void SetEnabled(bool enabled);
     void SetFocus();
 
@@ -137,18 +136,21 @@ class RichTextBox : public QsciScintillaBase {
     /// The height of a line, in pixels.
     int LineHeight() const;
     /// The caret: the end of the selection that keys move.
-    int CaretPosition() const;
+    int CaretPosition() const override;
     /// Where the line of a position starts, and where the next one does (the text's end for the last).
-    int LineStart(int position) const;
-    int NextLineStart(int position) const;
+    int LineStart(int position) const override;
+    int NextLineStart(int position) const override;
     /// A character's place and the character nearest to a place, in pixels of the viewport.
-    QRect CharacterRect(int position) const;
-    int PositionAt(QPoint pixel) const;
+    QRect CharacterRect(int position) const override;
+    int PositionAt(QPoint pixel) const override;
     /// Brings a stretch of the text into view; the caret stays.
-    void ScrollTo(int start, int end);
+    void ScrollTo(int start, int end) override;
     /// Replaces the selection as pasting does: characters that a document can't hold become references, line
     /// ends become the document's.
-    void InsertForeign(const QString& text);
+    void InsertForeign(const QString& text) override;
+
+    /// What assistive technology is told.
+    AssistantNews& News() { return news_; }
 
     /// Painting waits while a hold lives: what others know as hiding the control during a write. So does
     /// scrolling: only where the caret stands at the end is brought into view, since each look at a place
@@ -202,32 +204,8 @@ class RichTextBox : public QsciScintillaBase {
     bool canInsertFromMimeData(const QMimeData* source) const override;
     QByteArray fromMimeData(const QMimeData* source, bool& rectangular) const override;
     QMimeData* toMimeData(const QByteArray& text, bool rectangular) const override;
-    /// Whether assistive technology listens; without it nothing is gathered for it.
-    virtual bool HasAssistants() const;
-    virtual void TellAssistants(QAccessibleEvent& event) const;
 
   private:
-    /// Positions in bytes of the UTF-8 text, as the base class counts them.
-    struct ByteRange {
-        int start;
-        int end;
-        bool Empty() const { return start == end; }
-        bool operator==(const ByteRange&) const = default;
-    };
-    /// Text that the base class has announced and not yet been seen to hold, with the colours it is to have;
-    /// of no length where text is going away.
-    struct Incoming {
-        int start;
-        int length;
-        StyleRuns styles;
-    };
-
-    struct TextChange {
-        bool inserted;
-        int position;
-        QString text;
-    };
-
     /// Around every call and event that may change something: when the outermost ends, the box settles.
     class Settling {
       public:
@@ -242,52 +220,14 @@ class RichTextBox : public QsciScintillaBase {
         int outer_;
     };
 
-    class PrintPage;
-
     long Sci(unsigned int message, long wParam = 0, long lParam = 0) const;
     void SetUp();
     void ApplyStyles();
     void ApplyPalette();
 
-    int ByteLength() const;
-    bool IsAscii() const;
-    /// Brings the index of characters by line up to date; whoever asks it must call this first.
-    void FreshenIndex() const;
-    int CharFromByte(int byte) const;
-    int ByteFromChar(int position) const;
-    QByteArray Bytes(int start, int end) const;
-    /// The same without a copy; for as long as nothing is asked of the base class that changes the text.
-    QByteArrayView BytesInPlace(int start, int end) const;
-    QString TextOf(ByteRange range) const;
-    QPoint PixelOfByte(long byte) const;
-    ByteRange Selection() const;
-    void Select(int anchorByte, int caretByte);
-    /// Takes the selection away.
-    void MoveCaret(int byte);
-    void ShowCaret();
-
-    int StyleFor(ColorNumber color);
-    int StyleAt(int byte) const;
-    int StyleBefore(int byte) const;
-    int StyleAtCaret() const;
-    StyleRuns StylesOf(int start, int length) const;
-    CellText CellsOf(int start, int end) const;
-    void SetStyles(int start, const StyleRuns& styles);
-    /// Gives a style its colour on the screen.
-    void ShowStyle(int style);
-    /// Keeps stretches short where an edit made two of them meet.
-    void MendStretches(int seam);
-
     void Settle();
     void TakeIncoming();
-    void CountInsertion(int start, QByteArrayView text);
-    void CountDeletion(int start, int length);
-    void NoteSeam(long left, long right);
-    void HoldTypingStyle();
     void BeforeModification(int position, int type, int length);
-    void BeforeInsertion(int position, int type, int length);
-    void BeforeDeletion(int position, int type, int length);
-    void TellOfChanges(bool caretMoved);
     /// Carries out a handler of another object: it meets a settled box, and its own calls settle by
     /// themselves.
     template <typename Handler> void Outside(Handler handler) {
@@ -297,32 +237,23 @@ class RichTextBox : public QsciScintillaBase {
         depth_ = depth;
     }
 
-    /// Replaces a stretch as one undo step; the caret stands behind what came in.
-    void Replace(ByteRange range, const QByteArray& text, const StyleRuns& styles);
-    void ReplaceSelection(const QByteArray& text);
     void ReplaceByRtf(ByteRange range, const QString& rtf);
-    QString RtfOf(ByteRange range) const;
     /// Puts the caret at the text's start, as every assignment of the whole text does.
     void GoToStart();
-    /// Text coming from outside, in the document's line ends and characters.
-    QByteArray Incorporate(const QString& text) const;
+    QPoint PixelOfByte(int byte) const;
 
-    void PressKey(QKeyEvent* event);
-    bool RunEditingKey(int key, Qt::KeyboardModifiers modifiers);
-    void TypeText(const QString& text);
-    void TypeCode(int code, bool controlTypes);
-    void Type(const QByteArray& text);
-    void Cut();
-    void Paste();
-    void PasteFrom(const QMimeData* source);
     void PastePrimarySelection(QPoint at);
     void ReleaseLeftButton();
     /// A mouse event as the base class may see it.
     QMouseEvent ForBase(const QMouseEvent& event);
-    int FindBytes(const QString& text, ByteRange range, int options) const;
-    bool IsWholeWord(const QString& text, int start, int end) const;
-    QVector<QTextLayout::FormatRange> PrintColors(int startByte, const QString& text) const;
-    void SetPreedit(const QString& text);
+
+    TextBuffer buffer_{*this};
+    TextColors colors_{*this, buffer_};
+    TextSearch search_{buffer_};
+    TextEditing editing_{*this, buffer_, colors_};
+    KeyInput keys_;
+    InputMethod inputMethod_;
+    AssistantNews news_{*this};
 
     QFont font_;
     ColorNumber backColor_ = 0xffffff;
@@ -330,27 +261,11 @@ class RichTextBox : public QsciScintillaBase {
     RawLineEnds rawLineEnds_;
     bool enabled_ = true;
     int holds_ = 0;
-    bool caretMovedInHold_ = false;
-    QString preedit_;
     QPointF lastMouse_;
-
-    StyleTable styles_;
-    UndoColors undoColors_;
-    std::optional<Incoming> incoming_;
-    /// The colours of the next insertion, where it is not that of its place.
-    std::optional<StyleRuns> nextStyles_;
-    std::optional<int> typingStyle_;
-    int typingCaret_ = 0;
-
-    int length_ = 0; ///< of the text, in characters
-    /// The base class loses count where an edit takes a CR and its LF apart or joins them.
-    mutable bool indexIsStale_ = false;
 
     int depth_ = 0;
     bool changed_ = false;
     bool caretMovedByEdit_ = false;
-    /// What was inserted and deleted since assistive technology was last told; empty while there is none.
-    std::vector<TextChange> untold_;
     ByteRange lastSelection_{0, 0};
     int lastSelStart_ = 0;
     int lastSelLength_ = 0;

@@ -1,11 +1,17 @@
 // Turns an RTF text into plain text and the colours of its stretches.
 #pragma once
 
-#include "platform/RichTextBox.h"
+#include "platform/ColorNumber.h"
 
 #include <QByteArray>
 #include <QString>
 #include <vector>
+
+/// How the bytes 13 and 10 standing raw in an RTF text are taken.
+enum class RawLineEnds {
+    Skip, ///< white space, as RTF has it: they vanish
+    Keep  ///< text: no file loses its lines where text files end lines with a bare LF
+};
 
 struct RtfRun {
     int length;        ///< in bytes

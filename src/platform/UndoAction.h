@@ -1,25 +1,24 @@
 // Several steps on a text that are one act of the user: undo takes them back together.
 #pragma once
 
-#include "platform/RichTextBox.h"
-
 #include <QPointer>
+#include <Qsci/qsciscintillabase.h>
 
 /// All changes of a text control from its construction to its destruction are one undo step. Guards within
 /// guards are one step too. Nothing may wait for the user meanwhile, and none of the changes may be an undo.
 class UndoAction {
   public:
-    explicit UndoAction(RichTextBox& box) : box_(&box) {
-        box.SendScintilla(QsciScintillaBase::SCI_BEGINUNDOACTION);
+    explicit UndoAction(QsciScintillaBase& control) : control_(&control) {
+        control.SendScintilla(QsciScintillaBase::SCI_BEGINUNDOACTION);
     }
     /// A control that has gone meanwhile took its steps with it.
     ~UndoAction() {
-        if (box_)
-            box_->SendScintilla(QsciScintillaBase::SCI_ENDUNDOACTION);
+        if (control_)
+            control_->SendScintilla(QsciScintillaBase::SCI_ENDUNDOACTION);
     }
     UndoAction(const UndoAction&) = delete;
     UndoAction& operator=(const UndoAction&) = delete;
 
   private:
-    QPointer<RichTextBox> box_;
+    QPointer<QsciScintillaBase> control_;
 };

@@ -2,6 +2,7 @@
 #include "editor/WriteColoredText.h"
 
 #include "editor/EditorState.h"
+#include "platform/RtfReader.h"
 #include "support/TestFrame.h"
 
 #include <gtest/gtest.h>

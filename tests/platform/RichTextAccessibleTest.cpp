@@ -12,12 +12,14 @@ using namespace Qt::StringLiterals;
 /// Records what a screen reader would be told, in the order of telling.
 class WatchedBox final : public RichTextBox {
   public:
+    WatchedBox() {
+        News().hears = [this](QAccessibleEvent& event) { Hear(event); };
+    }
+
     QStringList Told() { return std::exchange(told_, {}); }
 
-  protected:
-    bool HasAssistants() const override { return true; }
-
-    void TellAssistants(QAccessibleEvent& event) const override {
+  private:
+    void Hear(QAccessibleEvent& event) {
         if (event.type() == QAccessible::TextInserted) {
             const auto& inserted = static_cast<QAccessibleTextInsertEvent&>(event);
             told_ << u"inserted %1 %2"_s.arg(inserted.changePosition()).arg(inserted.textInserted());
@@ -33,8 +35,7 @@ class WatchedBox final : public RichTextBox {
         }
     }
 
-  private:
-    mutable QStringList told_;
+    QStringList told_;
 };
 
 class RichTextAccessibleTest : public RichTextFixture {

@@ -1,6 +1,8 @@
 // One colour a character: what sets it, what text takes it, how it is shown.
 #include "platform/RichTextFixture.h"
 
+#include "platform/RtfReader.h"
+
 #include <functional>
 #include <QScrollBar>
 

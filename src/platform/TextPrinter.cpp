@@ -1,9 +1,9 @@
-// The text control: drawing the text on pages.
-#include "platform/RichTextBox.h"
+#include "platform/TextPrinter.h"
+
+#include "platform/TextColors.h"
 
 #include <algorithm>
 #include <QPainter>
-#include <QTextLayout>
 
 namespace {
 
@@ -16,28 +16,8 @@ QString WithoutLineEnd(QString text) {
     return text;
 }
 
-} // namespace
-
-QVector<QTextLayout::FormatRange> RichTextBox::PrintColors(int startByte, const QString& text) const {
-    QVector<QTextLayout::FormatRange> formats;
-    const QByteArray bytes = text.toUtf8();
-    const StyleRuns styles = StylesOf(startByte, static_cast<int>(bytes.size()));
-    qsizetype from = 0;
-    int character = 0;
-    for (std::size_t run = 0; run < styles.Count(); ++run) {
-        QTextLayout::FormatRange format;
-        format.start = character;
-        format.length = static_cast<int>(QString::fromUtf8(bytes.mid(from, styles.LengthOf(run))).size());
-        format.format.setForeground(ToQColor(styles_.ColorOf(styles.StyleOf(run))));
-        formats.push_back(format);
-        from += styles.LengthOf(run);
-        character += format.length;
-    }
-    return formats;
-}
-
 /// The rows of a page as it fills from the top.
-class RichTextBox::PrintPage {
+class PrintPage {
   public:
     PrintPage(QPainter& painter, const QRectF& page, bool draw)
         : painter_(painter), page_(page), draw_(draw) {}
@@ -85,21 +65,48 @@ class RichTextBox::PrintPage {
     bool full_ = false;
 };
 
-int RichTextBox::FormatRange(bool draw, QPainter& painter, const QRectF& page, int from) {
+} // namespace
+
+QVector<QTextLayout::FormatRange> TextPrinter::Colors(int startByte, const QString& text) const {
+    QVector<QTextLayout::FormatRange> formats;
+    const QByteArray bytes = text.toUtf8();
+    const StyleRuns styles = colors_.StylesOf({startByte, startByte + static_cast<int>(bytes.size())});
+    qsizetype from = 0;
+    int character = 0;
+    for (std::size_t run = 0; run < styles.Count(); ++run) {
+        QTextLayout::FormatRange format;
+        format.start = character;
+        format.length = static_cast<int>(QString::fromUtf8(bytes.mid(from, styles.LengthOf(run))).size());
+        format.format.setForeground(ToQColor(colors_.ColorOf(styles.StyleOf(run))));
+        formats.push_back(format);
+        from += styles.LengthOf(run);
+        character += format.length;
+    }
+    return formats;
+}
+
+int TextPrinter::NextLine(int position) const {
+    const int line = buffer_.LineOf(buffer_.ByteFromChar(position));
+    return line + 1 < buffer_.LineCount() ? buffer_.CharFromByte(buffer_.LineStart(line + 1))
+                                          : buffer_.Length();
+}
+
+int TextPrinter::FormatRange(bool draw, QPainter& painter, const QRectF& page, int from) const {
     QTextOption option(Qt::AlignLeft | Qt::AlignTop);
     option.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
     option.setTabStopDistance(8 * QFontMetricsF(font_, painter.device()).horizontalAdvance(QLatin1Char(' ')));
     PrintPage sheet(painter, page, draw);
-    const int length = TextLength();
+    const int length = buffer_.Length();
     int position = std::clamp(from, 0, length);
     while (position < length) {
-        const int nextLine = NextLineStart(position);
+        const int nextLine = NextLine(position);
         const bool goesOn = nextLine - position > longestStretch;
-        const QString stretch = TextRange(position, std::min(nextLine - position, longestStretch));
+        const ByteRange range = buffer_.FromChars(position, std::min(nextLine, position + longestStretch));
+        const QString stretch = buffer_.Text(range);
         const QString text = goesOn ? stretch : WithoutLineEnd(stretch);
         QTextLayout layout(text, font_, painter.device());
         layout.setTextOption(option);
-        layout.setFormats(PrintColors(ByteFromChar(position), text));
+        layout.setFormats(Colors(range.start, text));
         const int set = sheet.Fill(layout, goesOn);
         if (sheet.IsFull())
             return position + set;

@@ -56,9 +56,9 @@ void RichTextBox::PastePrimarySelection(QPoint at) {
     const QMimeData* source = clipboard->mimeData(QClipboard::Selection);
     if (!source || !source->hasText())
         return;
-    const QByteArray text = Incorporate(source->text());
+    const QByteArray text = editing_.Incorporate(source->text());
     Sci(SCI_SETEMPTYSELECTION, Sci(SCI_POSITIONFROMPOINT, at.x(), at.y()));
-    ReplaceSelection(text);
+    editing_.ReplaceSelection(text);
 }
 
 void RichTextBox::mouseMoveEvent(QMouseEvent* event) {
@@ -138,7 +138,7 @@ QByteArray RichTextBox::fromMimeData(const QMimeData* source, bool& rectangular)
     Sci(SCI_SETEOLMODE, end == QStringLiteral("\r\n") ? SC_EOL_CRLF
                         : end == QStringLiteral("\r") ? SC_EOL_CR
                                                       : SC_EOL_LF);
-    return Incorporate(source->text());
+    return editing_.Incorporate(source->text());
 }
 
 QMimeData* RichTextBox::toMimeData(const QByteArray& text, bool) const {

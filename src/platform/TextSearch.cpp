@@ -1,8 +1,11 @@
-// The text control: searching, over the text as it lies in the buffer and no further than needed.
-#include "platform/RichTextBox.h"
+#include "platform/TextSearch.h"
+
+#include "platform/TextBuffer.h"
 
 #include <algorithm>
 #include <array>
+#include <QByteArray>
+#include <vector>
 
 namespace {
 
@@ -79,18 +82,20 @@ bool IsWordCharacter(QChar c) {
 
 } // namespace
 
-int RichTextBox::FindBytes(const QString& text, ByteRange range, int options) const {
+std::optional<ByteRange> TextSearch::Forward(const QString& text, ByteRange range, int options) const {
     const Pattern pattern(text, (options & MatchCase) != 0);
     int from = range.start;
     int chunk = std::max(firstChunk, 2 * pattern.Size());
     while (range.end - from >= pattern.Size()) {
         const int to = static_cast<int>(std::min<qint64>(qint64{from} + chunk, range.end));
-        const QByteArray bytes = Bytes(from, to);
+        // A copy: looking at the characters around a match may move what lies in place.
+        const QByteArray bytes = buffer_.InPlace({from, to}).toByteArray();
         qsizetype found = pattern.IndexIn(bytes);
         while (found >= 0) {
             const int at = from + static_cast<int>(found);
-            if ((options & WholeWord) == 0 || IsWholeWord(text, at, at + pattern.Size()))
-                return at;
+            const ByteRange match{at, at + pattern.Size()};
+            if ((options & WholeWord) == 0 || IsWholeWord(text, match))
+                return match;
             const qsizetype next = pattern.IndexIn(QByteArrayView(bytes).sliced(found + 1));
             found = next < 0 ? next : found + 1 + next;
         }
@@ -99,12 +104,12 @@ int RichTextBox::FindBytes(const QString& text, ByteRange range, int options) co
         from = to - pattern.Size() + 1;
         chunk = std::max(std::min(2 * chunk, longestChunk), 2 * pattern.Size());
     }
-    return -1;
+    return std::nullopt;
 }
 
-bool RichTextBox::IsWholeWord(const QString& text, int start, int end) const {
-    const QString before = TextOf({static_cast<int>(Sci(SCI_POSITIONBEFORE, start)), start});
-    const QString behind = TextOf({end, static_cast<int>(Sci(SCI_POSITIONAFTER, end))});
+bool TextSearch::IsWholeWord(const QString& text, ByteRange match) const {
+    const QString before = buffer_.Text(buffer_.CharacterBefore(match.start));
+    const QString behind = buffer_.Text(buffer_.CharacterAt(match.end));
     const bool joinedBefore =
         !before.isEmpty() && IsWordCharacter(before.back()) && IsWordCharacter(text.front());
     const bool joinedBehind =
@@ -112,46 +117,21 @@ bool RichTextBox::IsWholeWord(const QString& text, int start, int end) const {
     return !joinedBefore && !joinedBehind;
 }
 
-int RichTextBox::Find(const QString& text, std::optional<int> start, std::optional<int> end, int options) {
-    if (text.isEmpty())
-        return -1;
-    const Settling settling(*this);
-    ByteRange range = Selection();
-    const int all = TextLength();
-    if (start || end) {
-        if (start)
-            range.start = ByteFromChar(std::clamp(*start, 0, all));
-        range.end = end ? ByteFromChar(std::clamp(*end, 0, all)) : ByteLength();
-    } else if (range.Empty()) {
-        range = {0, ByteLength()};
-    }
-    const int found = FindBytes(text, range, options);
-    if (found < 0)
-        return -1;
-    Select(found, found + static_cast<int>(text.toUtf8().size()));
-    return CharFromByte(found);
-}
-
-int RichTextBox::FindForward(QChar character, int from) const {
-    const int found = FindBytes(QString(character),
-                                {ByteFromChar(std::clamp(from, 0, TextLength())), ByteLength()}, MatchCase);
-    return found < 0 ? -1 : CharFromByte(found);
-}
-
-int RichTextBox::FindBackward(QChar character, int before) const {
+std::optional<int> TextSearch::Backward(QChar character, int beforeByte) const {
     const QByteArray wanted = QString(character).toUtf8();
-    int end = ByteFromChar(std::clamp(before, 0, TextLength()));
+    int end = beforeByte;
     int chunk = firstChunk;
     while (end > 0) {
         const int start = std::max(0, end - chunk);
-        const QByteArray bytes = Bytes(start, end);
+        // A copy: Qt's search from the back looks at the byte behind a view as well.
+        const QByteArray bytes = buffer_.InPlace({start, end}).toByteArray();
         // To look forward first costs a fraction, and most chunks of a text with few of them hold none.
         if (bytes.contains(wanted))
-            return CharFromByte(start + static_cast<int>(bytes.lastIndexOf(wanted)));
+            return start + static_cast<int>(bytes.lastIndexOf(wanted));
         if (start == 0)
             break;
         end = start + static_cast<int>(wanted.size()) - 1;
         chunk = std::min(2 * chunk, longestChunk);
     }
-    return -1;
+    return std::nullopt;
 }

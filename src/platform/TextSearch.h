@@ -1,0 +1,28 @@
+// Searching a text where it lies, and no further than needed.
+#pragma once
+
+#include <optional>
+#include <QChar>
+#include <QString>
+
+class TextBuffer;
+struct ByteRange;
+
+class TextSearch {
+  public:
+    /// Combined by OR.
+    enum Option { WholeWord = 2, MatchCase = 4 };
+
+    explicit TextSearch(const TextBuffer& buffer) : buffer_(buffer) {}
+
+    /// The first match that lies in the range whole. Case is ignored without MatchCase; with WholeWord no
+    /// letter, digit or "_" joins on to the match. The text must not be empty.
+    std::optional<ByteRange> Forward(const QString& text, ByteRange range, int options) const;
+    /// The byte of the last such character before a byte.
+    std::optional<int> Backward(QChar character, int beforeByte) const;
+
+  private:
+    bool IsWholeWord(const QString& text, ByteRange match) const;
+
+    const TextBuffer& buffer_;
+};
