@@ -2,6 +2,9 @@
 // back as the table says, and the command takes out the selected tag and nothing else.
 #include "builders/EditTag.h"
 #include "builders/EmbedTag.h"
+#include "builders/frmBody.h"
+#include "builders/frmEmbed.h"
+#include "builders/frmGraphicLink.h"
 #include "builders/ImageTag.h"
 #include "editor/TagEnds.h"
 #include "FuzzApplication.h"
@@ -74,8 +77,9 @@ void CheckCommand(const QString& text, int caret, const std::optional<TagPlace>&
     Demand(frame.Box().SelStart() == (place ? place->start : caret));
     Demand(frame.Box().SelLength() == (place && !cut ? place->length : 0));
     Demand(frame.prompts.asked.isEmpty());
-    for (const char* form : {"frmGraphicLink", "frmBody", "frmEmbed"})
-        frame.LoadedForms().Unload(QString::fromLatin1(form));
+    frame.LoadedForms().Unload<frmGraphicLink>();
+    frame.LoadedForms().Unload<frmBody>();
+    frame.LoadedForms().Unload<frmEmbed>();
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
 }
 

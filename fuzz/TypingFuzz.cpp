@@ -163,7 +163,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
     StartFuzzApplication();
     static TypingFrame& frame = *new TypingFrame;
 
-    frame.LoadedForms().Unload(frmDropDown::Name());
+    frame.LoadedForms().Unload<frmDropDown>();
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     frame.active->Timer1.stop();
     frame.Box().SetText(QString());

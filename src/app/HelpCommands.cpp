@@ -25,7 +25,6 @@ void ShowHelp(Frame& frame) {
 }
 
 void mnuAbout_Click(Frame& frame) {
-    frame.LoadedForms()
-        .Show<frmSplash>(QStringLiteral("frmSplash"), frame)
-        .SetMessage(QStringLiteral("See help file for Copyright,\nLicense and Warranty information."));
+    frame.LoadedForms().Show<frmSplash>(frame).SetMessage(
+        QStringLiteral("See help file for Copyright,\nLicense and Warranty information."));
 }

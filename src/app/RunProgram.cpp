@@ -75,7 +75,7 @@ void WaitUntilPainted(const QWidget& splash) {
 /// The start screen is only looked at: it must not take the focus, which the
 /// document needs when the frame is up.
 void ShowStartScreen(frmTarnwick& frame) {
-    auto& splash = frame.LoadedForms().Load<frmSplash>(QStringLiteral("frmSplash"), frame);
+    auto& splash = frame.LoadedForms().Load<frmSplash>(frame);
     splash.setAttribute(Qt::WA_ShowWithoutActivating);
     splash.setWindowFlag(Qt::WindowDoesNotAcceptFocus);
     splash.show();

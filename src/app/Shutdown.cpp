@@ -6,6 +6,7 @@
 #include "app/RecentFiles.h"
 #include "app/UserButtons.h"
 #include "dialogs/DialogState.h"
+#include "dialogs/frmImage.h"
 #include "editor/Document.h"
 #include "editor/EditorState.h"
 #include "editor/SpellChecker.h"
@@ -69,7 +70,8 @@ bool Shutdown::Run() {
 void Shutdown::UnloadForms() {
     for (const char* form : UnloadedForms()) {
         Watch(form);
-        frame_.LoadedForms().Unload(QString::fromLatin1(form));
+        if (QWidget* loaded = frame_.LoadedForms().Find(QString::fromLatin1(form)))
+            frame_.LoadedForms().Unload(*loaded);
     }
 }
 
@@ -162,7 +164,7 @@ void Shutdown::WriteUserButtons() {
 }
 
 void Shutdown::UnloadImageDialog() {
-    frame_.LoadedForms().Unload(u"frmImage"_s);
+    frame_.LoadedForms().Unload<frmImage>();
 }
 
 void Shutdown::Watch(const char* name) const {

@@ -117,7 +117,7 @@ void UserButtons::Command1_MouseDown(int index, int button) {
     if (button != rightButton)
         return;
     SetTag(QString::number(index));
-    frame_.LoadedForms().Show<frmTools>(QStringLiteral("frmTools"), frame_, *this);
+    frame_.LoadedForms().Show<frmTools>(frame_, *this);
 }
 
 // A right press edits the button; so do the keyboard's ways to a context menu.

@@ -26,7 +26,6 @@
 
 namespace {
 
-const QString formName = QStringLiteral("frmExternal");
 const QString programTitle = QStringLiteral("The Tarnwick");
 
 constexpr int noWrapTwips = 65000;
@@ -302,14 +301,14 @@ void frmExternal::reject() {
 }
 
 void frmExternal::Unload() {
-    frame_.LoadedForms().Unload(formName);
+    frame_.LoadedForms().Unload(*this);
 }
 
 void FillOptionsCommands(Frame& frame) {
     frame.Commands().Set(QStringLiteral("mnuWebBrowser"), [&frame] {
         // The dialog that is up already is modal: what asks again meanwhile waits no second time.
-        if (frame.LoadedForms().Find(formName))
+        if (frame.LoadedForms().Find<frmExternal>())
             return;
-        frame.LoadedForms().Load<frmExternal>(formName, frame).exec();
+        frame.LoadedForms().Load<frmExternal>(frame).exec();
     });
 }

@@ -51,7 +51,7 @@ void frmSplash::SetMessage(const QString& text) {
 }
 
 void frmSplash::Unload() {
-    frame_.LoadedForms().Unload(u"frmSplash"_s);
+    frame_.LoadedForms().Unload(*this);
 }
 
 void frmSplash::mousePressEvent(QMouseEvent* event) {

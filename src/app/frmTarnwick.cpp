@@ -7,6 +7,7 @@
 #include "app/FileCommands.h"
 #include "app/FileDrop.h"
 #include "app/frmExternal.h"
+#include "app/frmSplash.h"
 #include "app/frmTemplate.h"
 #include "app/HelpCommands.h"
 #include "app/LeaveByEscape.h"
@@ -304,7 +305,7 @@ void frmTarnwick::ComeToFront() {
 }
 
 void frmTarnwick::resizeEvent(QResizeEvent* event) {
-    forms_->Unload(u"frmSplash"_s);
+    forms_->Unload<frmSplash>();
     picture3_->TakeWidth(width());
     QMainWindow::resizeEvent(event);
 }

@@ -8,6 +8,7 @@
 #include "editor/EditorState.h"
 #include "editor/Forms.h"
 #include "editor/Frame.h"
+#include "editor/frmDropDown.h"
 #include "editor/Modes.h"
 #include "editor/TypingEngine.h"
 #include "editor/WriteColoredText.h"
@@ -135,7 +136,7 @@ void frmTemplate::SetCaption(const QString& path) {
 }
 
 MsgAnswer frmTemplate::AskAboutSaving() {
-    frame_.LoadedForms().Unload(u"frmDropDown"_s);
+    frame_.LoadedForms().Unload<frmDropDown>();
     if (!Modified())
         return MsgAnswer::Yes;
     // The question is about the window that a person sees on top, and saving works on the active one.
@@ -155,7 +156,8 @@ bool frmTemplate::Form_QueryUnload() {
     auto& program = frame_.State<ProgramState>();
     --program.DocumentCount;
     program.TemplateWindowState = StateDigit(*this);
-    frame_.LoadedForms().Unload(u"frmTime"_s);
+    if (QWidget* timer = frame_.LoadedForms().Find(u"frmTime"_s))
+        frame_.LoadedForms().Unload(*timer);
     return true;
 }
 

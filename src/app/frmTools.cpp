@@ -50,7 +50,7 @@ void frmTools::reject() {
 }
 
 void frmTools::Unload() {
-    frame_.LoadedForms().Unload(QStringLiteral("frmTools"));
+    frame_.LoadedForms().Unload(*this);
 }
 
 // A field selects its whole text when it gets the focus. The mouse sets the caret right after it gave the

@@ -18,25 +18,22 @@
 namespace {
 
 /// One form under all of its entries.
-template <typename Form>
-void Shows(Frame& frame, const char* form, std::initializer_list<const char*> entries) {
-    const QString name = QString::fromLatin1(form);
+template <typename Form> void Shows(Frame& frame, std::initializer_list<const char*> entries) {
     for (const char* entry : entries)
-        frame.Commands().Set(QString::fromLatin1(entry),
-                             [&frame, name] { frame.LoadedForms().Show<Form>(name, frame); });
+        frame.Commands().Set(QString::fromLatin1(entry), [&frame] { frame.LoadedForms().Show<Form>(frame); });
 }
 
 } // namespace
 
 void FillDialogCommands(Frame& frame) {
-    Shows<frmLinks>(frame, "frmLinks", {"mnuLink", "tb_link"});
-    Shows<frmGraphicLink>(frame, "frmGraphicLink", {"mnuImage", "tb_image"});
-    Shows<frmEmbed>(frame, "frmEmbed", {"mnuEmbed", "tb_embed"});
-    Shows<frmHRInput>(frame, "frmHRInput", {"mnuHR", "tb_hr"});
-    Shows<frmFont>(frame, "frmFont", {"tb_abc"});
-    Shows<frmBody>(frame, "frmBody", {"tb_body"});
-    Shows<frmJava>(frame, "frmJava", {"tb_java"});
-    Shows<frmParam>(frame, "frmParam", {"tb_java2"});
-    Shows<frmMulti>(frame, "frmMulti", {"tb_split"});
-    Shows<frmSpacer>(frame, "frmSpacer", {"tb_rectangle"});
+    Shows<frmLinks>(frame, {"mnuLink", "tb_link"});
+    Shows<frmGraphicLink>(frame, {"mnuImage", "tb_image"});
+    Shows<frmEmbed>(frame, {"mnuEmbed", "tb_embed"});
+    Shows<frmHRInput>(frame, {"mnuHR", "tb_hr"});
+    Shows<frmFont>(frame, {"tb_abc"});
+    Shows<frmBody>(frame, {"tb_body"});
+    Shows<frmJava>(frame, {"tb_java"});
+    Shows<frmParam>(frame, {"tb_java2"});
+    Shows<frmMulti>(frame, {"tb_split"});
+    Shows<frmSpacer>(frame, {"tb_rectangle"});
 }

@@ -14,9 +14,6 @@
 
 namespace {
 
-const QString ImageForm = QStringLiteral("frmGraphicLink");
-const QString BodyForm = QStringLiteral("frmBody");
-const QString EmbedForm = QStringLiteral("frmEmbed");
 
 void CutSelection(Frame& frame) {
     if (Document* document = frame.ActiveForm())
@@ -24,12 +21,12 @@ void CutSelection(Frame& frame) {
 }
 
 void FillImage(Frame& frame, const QString& tag) {
-    frame.LoadedForms().Show<frmGraphicLink>(ImageForm, frame).Take(ImageFieldsOf(tag));
+    frame.LoadedForms().Show<frmGraphicLink>(frame).Take(ImageFieldsOf(tag));
     CutSelection(frame);
 }
 
 void FillEmbed(Frame& frame, const QString& tag) {
-    frame.LoadedForms().Show<frmEmbed>(EmbedForm, frame).Take(EmbedFieldsOf(tag));
+    frame.LoadedForms().Show<frmEmbed>(frame).Take(EmbedFieldsOf(tag));
     CutSelection(frame);
 }
 
@@ -68,7 +65,7 @@ void FillTagDialog(Frame& frame, const QString& tag) {
         break;
     case TagKind::Body:
         // It reads the document by itself, and its OK finds the tag by itself.
-        frame.LoadedForms().Show<frmBody>(BodyForm, frame);
+        frame.LoadedForms().Show<frmBody>(frame);
         break;
     case TagKind::Embed:
         FillEmbed(frame, tag);

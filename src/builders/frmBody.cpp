@@ -32,7 +32,7 @@ void DeleteBodyTag(RichTextBox& txtInput) {
 
 frmBody::frmBody(Frame& frame) : TagDialog(frame), ui_(std::make_unique<Ui::frmBody>()) {
     ui_->setupUi(this);
-    Wire();
+    Wire(*ui_->cmdOK, *ui_->cmdCancel);
     QPushButton* const buttons[] = {ui_->cmdShowColor_0, ui_->cmdShowColor_1, ui_->cmdShowColor_2,
                                     ui_->cmdShowColor_3, ui_->cmdShowColor_4};
     for (int index = 0; index < ColorCount; ++index) {

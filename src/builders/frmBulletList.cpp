@@ -38,5 +38,5 @@ void frmBulletList::cmdOK_Click() {
 }
 
 void ShowBulletList(Frame& frame, const QString& kind) {
-    frame.LoadedForms().Show<frmBulletList>(QStringLiteral("frmBulletList"), frame).SetTag(kind);
+    frame.LoadedForms().Show<frmBulletList>(frame).SetTag(kind);
 }

@@ -9,7 +9,7 @@
 
 frmEmbed::frmEmbed(Frame& frame) : TagDialog(frame), ui_(std::make_unique<Ui::frmEmbed>()) {
     ui_->setupUi(this);
-    Wire();
+    Wire(*ui_->cmdOK, *ui_->cmdCancel);
     PrepareComboBoxes(*this);
     ShowBrowseIcon(ui_->cmdGetFle);
     ConvertSlashesOnClick(*ui_->chkForwardSlash, {ui_->txtURL});

@@ -11,7 +11,7 @@
 
 frmFont::frmFont(Frame& frame) : TagDialog(frame), ui_(std::make_unique<Ui::frmFont>()) {
     ui_->setupUi(this);
-    Wire();
+    Wire(*ui_->cmdOK, *ui_->cmdCancel);
     ui_->List1->addItems(FaceNames());
     PrepareComboBoxes(*this);
     ShowColorIcon(ui_->cmdShowColor, QString());

@@ -11,7 +11,7 @@
 frmGraphicLink::frmGraphicLink(Frame& frame)
     : TagDialog(frame), ui_(std::make_unique<Ui::frmGraphicLink>()), dialog_(frame) {
     ui_->setupUi(this);
-    Wire();
+    Wire(*ui_->cmdOK, *ui_->cmdCancel);
     PrepareComboBoxes(*this);
     for (QPushButton* button : {ui_->cmdPicOpen, ui_->cmdOpen2, ui_->cmdLinkMe})
         ShowBrowseIcon(button);

@@ -8,7 +8,7 @@
 
 frmHRInput::frmHRInput(Frame& frame) : TagDialog(frame), ui_(std::make_unique<Ui::frmHRInput>()) {
     ui_->setupUi(this);
-    Wire();
+    Wire(*ui_->cmdOK, *ui_->cmdCancel);
     ui_->cboThickInput->addItem(QString());
     for (int pixels = 1; pixels <= 99; ++pixels)
         ui_->cboThickInput->addItem(QString::number(pixels));

@@ -8,7 +8,7 @@
 
 frmJava::frmJava(Frame& frame) : TagDialog(frame), ui_(std::make_unique<Ui::frmJava>()) {
     ui_->setupUi(this);
-    Wire();
+    Wire(*ui_->cmdOK, *ui_->cmdCancel);
     ui_->cboAlign->addItems({QString(), QStringLiteral("LEFT"), QStringLiteral("RIGHT"),
                              QStringLiteral("TOP"), QStringLiteral("TEXTTOP"), QStringLiteral("ABSMIDDLE"),
                              QStringLiteral("BASELINE"), QStringLiteral("BOTTOM"),

@@ -9,7 +9,7 @@
 
 frmLinks::frmLinks(Frame& frame) : TagDialog(frame), ui_(std::make_unique<Ui::frmLinks>()), dialog_(frame) {
     ui_->setupUi(this);
-    Wire();
+    Wire(*ui_->cmdOK, *ui_->cmdCancel);
     ui_->cboChoice->addItems({QStringLiteral("http://"), QStringLiteral("ftp://"), QStringLiteral("mailto:"),
                               QStringLiteral("news:"), QStringLiteral("newsrc:"), QStringLiteral("telnet://"),
                               QStringLiteral("wais://"), QStringLiteral("gopher://")});

@@ -8,8 +8,7 @@
 
 frmMulti::frmMulti(Frame& frame) : TagDialog(frame), ui_(std::make_unique<Ui::frmMulti>()) {
     ui_->setupUi(this);
-    connect(ui_->Command1, &QPushButton::clicked, this, &frmMulti::cmdOK_Click);
-    connect(ui_->Command2, &QPushButton::clicked, this, &frmMulti::reject);
+    Wire(*ui_->Command1, *ui_->Command2);
 }
 
 frmMulti::~frmMulti() = default;

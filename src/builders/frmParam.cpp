@@ -8,7 +8,7 @@
 
 frmParam::frmParam(Frame& frame) : TagDialog(frame), ui_(std::make_unique<Ui::frmParam>()) {
     ui_->setupUi(this);
-    Wire();
+    Wire(*ui_->cmdOK, *ui_->cmdCancel);
 }
 
 frmParam::~frmParam() = default;

@@ -7,7 +7,7 @@
 
 frmSpacer::frmSpacer(Frame& frame) : TagDialog(frame), ui_(std::make_unique<Ui::frmSpacer>()) {
     ui_->setupUi(this);
-    Wire();
+    Wire(*ui_->cmdOK, *ui_->cmdCancel);
     PrepareComboBoxes(*this);
     connect(ui_->optHorz, &QRadioButton::clicked, this, &frmSpacer::optHorz_Click);
     connect(ui_->optVert, &QRadioButton::clicked, this, &frmSpacer::optVert_Click);

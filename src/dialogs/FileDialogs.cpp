@@ -12,12 +12,6 @@
 #include <QLineEdit>
 #include <utility>
 
-namespace {
-
-const QString PreviewForm = QStringLiteral("frmImage");
-
-} // namespace
-
 void FileDialog::SetFilter(const QString& filter, int index) {
     filter_ = filter;
     filterIndex_ = index;
@@ -42,15 +36,15 @@ std::optional<QString> FileDialog::ShowOpen(QWidget* owner, QWidget* panel,
 }
 
 PictureBrowse::PictureBrowse(Frame& frame) : frame_(frame) {
-    frame_.LoadedForms().Load<frmImage>(PreviewForm, frame_);
+    frame_.LoadedForms().Load<frmImage>(frame_);
 }
 
 PictureBrowse::~PictureBrowse() {
-    frame_.LoadedForms().Unload(PreviewForm);
+    frame_.LoadedForms().Unload<frmImage>();
 }
 
 std::optional<QString> PictureBrowse::Show(FileDialog& dialog, QWidget* owner) {
-    QWidget* panel = frame_.LoadedForms().Load<frmImage>(PreviewForm, frame_).Frame1();
+    QWidget* panel = frame_.LoadedForms().Load<frmImage>(frame_).Frame1();
     QString shown;
     const auto selectionChanged = [this, &shown](const QString& path) {
         shown = path;
@@ -64,7 +58,7 @@ std::optional<QString> PictureBrowse::Show(FileDialog& dialog, QWidget* owner) {
 }
 
 QSize PictureBrowse::PictureSize() const {
-    return frame_.LoadedForms().Load<frmImage>(PreviewForm, frame_).PictureSize();
+    return frame_.LoadedForms().Load<frmImage>(frame_).PictureSize();
 }
 
 std::optional<QString> FieldPath(Frame& frame, const QString& fullPath, bool absolute, bool forwardSlash) {

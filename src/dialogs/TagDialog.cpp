@@ -11,13 +11,10 @@ TagDialog::TagDialog(Frame& frame, QWidget* owner) : QDialog(owner ? owner : fra
 
 TagDialog::~TagDialog() = default;
 
-void TagDialog::Wire() {
-    if (auto* cmdOK = findChild<QPushButton*>(QStringLiteral("cmdOK"))) {
-        cmdOK->setDefault(true);
-        connect(cmdOK, &QPushButton::clicked, this, [this] { cmdOK_Click(); });
-    }
-    if (auto* cmdCancel = findChild<QPushButton*>(QStringLiteral("cmdCancel")))
-        connect(cmdCancel, &QPushButton::clicked, this, &TagDialog::reject);
+void TagDialog::Wire(QPushButton& ok, QPushButton& cancel) {
+    ok.setDefault(true);
+    connect(&ok, &QPushButton::clicked, this, [this] { cmdOK_Click(); });
+    connect(&cancel, &QPushButton::clicked, this, &TagDialog::reject);
 }
 
 void TagDialog::reject() {
@@ -29,7 +26,5 @@ void TagDialog::Insert(const QString& open, const QString& close) {
 }
 
 void TagDialog::Unload() {
-    // A form that was unloaded has no name any more; another of its name may be up.
-    if (!objectName().isEmpty())
-        frame_.LoadedForms().Unload(objectName());
+    frame_.LoadedForms().Unload(*this);
 }

@@ -4,10 +4,11 @@
 #include <QDialog>
 
 class Frame;
+class QPushButton;
 
-/// A dialog is shown by frame.LoadedForms().Show<frmX>("frmX", frame): modeless, above the frame, each exists
+/// A dialog is shown by frame.LoadedForms().Show<frmX>(frame): modeless, above the frame, each exists
 /// once. Enter is cmdOK; cmdCancel, Esc and the window's close button unload the form and do nothing else. A
-/// form's constructor calls its setupUi and then Wire(); its cmdOK_Click ends with Unload().
+/// form's constructor calls its setupUi and then Wire; its cmdOK_Click ends with Unload().
 class TagDialog : public QDialog {
     Q_OBJECT
 
@@ -19,8 +20,8 @@ class TagDialog : public QDialog {
     void reject() override;
 
   protected:
-    /// Connects the buttons named cmdOK and cmdCancel.
-    void Wire();
+    /// Connects OK, which becomes the default button, and Cancel.
+    void Wire(QPushButton& ok, QPushButton& cancel);
     /// Reads the fields, builds the tag, inserts it and unloads the form.
     virtual void cmdOK_Click() = 0;
     /// The open and close string into the active document, their case kept. Without a document nothing

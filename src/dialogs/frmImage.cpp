@@ -41,5 +41,5 @@ bool frmImage::ShowPicture(const QString& path) {
 }
 
 void ShowImagePreview(Frame& frame, const QString& path) {
-    frame.LoadedForms().Load<frmImage>(QStringLiteral("frmImage"), frame).ShowPicture(path);
+    frame.LoadedForms().Load<frmImage>(frame).ShowPicture(path);
 }

@@ -36,11 +36,11 @@ AutoFill::AutoFill(Frame& frame, Document& document, QTimer& Timer1, QObject* pa
 }
 
 frmDropDown* AutoFill::List() const {
-    return qobject_cast<frmDropDown*>(frame_.LoadedForms().Find(frmDropDown::Name()));
+    return frame_.LoadedForms().Find<frmDropDown>();
 }
 
 void AutoFill::UnloadList() {
-    frame_.LoadedForms().Unload(frmDropDown::Name());
+    frame_.LoadedForms().Unload<frmDropDown>();
 }
 
 void AutoFill::StopTimer() {
@@ -84,13 +84,13 @@ void AutoFill::OpenDD(bool /*quoted*/) {
 }
 
 void AutoFill::Fill(const AutoFillRows& rows, const QString& called) {
-    frame_.LoadedForms().Load<frmDropDown>(frmDropDown::Name(), frame_).Fill(rows, called);
+    frame_.LoadedForms().Load<frmDropDown>(frame_).Fill(rows, called);
 }
 
 void AutoFill::Timer1_Timer() {
     // The Right key, or a key in another document, may have taken the list away within the pause: it is then
     // loaded anew, without rows, and stays hidden.
-    frame_.LoadedForms().Load<frmDropDown>(frmDropDown::Name(), frame_).Open();
+    frame_.LoadedForms().Load<frmDropDown>(frame_).Open();
     frame_.State<EditorState>().DropDownOpen = true;
     document_.txtInput().SetFocus();
     Timer1_.stop();

@@ -29,17 +29,15 @@ QWidget* Forms::Find(const QString& name) const {
     return found == forms_.end() ? nullptr : *found;
 }
 
-void Forms::Unload(const QString& name) {
-    QWidget* form = Find(name);
-    if (!form)
+void Forms::Unload(QWidget& form) {
+    if (std::ranges::find(forms_, &form) == forms_.end())
         return;
-    Q_EMIT Unloading(form);
-    form->hide();
+    Q_EMIT Unloading(&form);
+    form.hide();
     // It leaves the list at once, so that showing it again makes a new one; its handlers may still be
     // running.
-    std::erase(forms_, form);
-    form->setObjectName(QString());
-    form->deleteLater();
+    std::erase(forms_, &form);
+    form.deleteLater();
 }
 
 void Forms::Raise(QWidget& form) {

@@ -4,9 +4,11 @@
 #include <QObject>
 #include <QString>
 #include <QWidget>
+#include <utility>
 #include <vector>
 
-/// A form is in the list from its construction to its destruction. Each dialog exists once.
+/// A form is in the list from its construction to its destruction. Each dialog exists once, and is found by
+/// its type: frame.LoadedForms().Show<frmLinks>(frame).
 class Forms : public QObject {
     Q_OBJECT
 
@@ -22,25 +24,40 @@ class Forms : public QObject {
     void Add(QWidget* form);
     /// Takes a form off the list ahead of its destruction: from then on no one finds it.
     void Remove(QWidget* form);
-    /// The loaded form of a name (objectName), or null.
-    QWidget* Find(const QString& name) const;
-    /// Closes and deletes the form of a name, if it is loaded.
-    void Unload(const QString& name);
 
-    /// The form of type T, constructed with the arguments if it is not loaded; T names itself (objectName).
-    template <typename T, typename... Arguments> T& Load(const QString& name, Arguments&&... arguments) {
-        if (auto* loaded = qobject_cast<T*>(Find(name)))
+    /// The loaded form of a type, or null.
+    template <typename T> T* Find() const {
+        for (QWidget* form : forms_)
+            if (auto* found = dynamic_cast<T*>(form))
+                return found;
+        return nullptr;
+    }
+    /// The loaded form of a name (objectName), or null: for those who have the name from a table.
+    QWidget* Find(const QString& name) const;
+
+    /// The form of type T, constructed with the arguments if it is not loaded. It has the name of its class.
+    template <typename T, typename... Arguments> T& Load(Arguments&&... arguments) {
+        if (auto* loaded = Find<T>())
             return *loaded;
         auto* form = new T(std::forward<Arguments>(arguments)...);
-        form->setObjectName(name);
+        form->setObjectName(QString::fromLatin1(T::staticMetaObject.className()));
         Add(form);
         return *form;
     }
     /// Load, then shown modeless, raised and active.
-    template <typename T, typename... Arguments> T& Show(const QString& name, Arguments&&... arguments) {
-        T& form = Load<T>(name, std::forward<Arguments>(arguments)...);
+    template <typename T, typename... Arguments> T& Show(Arguments&&... arguments) {
+        T& form = Load<T>(std::forward<Arguments>(arguments)...);
         Raise(form);
         return form;
+    }
+
+    /// Closes and deletes a form. One that is not in the list is on its way out already: nothing happens to
+    /// it.
+    void Unload(QWidget& form);
+    /// The same for the form of a type, if it is loaded.
+    template <typename T> void Unload() {
+        if (T* form = Find<T>())
+            Unload(*form);
     }
 
   Q_SIGNALS:

@@ -188,7 +188,7 @@ void frmDropDown::PickRow() {
 }
 
 void frmDropDown::Unload() {
-    frame_.LoadedForms().Unload(Name());
+    frame_.LoadedForms().Unload(*this);
 }
 
 void frmDropDown::Form_Unload() {

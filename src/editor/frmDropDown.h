@@ -25,9 +25,6 @@ class frmDropDown final : public QFrame {
     explicit frmDropDown(Frame& frame);
     ~frmDropDown() override;
 
-    /// The name under which it stands among the loaded forms.
-    static QString Name() { return QStringLiteral("frmDropDown"); }
-
     /// Replaces the rows, the first of which becomes the selected one. called is what a screen reader says of
     /// the list.
     void Fill(const AutoFillRows& rows, const QString& called);

@@ -91,15 +91,13 @@ class AccessibleNames : public FrameTest {
         for (const char* command : {"tb_link", "tb_image", "tb_embed", "tb_hr", "tb_abc", "tb_body",
                                     "tb_java", "tb_java2", "tb_split", "tb_rectangle"})
             run.frame->Commands().Run(QString::fromLatin1(command));
-        LoadedForms().Load<frmBulletList>(QStringLiteral("frmBulletList"), *run.frame);
-        LoadedForms().Load<frmImage>(QStringLiteral("frmImage"), *run.frame);
-        LoadedForms().Load<frmExternal>(QStringLiteral("frmExternal"), *run.frame);
+        LoadedForms().Load<frmBulletList>(*run.frame);
+        LoadedForms().Load<frmImage>(*run.frame);
+        LoadedForms().Load<frmExternal>(*run.frame);
         run.frame->Picture2().SetTag(QStringLiteral("0"));
-        LoadedForms().Load<frmTools>(QStringLiteral("frmTools"), *run.frame, run.frame->Picture2());
-        LoadedForms().Load<frmSplash>(QStringLiteral("frmSplash"), *run.frame);
-        LoadedForms()
-            .Load<frmDropDown>(frmDropDown::Name(), *run.frame)
-            .Fill({{}}, QStringLiteral("Attributes"));
+        LoadedForms().Load<frmTools>(*run.frame, run.frame->Picture2());
+        LoadedForms().Load<frmSplash>(*run.frame);
+        LoadedForms().Load<frmDropDown>(*run.frame).Fill({{}}, QStringLiteral("Attributes"));
     }
     ProgramRun run;
 };

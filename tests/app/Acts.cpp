@@ -83,7 +83,7 @@ void ActsTest::CloseForms() {
     Forms& forms = run.frame->LoadedForms();
     for (int i = forms.Count() - 1; i > 0; --i)
         if (!dynamic_cast<Document*>(forms.At(i)))
-            forms.Unload(forms.At(i)->objectName());
+            forms.Unload(*forms.At(i));
 }
 
 void ActsTest::CloseAll() {

@@ -1,5 +1,6 @@
 // Menus, toolbar and keys in the program's own frame: what is there, what waits, and what happens with no
 // document open.
+#include "app/frmSplash.h"
 #include "app/frmTarnwick.h"
 #include "app/frmTools.h"
 #include "app/MenuTree.h"
@@ -8,6 +9,7 @@
 #include "app/StatusPanels.h"
 #include "app/Toolbar.h"
 #include "app/UserButtons.h"
+#include "builders/frmFont.h"
 #include "editor/Document.h"
 #include "editor/EditorState.h"
 #include "platform/RichTextBox.h"
@@ -197,12 +199,12 @@ TEST_F(CommandSurfaceTest, WithoutADocumentADialogComesUpAllTheSame) {
     };
     for (const auto& row : rows) {
         Run(Text(row[0]));
-        const QWidget* form = frame->LoadedForms().Find(Text(row[1]));
+        QWidget* form = frame->LoadedForms().Find(Text(row[1]));
         ASSERT_TRUE(form) << row[0];
         EXPECT_TRUE(form->isVisible()) << row[0];
         EXPECT_FALSE(form->isModal()) << row[0];
         EXPECT_EQ(form->parentWidget(), frame.get()) << row[0];
-        frame->LoadedForms().Unload(Text(row[1]));
+        frame->LoadedForms().Unload(*form);
     }
     EXPECT_TRUE(prompts.asked.isEmpty());
 }
@@ -317,7 +319,7 @@ TEST_F(CommandSurfaceTest, TheNewButtonGivesTheUsersTemplateWhereThereIsOne) {
 
 TEST_F(CommandSurfaceTest, TheHelpKeyWorksFromADialogToo) {
     frame->Commands().Run(Text("tb_abc"));
-    QWidget* dialog = frame->LoadedForms().Find(Text("frmFont"));
+    QWidget* dialog = frame->LoadedForms().Find<frmFont>();
     ASSERT_TRUE(dialog);
     dialog->activateWindow();
     ASSERT_TRUE(QTest::qWaitFor([&] { return dialog->isActiveWindow(); }));
@@ -330,7 +332,7 @@ TEST_F(CommandSurfaceTest, AnEditedUserButtonIsStoredUnderItsIndexWhenTheProgram
     frame->findChild<UserButtons*>()->show();
     tabs->setCurrentIndex(1);
     QTest::mousePress(frame->findChild<QPushButton*>(Text("Command1_17")), Qt::RightButton);
-    QWidget* editor = frame->LoadedForms().Find(Text("frmTools"));
+    QWidget* editor = frame->LoadedForms().Find<frmTools>();
     ASSERT_TRUE(editor);
     const char* const fields[][2] = {
         {"txtName", "Box"}, {"txtFirst", "<DIV>\"; x=1, 2"}, {"txtSecond", " </DIV> "}};
@@ -359,7 +361,7 @@ TEST_F(CommandSurfaceTest, TheHelpKeyAndTheHelpEntrySayWhatIsMissing) {
 }
 
 TEST_F(CommandSurfaceTest, AboutIsTheStartScreenWithAMessage) {
-    const auto about = [&] { return frame->LoadedForms().Find(Text("frmSplash")); };
+    const auto about = [&] { return frame->LoadedForms().Find<frmSplash>(); };
     frame->MenuEntry(Text("mnuAbout"))->trigger();
     QWidget* box = about();
     ASSERT_TRUE(box);

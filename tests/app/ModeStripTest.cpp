@@ -159,9 +159,7 @@ TEST_F(ModeStripOf, ClicksWithoutADocumentDoNothing) {
 
 class ModesByOptions : public ModeStripOf {
   protected:
-    frmExternal& Options() {
-        return run->frame->LoadedForms().Load<frmExternal>(QStringLiteral("frmExternal"), *run->frame);
-    }
+    frmExternal& Options() { return run->frame->LoadedForms().Load<frmExternal>(*run->frame); }
 };
 
 TEST_F(ModesByOptions, ADocumentThatStandsOpenGetsTheControlsAtOnce) {
@@ -189,7 +187,7 @@ TEST_F(ModesByOptions, ANewBackgroundShowsAsSoonAsTheDialogIsGone) {
     FillOptionsCommands(*run->frame);
     run->prompts.colorAnswers = {0x123456};
     QTimer::singleShot(0, run->frame.get(), [this] {
-        auto* form = run->frame->LoadedForms().Find(QStringLiteral("frmExternal"));
+        auto* form = run->frame->LoadedForms().Find<frmExternal>();
         ASSERT_NE(form, nullptr);
         EXPECT_TRUE(QTest::qWaitForWindowActive(form));
         form->findChild<QTabBar*>(QStringLiteral("TabStrip1"))->setCurrentIndex(1);

@@ -55,7 +55,7 @@ class OneUndoStep : public ActsTest {
             }
     }
     void ExpectOptions(const char* field, const QString& value) {
-        auto& options = run.frame->LoadedForms().Load<frmExternal>(u"frmExternal"_s, *run.frame);
+        auto& options = run.frame->LoadedForms().Load<frmExternal>(*run.frame);
         options.findChild<QTabBar*>(u"TabStrip1"_s)->setCurrentIndex(1);
         ASSERT_TRUE(options.findChild<QComboBox*>(QString::fromLatin1(field)));
         options.findChild<QComboBox*>(QString::fromLatin1(field))->setEditText(value);

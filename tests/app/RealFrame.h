@@ -18,6 +18,7 @@
 #include <memory>
 #include <QAction>
 #include <QApplication>
+#include <QDialog>
 #include <QFile>
 #include <QMdiArea>
 #include <QMdiSubWindow>
@@ -51,6 +52,15 @@ class ProgramRun {
     }
     frmTemplate& Active() { return dynamic_cast<frmTemplate&>(*frame->ActiveForm()); }
     QAction& Entry(const char* name) { return *frame->MenuEntry(QString::fromLatin1(name)); }
+    /// A loaded form of that name, for one whose handlers do not matter or that the program does not have
+    /// yet.
+    QDialog& ShowStandIn(const char* name) {
+        auto* dialog = new QDialog(frame.get());
+        dialog->setObjectName(QString::fromLatin1(name));
+        frame->LoadedForms().Add(dialog);
+        dialog->show();
+        return *dialog;
+    }
     template <typename Widget> Widget& Find(const char* name) {
         return *frame->findChild<Widget*>(QString::fromLatin1(name));
     }

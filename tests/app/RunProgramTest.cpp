@@ -3,6 +3,7 @@
 #include "app/RunProgram.h"
 
 #include "app/DocumentTabs.h"
+#include "app/frmExternal.h"
 #include "app/frmSplash.h"
 #include "app/RealFrame.h"
 #include "app/SingleInstance.h"
@@ -65,10 +66,10 @@ class Program : public FrameTest {
                 turn.stop();
                 ADD_FAILURE() << "waited in vain";
                 QCoreApplication::exit(1);
-            } else if (frame.LoadedForms().Find(QStringLiteral("frmExternal"))) {
+            } else if (frame.LoadedForms().Find<frmExternal>()) {
                 if (!mayDismiss || mayDismiss()) {
                     ++optionsShown;
-                    frame.LoadedForms().Unload(QStringLiteral("frmExternal"));
+                    frame.LoadedForms().Unload<frmExternal>();
                 }
             } else if (!closed && frame.isVisible() && whileUp(frame)) {
                 closed = true;

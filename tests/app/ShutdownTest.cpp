@@ -6,6 +6,7 @@
 #include "app/RecentFiles.h"
 #include "app/UserButtons.h"
 #include "dialogs/DialogState.h"
+#include "dialogs/frmImage.h"
 #include "platform/ProgramFolder.h"
 
 #include <QDialog>
@@ -72,8 +73,8 @@ TEST_F(ShutdownOf, EveryFormOfTheListIsUnloaded) {
     ASSERT_TRUE(run.Start());
     Forms& forms = run.frame->LoadedForms();
     for (const char* form : Shutdown::UnloadedForms())
-        forms.Show<QDialog>(QString::fromLatin1(form), run.frame.get());
-    forms.Show<QDialog>(QStringLiteral("frmElse"), run.frame.get());
+        run.ShowStandIn(form);
+    run.ShowStandIn("frmElse");
     EXPECT_TRUE(run.Stop());
     for (const char* form : Shutdown::UnloadedForms())
         EXPECT_EQ(forms.Find(QString::fromLatin1(form)), nullptr) << form;
@@ -89,13 +90,13 @@ TEST_F(ShutdownOf, TheImageDialogGoesLastWhereverItCameFrom) {
     shutdown.watch = [&](const char* name) {
         // Behind the forms' own turn.
         if (QByteArray(name) == "UnhookWindow")
-            forms.Show<QDialog>(QStringLiteral("frmImage"), run.frame.get());
+            forms.Load<frmImage>(*run.frame);
         if (QByteArray(name) == "UnloadImageDialog")
-            stillThere = forms.Find(QStringLiteral("frmImage")) != nullptr;
+            stillThere = forms.Find<frmImage>() != nullptr;
     };
     EXPECT_TRUE(shutdown.Run());
     EXPECT_TRUE(stillThere);
-    EXPECT_EQ(forms.Find(QStringLiteral("frmImage")), nullptr);
+    EXPECT_EQ(forms.Find<frmImage>(), nullptr);
 }
 
 TEST_F(ShutdownOf, FirstRunLeavesOneFinishedRun) {
@@ -298,8 +299,8 @@ TEST_F(ShutdownOf, CancelStopsIt) {
     run.New().SetModified(true);
     run.prompts.messageAnswers = {MsgAnswer::Cancel};
     QSignalSpy stopped(run.frame.get(), &frmTarnwick::Stopped);
-    run.frame->LoadedForms().Show<QDialog>(QStringLiteral("frmBody"), run.frame.get());
-    run.frame->LoadedForms().Show<QDialog>(QStringLiteral("VisFrame"), run.frame.get());
+    run.ShowStandIn("frmBody");
+    run.ShowStandIn("VisFrame");
     EXPECT_FALSE(run.Stop());
     EXPECT_TRUE(stopped.isEmpty());
     EXPECT_TRUE(run.frame->isVisible());

@@ -319,10 +319,10 @@ TEST_F(StartupOf, TheLoadWaitsForTheOptionsDialog) {
     bool modal = false, openedMeanwhile = true;
     FillOptionsCommands(*run.frame);
     QTimer::singleShot(0, run.frame.get(), [&] {
-        QWidget* options = run.frame->LoadedForms().Find(QStringLiteral("frmExternal"));
+        QWidget* options = run.frame->LoadedForms().Find<frmExternal>();
         modal = options && options->isModal();
         openedMeanwhile = run.frame->ActiveForm() != nullptr;
-        run.frame->LoadedForms().Unload(QStringLiteral("frmExternal"));
+        run.frame->LoadedForms().Unload<frmExternal>();
     });
     ASSERT_TRUE(run.Start(path));
     EXPECT_TRUE(modal);

@@ -302,7 +302,7 @@ TEST_F(ToolbarCommandsTest, AListOfNothingShowsTheListsDialog) {
     for (const auto& [name, kind] : {std::pair("tb_dots", "U"), std::pair("tb_onetwothree", "O")}) {
         Put("a|b");
         Run(name);
-        auto* dialog = qobject_cast<frmBulletList*>(frame.LoadedForms().Find(Latin("frmBulletList")));
+        auto* dialog = frame.LoadedForms().Find<frmBulletList>();
         ASSERT_TRUE(dialog);
         EXPECT_TRUE(dialog->isVisible());
         EXPECT_FALSE(dialog->isModal());

@@ -37,7 +37,7 @@ class UserButtonsTest : public testing::Test {
         QTest::mousePress(Button(index), Qt::RightButton);
         return Dialog();
     }
-    frmTools* Dialog() { return qobject_cast<frmTools*>(frame.LoadedForms().Find(Text("frmTools"))); }
+    frmTools* Dialog() { return frame.LoadedForms().Find<frmTools>(); }
     static QLineEdit* Field(frmTools* editor, const char* name) {
         return editor->findChild<QLineEdit*>(QString::fromLatin1(name));
     }

@@ -40,11 +40,11 @@ class Options : public testing::Test {
     ~Options() override { qputenv("PATH", path_); }
 
     void Open(int page = 0) {
-        form = &frame.LoadedForms().Load<frmExternal>(QStringLiteral("frmExternal"), frame);
+        form = &frame.LoadedForms().Load<frmExternal>(frame);
         form->show();
         Get<QTabBar>("TabStrip1").setCurrentIndex(page);
     }
-    bool IsOpen() { return frame.LoadedForms().Find(QStringLiteral("frmExternal")) != nullptr; }
+    bool IsOpen() { return frame.LoadedForms().Find<frmExternal>() != nullptr; }
     template <typename T> T& Get(const char* name) {
         T* control = form->findChild<T*>(QString::fromLatin1(name));
         if (!control)
@@ -186,7 +186,7 @@ TEST_F(Options, AColourThatIsNoNumberCountsAsZero) {
         Open();
         for (int n = 0; n < 6; ++n)
             EXPECT_EQ(Sample(n).ForeNumber(), 0) << stored << ' ' << n;
-        frame.LoadedForms().Unload(QStringLiteral("frmExternal"));
+        frame.LoadedForms().Unload<frmExternal>();
     }
 }
 
@@ -652,7 +652,7 @@ TEST_F(Options, TheCommandWaitsForTheDialogsEnd) {
     FillOptionsCommands(frame);
     bool shownOnce = false;
     QTimer::singleShot(0, frame.window.get(), [&] {
-        form = qobject_cast<frmExternal*>(frame.LoadedForms().Find(QStringLiteral("frmExternal")));
+        form = frame.LoadedForms().Find<frmExternal>();
         shownOnce = form && form->isVisible() && form->isModal();
         frame.Commands().Run(QStringLiteral("mnuWebBrowser"));
         if (form)

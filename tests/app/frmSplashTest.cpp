@@ -10,10 +10,8 @@ namespace {
 
 class Splash : public FrameTest {
   protected:
-    frmSplash& Show() {
-        return run.frame->LoadedForms().Show<frmSplash>(QStringLiteral("frmSplash"), *run.frame);
-    }
-    bool Loaded() { return run.frame->LoadedForms().Find(QStringLiteral("frmSplash")) != nullptr; }
+    frmSplash& Show() { return run.frame->LoadedForms().Show<frmSplash>(*run.frame); }
+    bool Loaded() { return run.frame->LoadedForms().Find<frmSplash>() != nullptr; }
     static QLabel& Label(frmSplash& splash, const char* name) {
         return *splash.findChild<QLabel*>(QString::fromLatin1(name));
     }
@@ -69,7 +67,7 @@ TEST_F(Splash, ClosingItByTheWindowManagerUnloadsIt) {
 TEST_F(Splash, UnloadingItBringsUpTheFrame) {
     Show();
     EXPECT_FALSE(run.frame->isVisible());
-    run.frame->LoadedForms().Unload(QStringLiteral("frmSplash"));
+    run.frame->LoadedForms().Unload<frmSplash>();
     EXPECT_TRUE(run.frame->isVisible());
 }
 

@@ -248,7 +248,7 @@ TEST_F(Tarnwick, ButtonThatIsPressedWhileABoxComesUpDoesNotStayLit) {
 
 TEST_F(Tarnwick, ClickOnADocumentTabTakesTheFirstFormOfThatCaption) {
     const QString path = MakeFile(QStringLiteral("a.htm"), "a");
-    auto& dialog = Window().LoadedForms().Load<QDialog>(QStringLiteral("frmAny"));
+    auto& dialog = Window().LoadedForms().Load<QDialog>();
     Window().OpenDocumentFile(path);
     run->New();
     dialog.setWindowTitle(path);
@@ -261,7 +261,7 @@ TEST_F(Tarnwick, ClickOnADocumentTabTakesTheFirstFormOfThatCaption) {
     QCoreApplication::processEvents();
     EXPECT_EQ(QApplication::activeWindow(), &dialog);
     EXPECT_EQ(run->Active().Caption(), QString());
-    Window().LoadedForms().Unload(QStringLiteral("frmAny"));
+    Window().LoadedForms().Unload(dialog);
 }
 
 TEST_F(Tarnwick, SaveAsAFileThatIsOpenElsewhereTurnsTheLastTabToThatFile) {
@@ -353,9 +353,9 @@ TEST_F(Tarnwick, OpenedPagesCountAsUnchangedHoweverTheyCame) {
 
 TEST_F(Tarnwick, AnyResizeUnloadsTheStartScreen) {
     Forms& forms = Window().LoadedForms();
-    forms.Show<frmSplash>(QStringLiteral("frmSplash"), Window());
+    forms.Show<frmSplash>(Window());
     Window().resize(Window().size() + QSize(1, 0));
-    EXPECT_EQ(forms.Find(QStringLiteral("frmSplash")), nullptr);
+    EXPECT_EQ(forms.Find<frmSplash>(), nullptr);
 }
 
 // What arrives

@@ -4,6 +4,7 @@
 #include "app/DocumentTabs.h"
 #include "app/EditCommands.h"
 #include "app/RealFrame.h"
+#include "editor/frmDropDown.h"
 #include "editor/Modes.h"
 #include "editor/WebControls.h"
 
@@ -381,7 +382,7 @@ TEST_F(frmTemplateOf, CancelChangesNothing) {
     frmTemplate& document = run->Active();
     document.SetModified(true);
     run->Program().TemplateWindowState = QStringLiteral("7");
-    run->frame->LoadedForms().Show<QDialog>(QStringLiteral("frmTime"), run->frame.get());
+    run->ShowStandIn("frmTime");
     run->prompts.messageAnswers = {MsgAnswer::Cancel};
     EXPECT_FALSE(document.Unload());
     EXPECT_EQ(run->frame->ActiveForm(), static_cast<Document*>(&document));
@@ -396,10 +397,10 @@ TEST_F(frmTemplateOf, CancelChangesNothing) {
 TEST_F(frmTemplateOf, ClosingTakesListAndTimerDown) {
     frmTemplate& document = Fresh();
     Forms& forms = run->frame->LoadedForms();
-    forms.Show<QDialog>(QStringLiteral("frmDropDown"), run->frame.get());
-    forms.Show<QDialog>(QStringLiteral("frmTime"), run->frame.get());
+    forms.Show<frmDropDown>(*run->frame);
+    run->ShowStandIn("frmTime");
     EXPECT_TRUE(document.Unload());
-    EXPECT_EQ(forms.Find(QStringLiteral("frmDropDown")), nullptr);
+    EXPECT_EQ(forms.Find<frmDropDown>(), nullptr);
     EXPECT_EQ(forms.Find(QStringLiteral("frmTime")), nullptr);
 }
 
@@ -407,7 +408,7 @@ TEST_F(frmTemplateOf, ClosingAnyDocumentTakesTheTimerDown) {
     frmTemplate& behind = Fresh();
     run->New();
     Forms& forms = run->frame->LoadedForms();
-    forms.Show<QDialog>(QStringLiteral("frmTime"), run->frame.get());
+    run->ShowStandIn("frmTime");
     EXPECT_TRUE(behind.Unload());
     EXPECT_EQ(forms.Find(QStringLiteral("frmTime")), nullptr);
     EXPECT_EQ(run->Program().DocumentCount, 1);
@@ -416,10 +417,10 @@ TEST_F(frmTemplateOf, ClosingAnyDocumentTakesTheTimerDown) {
 TEST_F(frmTemplateOf, CancelStillTakesTheListDown) {
     Fresh().SetModified(true);
     Forms& forms = run->frame->LoadedForms();
-    forms.Show<QDialog>(QStringLiteral("frmDropDown"), run->frame.get());
+    forms.Show<frmDropDown>(*run->frame);
     run->prompts.messageAnswers = {MsgAnswer::Cancel};
     EXPECT_FALSE(run->Active().Unload());
-    EXPECT_EQ(forms.Find(QStringLiteral("frmDropDown")), nullptr);
+    EXPECT_EQ(forms.Find<frmDropDown>(), nullptr);
 }
 
 TEST_F(frmTemplateOf, LastWindowClosedDecidesHowTheNextOpens) {
@@ -506,7 +507,7 @@ TEST_F(frmTemplateOf, CtrlWClosesOneWindow) {
 
 TEST_F(frmTemplateOf, ActiveDocumentStaysWhileADialogHasTheFocus) {
     frmTemplate& document = Fresh();
-    auto& dialog = run->frame->LoadedForms().Show<QDialog>(QStringLiteral("frmBody"), run->frame.get());
+    auto& dialog = run->ShowStandIn("frmBody");
     dialog.activateWindow();
     QCoreApplication::processEvents();
     EXPECT_EQ(run->frame->ActiveForm(), static_cast<Document*>(&document));
@@ -516,7 +517,7 @@ TEST_F(frmTemplateOf, ClosingUnderADialogLeavesTheNextDocumentActive) {
     frmTemplate& first = Fresh();
     frmTemplate& second = run->New();
     frmTemplate& third = run->New();
-    auto& dialog = run->frame->LoadedForms().Show<QDialog>(QStringLiteral("frmBody"), run->frame.get());
+    auto& dialog = run->ShowStandIn("frmBody");
     dialog.activateWindow();
     QCoreApplication::processEvents();
     EXPECT_TRUE(second.Unload());

@@ -230,7 +230,8 @@ TEST_F(EditTagTest, SubstringsDecide) {
         EditAt(QString::fromLatin1(row.text));
         EXPECT_EQ(Shown(), QString::fromLatin1(row.form)) << row.text;
         EXPECT_EQ(Text(), QString::fromLatin1(row.left));
-        frame.LoadedForms().Unload(QString::fromLatin1(row.form));
+        if (QWidget* shown = frame.LoadedForms().Find(QString::fromLatin1(row.form)))
+            frame.LoadedForms().Unload(*shown);
     }
 }
 

@@ -44,7 +44,7 @@ TEST_F(FormPictures, OfEveryDialog) {
         QApplication::setPalette(Dark());
     frame.SetText(QStringLiteral("<BODY BGCOLOR=\"#FFFFCC\" TEXT=\"#333333\" VLINK=\"#800080\">"));
     ShowBulletList(frame, QStringLiteral("U"));
-    form = frame.LoadedForms().Find(QStringLiteral("frmBulletList"));
+    form = frame.LoadedForms().Find<frmBulletList>();
     for (const QString& item : {QStringLiteral("Apples"), QStringLiteral("Pears")}) {
         Fill(QStringLiteral("txtAddItem"), item);
         Press(QStringLiteral("cmdAddItem"));

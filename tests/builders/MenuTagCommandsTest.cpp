@@ -235,7 +235,7 @@ TEST_F(MenuTagCommands, DefinitionListMarksEachLineBehindALineEnd) {
 TEST_F(MenuTagCommands, DefinitionListOfNothingShowsTheListsDialog) {
     Put("a|b");
     Run("mnuDef");
-    auto* dialog = qobject_cast<frmBulletList*>(frame.LoadedForms().Find(Latin("frmBulletList")));
+    auto* dialog = frame.LoadedForms().Find<frmBulletList>();
     ASSERT_TRUE(dialog);
     EXPECT_TRUE(dialog->isVisible());
     EXPECT_FALSE(dialog->isModal());

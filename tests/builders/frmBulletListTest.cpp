@@ -9,7 +9,7 @@ class frmBulletListTest : public DialogTest {
   protected:
     QWidget& Show(const char16_t* kind) {
         ShowBulletList(frame, T(kind));
-        form = frame.LoadedForms().Find(T(u"frmBulletList"));
+        form = frame.LoadedForms().Find<frmBulletList>();
         return *form;
     }
     void Add(const char16_t* item) {

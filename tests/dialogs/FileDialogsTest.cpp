@@ -89,7 +89,7 @@ TEST(PictureBrowse, PreviewsTheSelectionAndUnloadsTheForm) {
     Picture(Here("wide.png"), 468, 60);
     Picture(Here("tall.png"), 100, 400);
     frame.prompts.whileOpen = [&](const FileRequest& request) {
-        auto* form = qobject_cast<frmImage*>(frame.LoadedForms().Find(QStringLiteral("frmImage")));
+        auto* form = frame.LoadedForms().Find<frmImage>();
         ASSERT_NE(form, nullptr);
         EXPECT_EQ(request.panel, form->Frame1());
         request.selectionChanged(Here("wide.png"));
@@ -102,13 +102,13 @@ TEST(PictureBrowse, PreviewsTheSelectionAndUnloadsTheForm) {
         EXPECT_EQ(browse.Show(dialog, nullptr), Here("tall.png"));
         EXPECT_EQ(browse.PictureSize(), QSize(100, 400)) << "a name that was typed was never selected";
     }
-    EXPECT_EQ(frame.LoadedForms().Find(QStringLiteral("frmImage")), nullptr);
+    EXPECT_EQ(frame.LoadedForms().Find<frmImage>(), nullptr);
     {
         FileDialog dialog(frame);
         PictureBrowse browse(frame);
         EXPECT_EQ(browse.Show(dialog, nullptr), std::nullopt);
     }
-    EXPECT_EQ(frame.LoadedForms().Find(QStringLiteral("frmImage")), nullptr);
+    EXPECT_EQ(frame.LoadedForms().Find<frmImage>(), nullptr);
 }
 
 TEST(PictureBrowse, ShowsThePictureInTheRealFileDialog) {
@@ -127,7 +127,7 @@ TEST(PictureBrowse, ShowsThePictureInTheRealFileDialog) {
         auto* list = dialog->findChild<QListView*>(QStringLiteral("listView"));
         ASSERT_TRUE(QTest::qWaitFor([&] { return list->model()->rowCount(list->rootIndex()) == 1; }));
         list->setCurrentIndex(list->model()->index(0, 0, list->rootIndex()));
-        auto* form = qobject_cast<frmImage*>(frame.LoadedForms().Find(QStringLiteral("frmImage")));
+        auto* form = frame.LoadedForms().Find<frmImage>();
         ASSERT_NE(form, nullptr);
         EXPECT_EQ(form->PictureSize(), QSize(468, 60));
         EXPECT_EQ(form->Frame1()->window(), dialog);

@@ -22,7 +22,7 @@ QString Picture(const QString& name, int width, int height, const char* format =
 
 struct PreviewForm {
     explicit PreviewForm(TestFrame& frame)
-        : form(*qobject_cast<frmImage*>(frame.LoadedForms().Find(QStringLiteral("frmImage")))),
+        : form(*frame.LoadedForms().Find<frmImage>()),
           imgSel(*form.findChild<QLabel*>(QStringLiteral("imgSel"))),
           picSel(*form.findChild<QLabel*>(QStringLiteral("picSel"))) {}
     frmImage& form;

@@ -14,9 +14,11 @@ class SampleDialog final : public TagDialog {
     explicit SampleDialog(Frame& frame) : TagDialog(frame) {
         (new QLineEdit(this))->setObjectName(QStringLiteral("txtField"));
         (new QPushButton(this))->setObjectName(QStringLiteral("cmdOther"));
-        (new QPushButton(this))->setObjectName(QStringLiteral("cmdOK"));
-        (new QPushButton(this))->setObjectName(QStringLiteral("cmdCancel"));
-        Wire();
+        auto* cmdOK = new QPushButton(this);
+        auto* cmdCancel = new QPushButton(this);
+        cmdOK->setObjectName(QStringLiteral("cmdOK"));
+        cmdCancel->setObjectName(QStringLiteral("cmdCancel"));
+        Wire(*cmdOK, *cmdCancel);
     }
 
   protected:
@@ -28,13 +30,11 @@ class SampleDialog final : public TagDialog {
 
 namespace {
 
-const QString Name = QStringLiteral("frmSample");
-
 class TagDialogTest : public testing::Test {
   protected:
     void SetUp() override { Show(); }
-    void Show() { dialog = &frame.LoadedForms().Show<SampleDialog>(Name, frame); }
-    bool Loaded() { return frame.LoadedForms().Find(Name) != nullptr; }
+    void Show() { dialog = &frame.LoadedForms().Show<SampleDialog>(frame); }
+    bool Loaded() { return frame.LoadedForms().Find<SampleDialog>() != nullptr; }
     TestFrame frame;
     SampleDialog* dialog = nullptr;
 };

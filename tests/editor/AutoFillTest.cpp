@@ -498,7 +498,7 @@ TEST(AutoFill, StandsWhereTheLastListWas) {
 TEST(AutoFill, ClosingTheDocumentEndsThePause) {
     TypingFrame frame;
     frame.Type("<img ");
-    frame.LoadedForms().Unload(QStringLiteral("frmDropDown"));
+    frame.LoadedForms().Unload<frmDropDown>();
     EXPECT_FALSE(frame.Flags().DropDownOpen);
     frame.CloseDocument();
     EXPECT_EQ(frame.ActiveForm(), nullptr);

@@ -290,7 +290,7 @@ TEST(TypingEngine, EscAndRightForgetTheValueListWithNoListOpen) {
         TypingFrame frame;
         frame.Type("<img al\r");
         ASSERT_TRUE(frame.Lists().ValueList());
-        frame.LoadedForms().Unload(frmDropDown::Name());
+        frame.LoadedForms().Unload<frmDropDown>();
         const QString text = frame.Box().Text();
         frame.Box().SetSelStart(0);
         ASSERT_TRUE(frame.Lists().ValueList());

@@ -227,7 +227,7 @@ TEST_F(ListTest, MarksAreDrawnInTheTextsColour) {
 TEST_F(ListTest, UnloadingByNameClearsTheFlag) {
     frame.Type("<img ");
     EXPECT_TRUE(frame.Flags().DropDownOpen);
-    frame.LoadedForms().Unload(QStringLiteral("frmDropDown"));
+    frame.LoadedForms().Unload<frmDropDown>();
     EXPECT_FALSE(frame.Flags().DropDownOpen);
     EXPECT_EQ(frame.List(), nullptr);
 }
@@ -240,7 +240,7 @@ TEST_F(ListTest, WithoutADocumentItsKeysDoNothing) {
     ASSERT_NE(list, nullptr);
     QTest::keyClick(list, Qt::Key_Return);
     QTest::keyClick(list, Qt::Key_Backspace);
-    EXPECT_EQ(frame.LoadedForms().Find(QStringLiteral("frmDropDown")), nullptr);
+    EXPECT_EQ(frame.LoadedForms().Find<frmDropDown>(), nullptr);
 }
 
 TEST_F(ListTest, IsReadable) {

@@ -51,7 +51,7 @@ void TypingFrame::Pause() {
 }
 
 frmDropDown* TypingFrame::List() {
-    return qobject_cast<frmDropDown*>(LoadedForms().Find(frmDropDown::Name()));
+    return LoadedForms().Find<frmDropDown>();
 }
 
 bool TypingFrame::ListShown() {
