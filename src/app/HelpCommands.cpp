@@ -11,7 +11,6 @@
 
 void FillHelpCommands(Frame& frame) {
     frame.Commands().Set(QStringLiteral("mnuMainHelp"), [&frame] { ShowHelp(frame); });
-    frame.Commands().Set(QStringLiteral("mnuAbout"), [&frame] { mnuAbout_Click(frame); });
 }
 
 void BindHelpKey(QWidget& window, Frame& frame) {

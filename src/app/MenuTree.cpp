@@ -2,11 +2,14 @@
 #include "app/MenuTree.h"
 
 #include "app/CommandActions.h"
+#include "app/KnownForms.h"
 
+#include <algorithm>
 #include <QAction>
 #include <QMenu>
 #include <QMenuBar>
 #include <QVector>
+#include <string_view>
 
 namespace {
 
@@ -19,7 +22,7 @@ constexpr auto Hidden = MenuRow::Hidden;
 // The keys that the first Edit entries show are part of their captions: those keys belong to the text
 // control. The recent files and the separator above them come to sight when a path fills them.
 // clang-format off
-const MenuRow tree[] = {
+const MenuRow designed[] = {
     {Menu, "mnuFile", "&File"},
         {Entry, "mnuNew", "&New", "Ctrl+N"},
         {Entry, "mnuOpen", "&Open...", "Ctrl+O"},
@@ -216,15 +219,36 @@ void AddEntry(QMenu& menu, const MenuRow& row, Frame& frame, QObject* owner) {
     menu.addAction(entry);
 }
 
+/// The row that closes a menu; what names no menu of the tree goes into the last one.
+std::vector<MenuRow>::const_iterator EndOf(const std::vector<MenuRow>& tree, std::string_view menu) {
+    auto row =
+        std::ranges::find_if(tree, [&](const MenuRow& one) { return one.kind == Menu && one.name == menu; });
+    for (int depth = 0; row != tree.end(); ++row) {
+        depth += row->kind == Menu ? 1 : row->kind == End ? -1 : 0;
+        if (depth == 0)
+            return row;
+    }
+    return tree.end() - 1;
+}
+
 } // namespace
 
 std::span<const MenuRow> MenuTree() {
+    static const std::vector<MenuRow> tree = MenuTree(KnownForms());
+    return tree;
+}
+
+std::vector<MenuRow> MenuTree(std::span<const FormRow> forms) {
+    std::vector<MenuRow> tree(std::begin(designed), std::end(designed));
+    for (const FormRow& form : forms)
+        if (const FormEntry& entry = form.reach.entry; *entry.caption)
+            tree.insert(EndOf(tree, entry.menu), {Entry, entry.name, entry.caption, entry.shortcut});
     return tree;
 }
 
 void BuildMenus(QMenuBar& bar, Frame& frame) {
     QVector<QMenu*> open;
-    for (const MenuRow& row : tree) {
+    for (const MenuRow& row : MenuTree()) {
         switch (row.kind) {
         case MenuRow::Menu: {
             const QString caption = QString::fromLatin1(row.caption);

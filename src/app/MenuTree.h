@@ -2,10 +2,12 @@
 #pragma once
 
 #include <span>
+#include <vector>
 
 class Frame;
 class QMenuBar;
 class QObject;
+struct FormRow;
 
 /// A row of the tree. A Menu row opens a menu (at the top, or nested in the one that is open), and the End
 /// row that belongs to it closes it. Entry rows are named after their commands; element i of an array is
@@ -21,8 +23,10 @@ struct MenuRow {
     Showing showing = Shown;
 };
 
-/// All rows, in the order of the menus.
+/// All rows, in the order of the menus, with the entries that the forms of the program bring.
 std::span<const MenuRow> MenuTree();
+/// The same with those of other forms. A new entry stands at the end of the menu that it names.
+std::vector<MenuRow> MenuTree(std::span<const FormRow> forms);
 
 /// Builds the menus of the tree into an empty bar. Each QMenu and each QAction has its row's name as
 /// objectName.

@@ -2,6 +2,7 @@
 #include "app/Shutdown.h"
 
 #include "app/frmTarnwick.h"
+#include "app/KnownForms.h"
 #include "app/ProgramState.h"
 #include "app/RecentFiles.h"
 #include "app/UserButtons.h"
@@ -26,14 +27,8 @@ constexpr int storedButtons = 30;
 
 Shutdown::Shutdown(frmTarnwick& frame) : frame_(frame) {}
 
-std::span<const char* const> Shutdown::UnloadedForms() {
-    static constexpr const char* forms[] = {
-        "frmBody",      "frmEmbed", "frmFont",   "frmForm",   "frmFrame",    "frmGraphicLink",
-        "frmHRInput",   "frmInfo",  "frmJava",   "frmLinks",  "frmParam",    "frmTable",
-        "frmTime",      "frmFTP",   "frmSplash", "frmSpacer", "frmExternal", "frmBulletList",
-        "frmGridInput", "frmImage", "frmMulti",  "frmTools",  "VisFrame",
-    };
-    return forms;
+std::vector<const char*> Shutdown::UnloadedForms() {
+    return FormsToUnload(KnownForms());
 }
 
 std::span<const Shutdown::Step> Shutdown::Steps() {

@@ -4,6 +4,7 @@
 #include <functional>
 #include <QString>
 #include <span>
+#include <vector>
 
 class frmTarnwick;
 
@@ -20,7 +21,7 @@ class Shutdown {
     explicit Shutdown(frmTarnwick& frame);
 
     /// The forms that the query unload takes down, in their order; the active document comes after them.
-    static std::span<const char* const> UnloadedForms();
+    static std::vector<const char*> UnloadedForms();
     /// The steps of the unload in the order in which they are done.
     static std::span<const Step> Steps();
 

@@ -4,6 +4,7 @@
 #include "app/CommandActions.h"
 #include "app/FlowLayout.h"
 #include "app/Icons.h"
+#include "app/KnownForms.h"
 #include "app/LeaveByEscape.h"
 #include "editor/Frame.h"
 
@@ -16,7 +17,7 @@
 namespace {
 
 // The tool tip of java is spelled as users know it.
-const ToolbarRow buttons[] = {
+const ToolbarRow designed[] = {
     {"new", "New"},
     {"open", "Open"},
     {"save", "Save"},
@@ -82,6 +83,15 @@ class CommandButton final : public QToolButton {
 } // namespace
 
 std::span<const ToolbarRow> ToolbarTable() {
+    static const std::vector<ToolbarRow> buttons = ToolbarTable(KnownForms());
+    return buttons;
+}
+
+std::vector<ToolbarRow> ToolbarTable(std::span<const FormRow> forms) {
+    std::vector<ToolbarRow> buttons(std::begin(designed), std::end(designed));
+    for (const FormRow& form : forms)
+        if (const FormButton& button = form.reach.button; *button.toolTip)
+            buttons.push_back({button.key, button.toolTip});
     return buttons;
 }
 
@@ -94,7 +104,7 @@ Toolbar1::Toolbar1(Frame& frame, QWidget* parent) : QWidget(parent), frame_(fram
     QSizePolicy policy(QSizePolicy::Preferred, QSizePolicy::Minimum);
     policy.setHeightForWidth(true);
     setSizePolicy(policy);
-    for (const ToolbarRow& row : buttons)
+    for (const ToolbarRow& row : ToolbarTable())
         AddButton(row);
     buttons_.first()->setFocusPolicy(Qt::TabFocus);
     auto* reach = new QShortcut(Qt::Key_F6, this);

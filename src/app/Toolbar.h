@@ -3,9 +3,11 @@
 
 #include <QWidget>
 #include <span>
+#include <vector>
 
 class Frame;
 class QToolButton;
+struct FormRow;
 
 /// A button: its key, which names its command "tb_<key>" and its icon, and its tool tip.
 struct ToolbarRow {
@@ -13,8 +15,10 @@ struct ToolbarRow {
     const char* toolTip;
 };
 
-/// All buttons, in their order.
+/// All buttons, in their order, with those that the forms of the program bring.
 std::span<const ToolbarRow> ToolbarTable();
+/// The same with those of other forms: new buttons stand at the end.
+std::vector<ToolbarRow> ToolbarTable(std::span<const FormRow> forms);
 
 /// The strip of buttons. It wraps to further rows: its height follows from its width (heightForWidth). It is
 /// one stop of the Tab key; the arrow keys, Home and End move among its buttons, F6 moves into it from the

@@ -2,6 +2,7 @@
 #include "app/ToolbarCommands.h"
 
 #include "app/EditCommands.h"
+#include "app/KnownForms.h"
 #include "app/ProgramState.h"
 #include "builders/frmBulletList.h"
 #include "builders/MenuTagCommands.h"
@@ -182,7 +183,7 @@ void tb_meta_Click(Frame& frame) {
 void tb_ftp_Click(Frame& frame) {
     const ProgramState& state = frame.State<ProgramState>();
     if (state.LocalFTP) {
-        const QString upload = QStringLiteral("frmFTP");
+        const QString upload = QString::fromLatin1(UploadForm);
         if (frame.Commands().Has(upload))
             frame.Commands().Run(upload);
         else

@@ -304,11 +304,8 @@ void frmExternal::Unload() {
     frame_.LoadedForms().Unload(*this);
 }
 
-void FillOptionsCommands(Frame& frame) {
-    frame.Commands().Set(QStringLiteral("mnuWebBrowser"), [&frame] {
-        // The dialog that is up already is modal: what asks again meanwhile waits no second time.
-        if (frame.LoadedForms().Find<frmExternal>())
-            return;
+void mnuWebBrowser_Click(Frame& frame) {
+    // The dialog that is up already is modal: what asks again meanwhile waits no second time.
+    if (!frame.LoadedForms().Find<frmExternal>())
         frame.LoadedForms().Load<frmExternal>(frame).exec();
-    });
 }

@@ -63,4 +63,4 @@ class frmExternal final : public QDialog {
 };
 
 /// Registers mnuWebBrowser: shows the dialog over the frame and waits for its end.
-void FillOptionsCommands(Frame& frame);
+void mnuWebBrowser_Click(Frame& frame);

@@ -6,10 +6,10 @@
 #include "app/EditCommands.h"
 #include "app/FileCommands.h"
 #include "app/FileDrop.h"
-#include "app/frmExternal.h"
 #include "app/frmSplash.h"
 #include "app/frmTemplate.h"
 #include "app/HelpCommands.h"
+#include "app/KnownForms.h"
 #include "app/LeaveByEscape.h"
 #include "app/MenuTree.h"
 #include "app/OpenDocument.h"
@@ -26,7 +26,6 @@
 #include "app/WebPlugin.h"
 #include "app/WindowCommands.h"
 #include "builders/AutoFillPick.h"
-#include "builders/DialogCommands.h"
 #include "builders/EditTag.h"
 #include "builders/MenuTagCommands.h"
 #include "editor/Modes.h"
@@ -108,9 +107,8 @@ void frmTarnwick::FillCommands() {
     FillMenuTagCommands(*this);
     FillToolbarCommands(*this);
     FillHelpCommands(*this);
-    FillDialogCommands(*this);
+    FillFormCommands(*this, KnownForms());
     FillEditTagCommand(*this);
-    FillOptionsCommands(*this);
     UseWebPlugin(*this);
     FillAutoFillHooks(*this);
 }

@@ -2,6 +2,7 @@
 #include "app/frmTemplate.h"
 
 #include "app/Icons.h"
+#include "app/KnownForms.h"
 #include "app/ProgramState.h"
 #include "editor/Commands.h"
 #include "editor/EditorFont.h"
@@ -99,7 +100,7 @@ void frmTemplate::ReadSettings() {
         modes_->LoadControls();
     txtInput_->SetRightMargin(store.ReadFlag(Keys::WordWrap) ? 0 : noWrapTwips);
     if (store.ReadFlag(Keys::UseWebTimer))
-        frame_.Commands().Run(u"frmTime"_s);
+        frame_.Commands().Run(QString::fromLatin1(WebTimerForm));
     Form_Resize();
     if (const int background = frame_.State<EditorState>().Background2; background > 0)
         txtInput_->SetBackColor(background);
@@ -156,7 +157,7 @@ bool frmTemplate::Form_QueryUnload() {
     auto& program = frame_.State<ProgramState>();
     --program.DocumentCount;
     program.TemplateWindowState = StateDigit(*this);
-    if (QWidget* timer = frame_.LoadedForms().Find(u"frmTime"_s))
+    if (QWidget* timer = frame_.LoadedForms().Find(QString::fromLatin1(WebTimerForm)))
         frame_.LoadedForms().Unload(*timer);
     return true;
 }

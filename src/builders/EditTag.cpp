@@ -14,7 +14,6 @@
 
 namespace {
 
-
 void CutSelection(Frame& frame) {
     if (Document* document = frame.ActiveForm())
         document->txtInput().SetSelText(QString());

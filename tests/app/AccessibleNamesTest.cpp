@@ -5,8 +5,7 @@
 #include "app/RealFrame.h"
 #include "app/StatusPanels.h"
 #include "app/UserButtons.h"
-#include "builders/frmBulletList.h"
-#include "dialogs/frmImage.h"
+#include "builders/BuilderForms.h"
 #include "editor/frmDropDown.h"
 
 #include <QAccessible>
@@ -88,11 +87,9 @@ class AccessibleNames : public FrameTest {
     Forms& LoadedForms() { return run.frame->LoadedForms(); }
     /// Every form there is, loaded.
     void LoadAll() {
-        for (const char* command : {"tb_link", "tb_image", "tb_embed", "tb_hr", "tb_abc", "tb_body",
-                                    "tb_java", "tb_java2", "tb_split", "tb_rectangle"})
-            run.frame->Commands().Run(QString::fromLatin1(command));
-        LoadedForms().Load<frmBulletList>(*run.frame);
-        LoadedForms().Load<frmImage>(*run.frame);
+        for (const FormRow& row : BuilderForms())
+            if (row.reach.show)
+                row.reach.show(*run.frame);
         LoadedForms().Load<frmExternal>(*run.frame);
         run.frame->Picture2().SetTag(QStringLiteral("0"));
         LoadedForms().Load<frmTools>(*run.frame, run.frame->Picture2());

@@ -2,8 +2,10 @@
 #include "app/MenuTree.h"
 
 #include "app/CommandActions.h"
+#include "app/NewEntries.h"
 #include "support/TestFrame.h"
 
+#include <algorithm>
 #include <gtest/gtest.h>
 #include <QMenu>
 #include <QMenuBar>
@@ -217,7 +219,14 @@ TEST_F(MenuTreeTest, NamesCaptionsOrderAndKeysAreTheseToTheLetter) {
         text += title->menu()->objectName() + QStringLiteral(" \"") + title->text() + QStringLiteral("\"\n");
         Write(*title->menu(), QStringLiteral("  "), text);
     }
-    const QStringList built = text.split(u'\n');
+    QStringList built = text.split(u'\n');
+    // What the forms bring of their own stands at the end of its menu, as another test shows.
+    for (const FormRow& row : FormsWithNewEntry()) {
+        const auto removed = built.removeIf([&](const QString& line) {
+            return line.trimmed().section(u' ', 0, 0) == QString::fromLatin1(row.reach.entry.name);
+        });
+        EXPECT_EQ(removed, 1) << row.name;
+    }
     const QStringList expected = QString::fromLatin1(menus).split(u'\n');
     for (qsizetype i = 0; i < expected.size(); ++i)
         EXPECT_EQ(built.value(i), expected[i]) << "line " << i;
@@ -242,6 +251,32 @@ TEST_F(MenuTreeTest, EveryEntryIsFoundByItsName) {
     EXPECT_FALSE(Entry("mnuFileArray_8"));
 }
 
+TEST_F(MenuTreeTest, ANewEntryOfAFormStandsAtTheEndOfItsMenu) {
+    const FormRow forms[] = {
+        {"frmKnown", {.entry = {"mnuLink"}}},
+        {"frmTag", {.entry = {"mnuTag", "&Tag", "Ctrl+K"}}},
+        {"frmChart", {.entry = {"mnuChart", "C&hart", "", "mnuConversions"}}},
+        {"frmOther", {.entry = {"mnuOther2", "&Other"}}},
+    };
+    const std::vector<MenuRow> tree = MenuTree(forms);
+    const auto at = [&](std::string_view name) {
+        return std::ranges::find_if(tree, [&](const MenuRow& row) { return row.name == name; });
+    };
+    ASSERT_EQ(tree.size(), MenuTree({}).size() + 3);
+    EXPECT_STREQ((at("mnuRemoveTags") + 1)->name, "mnuTag");
+    EXPECT_STREQ((at("mnuTag") + 1)->name, "mnuOther2");
+    EXPECT_EQ((at("mnuOther2") + 1)->kind, MenuRow::End);
+    EXPECT_STREQ((at("mnuConvertToUNIX") + 1)->name, "mnuChart");
+    EXPECT_EQ(at("mnuTag")->kind, MenuRow::Entry);
+    EXPECT_STREQ(at("mnuTag")->caption, "&Tag");
+    EXPECT_STREQ(at("mnuTag")->shortcut, "Ctrl+K");
+}
+
+TEST_F(MenuTreeTest, EveryNewEntryNamesAMenuOfTheTree) {
+    for (const FormRow& row : FormsWithNewEntry())
+        EXPECT_TRUE(bar.findChild<QMenu*>(QString::fromLatin1(row.reach.entry.menu))) << row.name;
+}
+
 // What a key does once: two entries of one key would make it do nothing.
 TEST_F(MenuTreeTest, NoKeyIsGivenTwiceAndTheTextControlKeepsItsOwn) {
     QSet<QString> keys;
@@ -252,7 +287,10 @@ TEST_F(MenuTreeTest, NoKeyIsGivenTwiceAndTheTextControlKeepsItsOwn) {
         EXPECT_FALSE(keys.contains(key)) << row.shortcut;
         keys.insert(key);
     }
-    EXPECT_EQ(keys.size(), 23);
+    const auto brought = FormsWithNewEntry();
+    const auto withKey =
+        std::ranges::count_if(brought, [](const FormRow& row) { return *row.reach.entry.shortcut != '\0'; });
+    EXPECT_EQ(keys.size(), 23 + withKey);
     for (const char* own : {"Ctrl+Z", "Ctrl+X", "Ctrl+C", "Ctrl+V", "Del"})
         EXPECT_FALSE(keys.contains(QString::fromLatin1(own))) << own;
 }
@@ -289,7 +327,7 @@ TEST_F(MenuTreeTest, AnEntryRunsTheCommandOfItsName) {
             Entry(row.name)->trigger();
         }
     EXPECT_EQ(ran, expected);
-    EXPECT_EQ(ran.size(), 124);
+    EXPECT_EQ(ran.size(), 124 + static_cast<qsizetype>(FormsWithNewEntry().size()));
 }
 
 } // namespace

@@ -1,6 +1,7 @@
 // The mode strip of the real frame: what a click on it does to the documents and their files.
 #include "app/DocumentTabs.h"
 #include "app/frmExternal.h"
+#include "app/KnownForms.h"
 #include "app/RealFrame.h"
 #include "support/FakeWebControls.h"
 
@@ -184,7 +185,7 @@ TEST_F(ModesByOptions, ADocumentThatStandsOpenGetsTheControlsAtOnce) {
 TEST_F(ModesByOptions, ANewBackgroundShowsAsSoonAsTheDialogIsGone) {
     Start("0");
     Open();
-    FillOptionsCommands(*run->frame);
+    FillFormCommands(*run->frame, AppForms());
     run->prompts.colorAnswers = {0x123456};
     QTimer::singleShot(0, run->frame.get(), [this] {
         auto* form = run->frame->LoadedForms().Find<frmExternal>();

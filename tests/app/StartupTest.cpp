@@ -3,6 +3,7 @@
 
 #include "app/DocumentTabs.h"
 #include "app/frmExternal.h"
+#include "app/KnownForms.h"
 #include "app/RealFrame.h"
 #include "app/UserButtons.h"
 #include "dialogs/DialogState.h"
@@ -317,7 +318,7 @@ TEST_F(StartupOf, TheLoadWaitsForTheOptionsDialog) {
     const QString path = MakeFile(QStringLiteral("a.htm"), "a");
     ProgramRun run;
     bool modal = false, openedMeanwhile = true;
-    FillOptionsCommands(*run.frame);
+    FillFormCommands(*run.frame, AppForms());
     QTimer::singleShot(0, run.frame.get(), [&] {
         QWidget* options = run.frame->LoadedForms().Find<frmExternal>();
         modal = options && options->isModal();

@@ -1,5 +1,6 @@
 // The Options dialog: pages, switches that act at once, OK page by page, bad sizes and bad settings.
 #include "app/frmExternal.h"
+#include "app/KnownForms.h"
 
 #include "app/BrowserLookup.h"
 #include "app/ProgramState.h"
@@ -649,7 +650,7 @@ TEST_F(Options, CtrlTabTurnsThePages) {
 }
 
 TEST_F(Options, TheCommandWaitsForTheDialogsEnd) {
-    FillOptionsCommands(frame);
+    FillFormCommands(frame, AppForms());
     bool shownOnce = false;
     QTimer::singleShot(0, frame.window.get(), [&] {
         form = frame.LoadedForms().Find<frmExternal>();

@@ -1,7 +1,7 @@
 // Opens a tag dialog by its command and uses it as a person does: fields by name, buttons by mouse, keys.
 #pragma once
 
-#include "builders/DialogCommands.h"
+#include "builders/BuilderForms.h"
 #include "support/TestFrame.h"
 
 #include <gtest/gtest.h>
@@ -14,7 +14,7 @@
 
 class DialogTest : public testing::Test {
   protected:
-    void SetUp() override { FillDialogCommands(frame); }
+    void SetUp() override { FillFormCommands(frame, BuilderForms()); }
 
     /// Runs a command and makes the form that it shows the one that the other calls work on.
     QWidget& Open(const QString& command, const QString& name) {

@@ -1,5 +1,6 @@
 #include "builders/frmBody.h"
 
+#include "builders/AnyDialog.h"
 #include "builders/DialogTest.h"
 #include "builders/PageSample.h"
 #include "dialogs/ClickLabel.h"
@@ -294,5 +295,12 @@ TEST_F(frmBodyTest, FieldsStayEmptyWithoutADocument) {
     Press(T(u"cmdOK"));
     EXPECT_FALSE(Loaded(T(u"frmBody")));
 }
+
+const AnyDialog inAnyDialogTest({.form = u"frmBody",
+                                 .entries = {u"tb_body"},
+                                 .field = u"txtBG",
+                                 .open = u"<body bgcolor=\"MiXed\">",
+                                 .tellsTag = true,
+                                 .replaces = true});
 
 } // namespace

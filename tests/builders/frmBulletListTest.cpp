@@ -1,5 +1,6 @@
 #include "builders/frmBulletList.h"
 
+#include "builders/AnyDialog.h"
 #include "builders/DialogTest.h"
 #include "dialogs/TagRows.h"
 
@@ -107,5 +108,13 @@ TEST_F(frmBulletListTest, AnEmptyListHasTwoLines) {
     Press(T(u"cmdDone"));
     EXPECT_EQ(Text(), T(u"<UL>\r\n</UL>"));
 }
+
+const AnyDialog inAnyDialogTest({.form = u"frmBulletList",
+                                 .show = [](Frame& frame) { ShowBulletList(frame, QStringLiteral("U")); },
+                                 .field = u"txtAddItem",
+                                 .open = u"<ul>\r\n<li>MiXed\r\n</ul>",
+                                 .press = u"cmdAddItem",
+                                 .ok = {u"cmdDone", u"&Done"},
+                                 .cancel = {u"", u""}});
 
 } // namespace

@@ -1,5 +1,6 @@
 #include "builders/frmEmbed.h"
 
+#include "builders/AnyDialog.h"
 #include "builders/DialogTest.h"
 #include "dialogs/FileDialogs.h"
 #include "dialogs/TagRows.h"
@@ -80,5 +81,10 @@ TEST_F(frmEmbedTest, WritesItsFields) {
     EXPECT_EQ(Text(), T(u"<EMBED WIDTH=1 HEIGHT=2 PALETTE=BACKGROUND SRC=\"x.mid\">"));
     EXPECT_FALSE(Loaded(T(u"frmEmbed")));
 }
+
+const AnyDialog inAnyDialogTest({.form = u"frmEmbed",
+                                 .entries = {u"mnuEmbed", u"tb_embed"},
+                                 .field = u"txtURL",
+                                 .open = u"<embed src=\"MiXed\">"});
 
 } // namespace

@@ -1,5 +1,6 @@
 #include "builders/frmFont.h"
 
+#include "builders/AnyDialog.h"
 #include "builders/DialogTest.h"
 #include "builders/FontTag.h"
 #include "dialogs/TagRows.h"
@@ -105,5 +106,11 @@ TEST_F(frmFontTest, WritesACharacterFromOutsideTheCodePageAsItsReference) {
     Press(T(u"cmdOK"));
     EXPECT_EQ(Text(), T(u"<FONT FACE=\"&#9731; \u20AC\"></FONT>"));
 }
+
+const AnyDialog inAnyDialogTest({.form = u"frmFont",
+                                 .entries = {u"tb_abc"},
+                                 .field = u"txtFontColor",
+                                 .open = u"<font color=MiXed>",
+                                 .close = u"</font>"});
 
 } // namespace

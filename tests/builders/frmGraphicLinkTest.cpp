@@ -1,5 +1,6 @@
 #include "builders/frmGraphicLink.h"
 
+#include "builders/AnyDialog.h"
 #include "builders/DialogTest.h"
 #include "dialogs/DialogState.h"
 #include "dialogs/FileDialogs.h"
@@ -227,5 +228,11 @@ TEST_F(frmGraphicLinkTest, StandsBeforeTheSelectedText) {
     Press(T(u"cmdOK"));
     EXPECT_EQ(Text(), T(u"<IMG USEMAP=\"#\">ab"));
 }
+
+const AnyDialog inAnyDialogTest({.form = u"frmGraphicLink",
+                                 .entries = {u"mnuImage", u"tb_image"},
+                                 .field = u"txtURL",
+                                 .open = u"<img src=\"MiXed\" usemap=\"#\">",
+                                 .tellsTag = true});
 
 } // namespace

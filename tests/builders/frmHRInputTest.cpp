@@ -1,5 +1,6 @@
 #include "builders/frmHRInput.h"
 
+#include "builders/AnyDialog.h"
 #include "builders/DialogTest.h"
 #include "dialogs/TagRows.h"
 #include <QCheckBox>
@@ -86,5 +87,10 @@ TEST_F(frmHRInputTest, IsGoneBeforeItsTagComes) {
     EXPECT_EQ(Text(), T(u"<HR>"));
     EXPECT_FALSE(loadedAtInsertion);
 }
+
+const AnyDialog inAnyDialogTest({.form = u"frmHRInput",
+                                 .entries = {u"mnuHR", u"tb_hr"},
+                                 .field = u"txtWidthInput",
+                                 .open = u"<hr width=MiXed>"});
 
 } // namespace

@@ -1,5 +1,6 @@
 #include "builders/frmJava.h"
 
+#include "builders/AnyDialog.h"
 #include "builders/DialogTest.h"
 #include "dialogs/TagRows.h"
 #include <QGroupBox>
@@ -60,5 +61,11 @@ TEST_F(frmJavaTest, LeavesTheCaretThreeCharactersTooFarBack) {
     EXPECT_EQ(frame.Box().SelStart(), 5);
     EXPECT_EQ(frame.Box().SelLength(), 0);
 }
+
+const AnyDialog inAnyDialogTest({.form = u"frmJava",
+                                 .entries = {u"tb_java"},
+                                 .field = u"txtCode",
+                                 .open = u"<applet code=MiXed>",
+                                 .close = u"\r\n</applet>"});
 
 } // namespace

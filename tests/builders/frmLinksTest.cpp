@@ -1,5 +1,6 @@
 #include "builders/frmLinks.h"
 
+#include "builders/AnyDialog.h"
 #include "builders/DialogTest.h"
 #include "dialogs/FileDialogs.h"
 #include "dialogs/TagRows.h"
@@ -116,5 +117,13 @@ TEST_F(frmLinksTest, TheProtocolHoldsJustWhatIsTyped) {
     QTest::keyClick(&Control<QComboBox>(T(u"cboChoice")), Qt::Key_Return);
     EXPECT_EQ(Text(), T(u"<A HREF=\"HTTP:\"></A>"));
 }
+
+const AnyDialog inAnyDialogTest({.form = u"frmLinks",
+                                 .entries = {u"mnuLink", u"tb_link"},
+                                 .field = u"txtURL",
+                                 .open = u"<a href=\"MiXed\">",
+                                 .close = u"</a>",
+                                 .ok = {u"cmdOK", u"&OK"},
+                                 .cancel = {u"cmdCancel", u"&Cancel"}});
 
 } // namespace

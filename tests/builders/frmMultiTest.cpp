@@ -1,5 +1,6 @@
 #include "builders/frmMulti.h"
 
+#include "builders/AnyDialog.h"
 #include "builders/DialogTest.h"
 #include "dialogs/TagRows.h"
 
@@ -40,5 +41,13 @@ TEST_F(frmMultiTest, CancelChangesNothing) {
     EXPECT_EQ(Text(), QString());
     EXPECT_FALSE(Loaded(T(u"frmMulti")));
 }
+
+const AnyDialog inAnyDialogTest({.form = u"frmMulti",
+                                 .entries = {u"tb_split"},
+                                 .field = u"txtCols",
+                                 .open = u"<multicol cols=MiXed>",
+                                 .close = u"</multicol>",
+                                 .ok = {u"Command1", u"OK"},
+                                 .cancel = {u"Command2", u"Cancel"}});
 
 } // namespace

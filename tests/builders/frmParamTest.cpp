@@ -1,5 +1,6 @@
 #include "builders/frmParam.h"
 
+#include "builders/AnyDialog.h"
 #include "builders/DialogTest.h"
 #include "dialogs/TagRows.h"
 
@@ -43,5 +44,11 @@ TEST_F(frmParamTest, IsFilledByKeysAlone) {
     QTest::keyClick(form->focusWidget(), Qt::Key_Return);
     EXPECT_EQ(Text(), T(u"<PARAM NAME=a VALUE=1><PARAM NAME=b>"));
 }
+
+const AnyDialog inAnyDialogTest({.form = u"frmParam",
+                                 .entries = {u"tb_java2"},
+                                 .field = u"txtName",
+                                 .open = u"<param name=MiXed>",
+                                 .stays = true});
 
 } // namespace

@@ -1,5 +1,6 @@
 #include "builders/frmSpacer.h"
 
+#include "builders/AnyDialog.h"
 #include "builders/DialogTest.h"
 #include "dialogs/TagRows.h"
 #include <QRadioButton>
@@ -114,5 +115,12 @@ TEST_F(frmSpacerTest, WritesTheFieldsOfItsKind) {
         EXPECT_FALSE(Loaded(T(u"frmSpacer")));
     }
 }
+
+const AnyDialog inAnyDialogTest({.form = u"frmSpacer",
+                                 .entries = {u"tb_rectangle"},
+                                 .field = u"txtSize",
+                                 .open = u"<spacer type=horizontal size=MiXed>",
+                                 .press = u"optHorz",
+                                 .cancel = {u"cmdCancel", u"&Cancel"}});
 
 } // namespace

@@ -1,7 +1,7 @@
-#include "builders/DialogCommands.h"
+// The rules that all dialogs share: keys, mnemonics, the active document, none open.
+#include "builders/AnyDialog.h"
 
 #include "builders/DialogTest.h"
-#include "builders/frmBulletList.h"
 #include "dialogs/DialogState.h"
 #include "dialogs/FieldFrame.h"
 #include <QAccessible>
@@ -11,104 +11,18 @@
 
 namespace {
 
-struct Button {
-    const char16_t* name;
-    const char16_t* caption;
-};
-
-/// A form, the entries that show it ("" for ShowBulletList), and what its OK writes with LowerCaseTags on
-/// when one of its fields holds "MiXed" and one of its buttons was pressed.
-struct FormRow {
-    const char16_t* form;
-    std::vector<const char16_t*> entries;
-    const char16_t* field;
-    const char16_t* open;
-    const char16_t* close = u"";
-    const char16_t* press = u"";
-    Button ok = {u"cmdOK", u"OK"};
-    Button cancel = {u"cmdCancel", u"Cancel"};
-    bool stays = false;    ///< OK leaves it open
-    bool tellsTag = false; ///< OK hands its tag on
-    bool replaces = false; ///< OK deletes what is selected
-};
-
-const FormRow rows[] = {
-    {.form = u"frmBody",
-     .entries = {u"tb_body"},
-     .field = u"txtBG",
-     .open = u"<body bgcolor=\"MiXed\">",
-     .tellsTag = true,
-     .replaces = true},
-    {.form = u"frmGraphicLink",
-     .entries = {u"mnuImage", u"tb_image"},
-     .field = u"txtURL",
-     .open = u"<img src=\"MiXed\" usemap=\"#\">",
-     .tellsTag = true},
-    {.form = u"frmLinks",
-     .entries = {u"mnuLink", u"tb_link"},
-     .field = u"txtURL",
-     .open = u"<a href=\"MiXed\">",
-     .close = u"</a>",
-     .ok = {u"cmdOK", u"&OK"},
-     .cancel = {u"cmdCancel", u"&Cancel"}},
-    {.form = u"frmHRInput",
-     .entries = {u"mnuHR", u"tb_hr"},
-     .field = u"txtWidthInput",
-     .open = u"<hr width=MiXed>"},
-    {.form = u"frmFont",
-     .entries = {u"tb_abc"},
-     .field = u"txtFontColor",
-     .open = u"<font color=MiXed>",
-     .close = u"</font>"},
-    {.form = u"frmJava",
-     .entries = {u"tb_java"},
-     .field = u"txtCode",
-     .open = u"<applet code=MiXed>",
-     .close = u"\r\n</applet>"},
-    {.form = u"frmParam",
-     .entries = {u"tb_java2"},
-     .field = u"txtName",
-     .open = u"<param name=MiXed>",
-     .stays = true},
-    {.form = u"frmEmbed",
-     .entries = {u"mnuEmbed", u"tb_embed"},
-     .field = u"txtURL",
-     .open = u"<embed src=\"MiXed\">"},
-    {.form = u"frmSpacer",
-     .entries = {u"tb_rectangle"},
-     .field = u"txtSize",
-     .open = u"<spacer type=horizontal size=MiXed>",
-     .press = u"optHorz",
-     .cancel = {u"cmdCancel", u"&Cancel"}},
-    {.form = u"frmMulti",
-     .entries = {u"tb_split"},
-     .field = u"txtCols",
-     .open = u"<multicol cols=MiXed>",
-     .close = u"</multicol>",
-     .ok = {u"Command1", u"OK"},
-     .cancel = {u"Command2", u"Cancel"}},
-    {.form = u"frmBulletList",
-     .entries = {u""},
-     .field = u"txtAddItem",
-     .open = u"<ul>\r\n<li>MiXed\r\n</ul>",
-     .press = u"cmdAddItem",
-     .ok = {u"cmdDone", u"&Done"},
-     .cancel = {u"", u""}},
-};
-
 QString Name(const char16_t* text) {
     return QString::fromUtf16(text);
 }
 
 /// All tests run once for each form.
-class AnyDialogTest : public DialogTest, public testing::WithParamInterface<FormRow> {
+class AnyDialogTest : public DialogTest, public testing::WithParamInterface<DialogCase> {
   protected:
     QString FormName() const { return Name(GetParam().form); }
     QWidget& Show(const char16_t* entry = nullptr) {
-        const char16_t* command = entry ? entry : GetParam().entries.front();
-        if (*command)
-            return Open(Name(command), FormName());
-        ShowBulletList(frame, QStringLiteral("U"));
+        if (!GetParam().show)
+            return Open(Name(entry ? entry : GetParam().entries.front()), FormName());
+        GetParam().show(frame);
         form = frame.LoadedForms().Find(FormName());
         return *form;
     }
@@ -447,18 +361,17 @@ TEST_P(AnyDialogTest, ComboBoxesHoldJustWhatIsTyped) {
     }
 }
 
-INSTANTIATE_TEST_SUITE_P(Dialogs, AnyDialogTest, testing::ValuesIn(rows),
+INSTANTIATE_TEST_SUITE_P(Dialogs, AnyDialogTest, testing::ValuesIn(AnyDialog::All()),
                          [](const auto& info) { return Name(info.param.form).toStdString(); });
 
-using DialogCommandsTest = DialogTest;
+using BuilderFormsTest = DialogTest;
 
-TEST_F(DialogCommandsTest, AreTheEntriesThatShowADialog) {
+// A dialog that the table brings has its case, and it is the entries of the table that show it.
+TEST_F(BuilderFormsTest, TheCommandsAreTheEntriesThatShowADialog) {
     QStringList entries;
-    for (const FormRow& row : rows) {
-        for (const char16_t* entry : row.entries) {
-            if (*entry)
-                entries << Name(entry);
-        }
+    for (const DialogCase& dialog : AnyDialog::All()) {
+        for (const char16_t* entry : dialog.entries)
+            entries << Name(entry);
     }
     QStringList names = frame.Commands().Names();
     names.sort();
