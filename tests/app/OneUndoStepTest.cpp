@@ -9,6 +9,7 @@
 #include "editor/Modes.h"
 #include "support/FakeWebControls.h"
 
+#include <QClipboard>
 #include <QComboBox>
 #include <QLineEdit>
 #include <QListWidget>
@@ -36,6 +37,8 @@ class OneUndoStep : public ActsTest {
             SCOPED_TRACE(name.toStdString());
             run.New();
             Put(marked);
+            // Pasting has something to paste, whatever ran before.
+            QGuiApplication::clipboard()->setText(u"pasted"_s);
             if (!ChangesInOneStep([&] { Run(name); }))
                 idle << name;
             CloseAll();
