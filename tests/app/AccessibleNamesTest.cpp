@@ -7,6 +7,7 @@
 #include "app/UserButtons.h"
 #include "builders/BuilderForms.h"
 #include "editor/frmDropDown.h"
+#include "support/SourceFolder.h"
 
 #include <QAccessible>
 #include <QDir>
@@ -114,7 +115,7 @@ TEST_F(AccessibleNames, NoFormIsMissingAbove) {
     LoadAll();
     int forms = 0;
     for (const char* folder : {"app", "builders", "editor"}) {
-        const QDir sources(QStringLiteral(TARNWICK_SOURCE_DIR "/src/") + QString::fromLatin1(folder));
+        const QDir sources(SourceFolder() + QStringLiteral("/src/") + QString::fromLatin1(folder));
         for (const QString& file : sources.entryList({QStringLiteral("*.ui")})) {
             EXPECT_TRUE(LoadedForms().Find(file.chopped(3))) << file.toStdString();
             ++forms;

@@ -2,6 +2,7 @@
 // folders of more pages, colon-separated.
 #include "app/FilesFrame.h"
 #include "platform/Cp1252.h"
+#include "support/SourceFolder.h"
 
 #include <iostream>
 #include <QDirIterator>
@@ -80,7 +81,7 @@ void ComesBack(FilesFrame& frame, const QString& page) {
 }
 
 TEST(DocumentPagesTest, TheExampleSiteComesBack) {
-    const QStringList pages = PagesBelow(QStringLiteral(TARNWICK_SOURCE_DIR "/examples/site"));
+    const QStringList pages = PagesBelow(SourceFolder() + QStringLiteral("/examples/site"));
     ASSERT_GE(pages.size(), 5);
     FilesFrame frame;
     for (const QString& page : pages)

@@ -3,6 +3,8 @@
 #include "builders/EditTag.h"
 #include "dialogs/TagRows.h"
 #include "platform/Cp1252.h"
+#include "support/SourceFolder.h"
+
 #include <map>
 #include <QDirIterator>
 #include <QFile>
@@ -43,8 +45,8 @@ class ExampleSiteTest : public DialogTest {
   protected:
     static QStringList Pages() {
         QStringList pages;
-        QDirIterator files(T(u"" TARNWICK_SOURCE_DIR "/examples/site"), {T(u"*.html"), T(u"*.htm")},
-                           QDir::Files, QDirIterator::Subdirectories);
+        QDirIterator files(SourceFolder() + T(u"/examples/site"), {T(u"*.html"), T(u"*.htm")}, QDir::Files,
+                           QDirIterator::Subdirectories);
         while (files.hasNext())
             pages << files.next();
         return pages;

@@ -1,4 +1,6 @@
 // The arrows between the folders of src/ point one way only.
+#include "support/SourceFolder.h"
+
 #include <gtest/gtest.h>
 #include <map>
 #include <QDirIterator>
@@ -50,7 +52,7 @@ TEST(IncludeDirection, TheRuleTellsUpFromDown) {
 }
 
 TEST(IncludeDirection, NoArrowPointsUp) {
-    const QDir root(QStringLiteral(TARNWICK_SOURCE_DIR "/src"));
+    const QDir root(SourceFolder() + QStringLiteral("/src"));
     int files = 0;
     QDirIterator sources(root.path(), {QStringLiteral("*.cpp"), QStringLiteral("*.h")}, QDir::Files,
                          QDirIterator::Subdirectories);
