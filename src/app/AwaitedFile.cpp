@@ -2,7 +2,7 @@
 #include "app/AwaitedFile.h"
 
 #include "app/DocumentFiles.h"
-#include "app/OpenDocument.h"
+#include "app/TakeInText.h"
 #include "editor/Document.h"
 #include "editor/Frame.h"
 

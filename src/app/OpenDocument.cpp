@@ -4,14 +4,9 @@
 #include "app/AwaitedFile.h"
 #include "app/DocumentFiles.h"
 #include "app/RecentFiles.h"
-#include "editor/ColorizeText.h"
-#include "editor/Document.h"
-#include "editor/Forms.h"
+#include "app/TakeInText.h"
 #include "editor/Frame.h"
-#include "platform/Path.h"
 #include "platform/Prompts.h"
-#include "platform/RichTextBox.h"
-#include "platform/Settings.h"
 #include "platform/WholeFile.h"
 
 namespace {
@@ -30,27 +25,7 @@ bool RefusedAsDuplicate(Frame& frame, const QString& path) {
     return true;
 }
 
-void WriteColored(Frame& frame, QString& text) {
-    bool keepDocument = true;
-    ColorizeText(frame, text, keepDocument, true);
-}
-
-/// What stands there now is unchanged, and where undo ends: undoing the load itself would empty the page.
-void CountAsLoaded(Document& document) {
-    document.txtInput().EmptyUndoBuffer();
-    document.SetModified(false);
-}
-
 } // namespace
-
-bool IsLoaded(Frame& frame, const QString& path) {
-    const Forms& forms = frame.LoadedForms();
-    for (int i = 0; i < forms.Count(); ++i) {
-        if (forms.CaptionAt(i) == path)
-            return true;
-    }
-    return false;
-}
 
 void OpenDocumentFile(Frame& frame, const QString& path) {
     if (RefusedAsDuplicate(frame, path))
@@ -66,23 +41,6 @@ void OpenDocumentFile(Frame& frame, const QString& path) {
         new AwaitedFile(frame, *document, path);
 }
 
-void TakeInText(Frame& frame, const QString& path, QString text) {
-    Document* document = frame.ActiveForm();
-    if (!document)
-        return;
-    document->SetCaption(path);
-    if (frame.Store().ReadFlag(Keys::ColoredTags)) {
-        frame.SetStatusPanel(QStringLiteral("Coloring HTML tags, please wait . . . "), true);
-        WriteColored(frame, text);
-        frame.SetStatusPanel(QString());
-    } else {
-        document->txtInput().SetSelText(text);
-    }
-    CountAsLoaded(*document);
-    AddToRecentFiles(frame);
-    frame.AddDocumentTab(path, Path::NameOnDisk(path));
-}
-
 void OpenRecentFile(Frame& frame, int n) {
     const QString path = RecentFiles::Caption(frame, n);
     if (WholeFile::Size(path) <= 0) {
@@ -95,12 +53,5 @@ void OpenRecentFile(Frame& frame, int n) {
     if (RefusedAsDuplicate(frame, path))
         return;
     frame.NewDocument();
-    Document* document = frame.ActiveForm();
-    if (!document)
-        return;
-    QString text = DocumentFiles::ReadInOneGo(path).value_or(QString());
-    document->SetCaption(path);
-    WriteColored(frame, text);
-    CountAsLoaded(*document);
-    frame.AddDocumentTab(path, Path::NameOnDisk(path));
+    TakeInRecentText(frame, path, DocumentFiles::ReadInOneGo(path).value_or(QString()));
 }

@@ -14,9 +14,3 @@ void OpenDocumentFile(Frame& frame, const QString& path);
 /// Reads the file of the recent entry n, 0 to 7: refused with a message when it is empty or missing; coloured
 /// whatever ColoredTags says; empty when it holds an end-of-text byte; the list stays as it is.
 void OpenRecentFile(Frame& frame, int n);
-
-/// Whether a loaded form, document or dialog, has the path for its caption.
-bool IsLoaded(Frame& frame, const QString& path);
-
-/// Makes a file's text, just read, the content of the active window, and gives it the path.
-void TakeInText(Frame& frame, const QString& path, QString text);

@@ -1,8 +1,8 @@
 // What happens as the main frame closes: dialogs and documents go, and the settings go out.
 #include "app/Shutdown.h"
 
-#include "app/frmTarnwick.h"
 #include "app/KnownForms.h"
+#include "app/MainFrame.h"
 #include "app/ProgramState.h"
 #include "app/RecentFiles.h"
 #include "app/UserButtons.h"
@@ -10,6 +10,7 @@
 #include "dialogs/frmImage.h"
 #include "editor/Document.h"
 #include "editor/EditorState.h"
+#include "editor/Forms.h"
 #include "editor/SpellChecker.h"
 #include "platform/Settings.h"
 #include "platform/Twips.h"
@@ -25,7 +26,7 @@ constexpr int storedButtons = 30;
 
 } // namespace
 
-Shutdown::Shutdown(frmTarnwick& frame) : frame_(frame) {}
+Shutdown::Shutdown(MainFrame& frame) : frame_(frame) {}
 
 std::vector<const char*> Shutdown::UnloadedForms() {
     return FormsToUnload(KnownForms());
@@ -84,7 +85,8 @@ void Shutdown::UnhookWindow() {
 }
 
 void Shutdown::KeepWindowState() {
-    mainWindowState_ = frame_.isMinimized() ? u"1"_s : frame_.isMaximized() ? u"2"_s : u"0"_s;
+    const QWidget& window = *frame_.Window();
+    mainWindowState_ = window.isMinimized() ? u"1"_s : window.isMaximized() ? u"2"_s : u"0"_s;
 }
 
 void Shutdown::KeepRecentFiles() {
@@ -128,10 +130,11 @@ void Shutdown::WriteGeometry() {
     if (mainWindowState_ != u"0")
         return;
     Settings& store = frame_.Store();
-    store.WriteNumber(Keys::MainFormHeight, Twips::FromPixels(frame_.height()));
-    store.WriteNumber(Keys::MainFormWidth, Twips::FromPixels(frame_.width()));
-    store.WriteNumber(Keys::MainFormLeft, Twips::FromPixels(frame_.x()));
-    store.WriteNumber(Keys::MainFormTop, Twips::FromPixels(frame_.y()));
+    const QWidget& window = *frame_.Window();
+    store.WriteNumber(Keys::MainFormHeight, Twips::FromPixels(window.height()));
+    store.WriteNumber(Keys::MainFormWidth, Twips::FromPixels(window.width()));
+    store.WriteNumber(Keys::MainFormLeft, Twips::FromPixels(window.x()));
+    store.WriteNumber(Keys::MainFormTop, Twips::FromPixels(window.y()));
 }
 
 void Shutdown::WriteMainWindowState() {

@@ -6,7 +6,7 @@
 #include <span>
 #include <vector>
 
-class frmTarnwick;
+class MainFrame;
 
 class Shutdown {
   public:
@@ -18,7 +18,7 @@ class Shutdown {
         Writing run;
     };
 
-    explicit Shutdown(frmTarnwick& frame);
+    explicit Shutdown(MainFrame& frame);
 
     /// The forms that the query unload takes down, in their order; the active document comes after them.
     static std::vector<const char*> UnloadedForms();
@@ -50,6 +50,6 @@ class Shutdown {
     void UnloadImageDialog();
     void Watch(const char* name) const;
 
-    frmTarnwick& frame_;
+    MainFrame& frame_;
     QString mainWindowState_;
 };

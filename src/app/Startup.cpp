@@ -2,13 +2,14 @@
 #include "app/Startup.h"
 
 #include "app/DocumentTabs.h"
-#include "app/frmTarnwick.h"
+#include "app/MainFrame.h"
 #include "app/ProgramState.h"
 #include "app/RecentFiles.h"
 #include "app/UserButtons.h"
 #include "app/Version.h"
 #include "app/WindowPlace.h"
 #include "dialogs/DialogState.h"
+#include "editor/Commands.h"
 #include "editor/EditorState.h"
 #include "editor/SpellChecker.h"
 #include "platform/Path.h"
@@ -47,7 +48,7 @@ QString WithoutLastSeparator(const QString& folder) {
 
 } // namespace
 
-Startup::Startup(frmTarnwick& frame, QString commandLine, std::function<bool()> anotherCopyRuns)
+Startup::Startup(MainFrame& frame, QString commandLine, std::function<bool()> anotherCopyRuns)
     : frame_(frame), commandLine_(std::move(commandLine)), anotherCopyRuns_(std::move(anotherCopyRuns)) {}
 
 std::span<const Startup::Step> Startup::Steps() {
@@ -91,11 +92,12 @@ bool Startup::Run() {
 }
 
 void Startup::CentreFrame() {
-    frame_.move(WindowPlace::Centred(frame_.size(), frame_.screen()->geometry()).topLeft());
+    QWidget& window = *frame_.Window();
+    window.move(WindowPlace::Centred(window.size(), window.screen()->geometry()).topLeft());
 }
 
 void Startup::SetCaption() {
-    frame_.setWindowTitle(u"The Tarnwick Pro %1.%2"_s.arg(Version::Major).arg(Version::Minor));
+    frame_.Window()->setWindowTitle(u"The Tarnwick Pro %1.%2"_s.arg(Version::Major).arg(Version::Minor));
 }
 
 void Startup::HookActivation() {
@@ -141,10 +143,11 @@ void Startup::MoveFrame() {
     const QSize size(Twips::ToPixels(width_), Twips::ToPixels(height_));
     const QPoint corner(Twips::ToPixels(left_), Twips::ToPixels(top_));
     // A place stored with screens that are gone: the window must stay within a person's reach.
+    QWidget& window = *frame_.Window();
     const QRect place =
-        WindowPlace::Reachable(QRect(corner, size.expandedTo(frame_.minimumSizeHint())), Screens());
-    frame_.move(place.topLeft());
-    frame_.resize(place.size());
+        WindowPlace::Reachable(QRect(corner, size.expandedTo(window.minimumSizeHint())), Screens());
+    window.move(place.topLeft());
+    window.resize(place.size());
 }
 
 void Startup::ReadDictionaries() {
@@ -194,7 +197,7 @@ void Startup::ReadLists() {
 
 void Startup::MaximiseFrame() {
     if (mainWindowState_ == maximised)
-        frame_.setWindowState(Qt::WindowMaximized);
+        frame_.Window()->setWindowState(Qt::WindowMaximized);
 }
 
 void Startup::ShowRecentFiles() {

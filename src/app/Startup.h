@@ -5,7 +5,7 @@
 #include <QString>
 #include <span>
 
-class frmTarnwick;
+class MainFrame;
 struct SettingsKey;
 
 class Startup {
@@ -19,7 +19,7 @@ class Startup {
     };
 
     /// anotherCopyRuns tells whether the program is running already.
-    Startup(frmTarnwick& frame, QString commandLine, std::function<bool()> anotherCopyRuns);
+    Startup(MainFrame& frame, QString commandLine, std::function<bool()> anotherCopyRuns);
 
     /// The steps in the order in which they are done. A step that fails leaves what it was to set as it was,
     /// and the next one runs.
@@ -65,7 +65,7 @@ class Startup {
     void TakeColor(size_t slot);
     QString Text(const SettingsKey& key);
 
-    frmTarnwick& frame_;
+    MainFrame& frame_;
     QString commandLine_;
     std::function<bool()> anotherCopyRuns_;
     bool goOn_ = true;

@@ -20,7 +20,6 @@
 namespace {
 
 constexpr int buttonsPerPage = 15;
-constexpr int rightButton = 2;
 
 // A button whose caption, where it is too long for the face, ends in dots.
 class CaptionButton final : public QPushButton {
@@ -105,19 +104,30 @@ void UserButtons::TabStrip1_Click() {
     frameButtons_[first ? 1 : 0]->hide();
 }
 
-void UserButtons::Command1_Click(int index) {
+UserButton UserButtons::Button(int index) const {
     const EditorState& state = frame_.State<EditorState>();
-    // Copies go in, so that the case rule changes the document only and never the user's own tags.
-    const QString first = state.FirstBut[static_cast<size_t>(index)];
-    const QString second = state.SecondBut[static_cast<size_t>(index)];
-    InsertTag(frame_, first, second, false);
+    const auto n = static_cast<size_t>(index);
+    return {Caption(index), state.FirstBut[n], state.SecondBut[n]};
 }
 
-void UserButtons::Command1_MouseDown(int index, int button) {
-    if (button != rightButton)
-        return;
-    SetTag(QString::number(index));
-    frame_.LoadedForms().Show<frmTools>(frame_, *this);
+void UserButtons::TakeEdited(const UserButton& button) {
+    EditorState& state = frame_.State<EditorState>();
+    const auto n = static_cast<size_t>(tag_);
+    SetCaption(tag_, button.caption);
+    state.FirstBut[n] = button.first;
+    state.SecondBut[n] = button.second;
+}
+
+void UserButtons::Command1_Click(int index) {
+    const UserButton button = Button(index);
+    // Copies go in, so that the case rule changes the document only and never the user's own tags.
+    InsertTag(frame_, button.first, button.second, false);
+}
+
+void UserButtons::Edit(int index) {
+    tag_ = index;
+    const frmTools& editor = frame_.LoadedForms().Show<frmTools>(frame_, Button(index));
+    connect(&editor, &frmTools::Edited, this, &UserButtons::TakeEdited, Qt::UniqueConnection);
 }
 
 // A right press edits the button; so do the keyboard's ways to a context menu.
@@ -125,12 +135,12 @@ bool UserButtons::eventFilter(QObject* watched, QEvent* event) {
     const auto found = std::ranges::find(command1_, watched);
     if (found != command1_.end()) {
         const auto index = static_cast<int>(found - command1_.begin());
-        if (event->type() == QEvent::MouseButtonPress) {
-            const auto* press = static_cast<QMouseEvent*>(event);
-            Command1_MouseDown(index, press->button() == Qt::RightButton ? rightButton : 1);
-        } else if (event->type() == QEvent::ContextMenu) {
+        if (event->type() == QEvent::MouseButtonPress &&
+            static_cast<QMouseEvent*>(event)->button() == Qt::RightButton)
+            Edit(index);
+        if (event->type() == QEvent::ContextMenu) {
             if (static_cast<QContextMenuEvent*>(event)->reason() == QContextMenuEvent::Keyboard)
-                Command1_MouseDown(index, rightButton);
+                Edit(index);
             return true;
         }
     }

@@ -1,14 +1,13 @@
 // The main frame: the one window that owns menus, strips and document windows, for the whole run.
 #pragma once
 
+#include "app/MainFrame.h"
 #include "editor/Commands.h"
 #include "editor/Forms.h"
-#include "editor/Frame.h"
 
 #include <QMainWindow>
 #include <QStringList>
 
-class DocumentTabs;
 class FileDrop;
 class frmTemplate;
 class OpenDocuments;
@@ -17,12 +16,10 @@ class QMdiArea;
 class QMdiSubWindow;
 class QTabBar;
 class Settings;
-class SpellChecker;
 class StatusBar;
 class ToolbarHolder;
-class UserButtons;
 
-class frmTarnwick final : public QMainWindow, public Frame {
+class frmTarnwick final : public QMainWindow, public MainFrame {
     Q_OBJECT
 
   public:
@@ -51,10 +48,11 @@ class frmTarnwick final : public QMainWindow, public Frame {
     void SelectModeTab(const QString& caption) override;
 
     QMdiArea& Area() { return *area_; }
-    DocumentTabs& TabStrip2() { return *tabStrip2_; }
-    UserButtons& Picture2() { return *picture2_; }
-    QWidget& Picture4() { return *picture4_; }
-    SpellChecker& VSSpell1() { return *vsSpell1_; }
+    DocumentTabs& TabStrip2() override { return *tabStrip2_; }
+    UserButtons& Picture2() override { return *picture2_; }
+    QWidget& Picture4() override { return *picture4_; }
+    SpellChecker& VSSpell1() override { return *vsSpell1_; }
+    void SetHooks(bool activation, bool drops) override;
 
     /// What another copy of the program, or a drop, brings: opens each path in turn, pending events between.
     /// While a modal dialog is up they wait for its end.
@@ -63,8 +61,6 @@ class frmTarnwick final : public QMainWindow, public Frame {
     void ComeToFront();
     /// Gives the focus to the text of the active document.
     void FocusDocument();
-    /// Whether the frame hears of the application becoming active, and of files dropped on it.
-    void SetHooks(bool activation, bool drops);
 
   Q_SIGNALS:
     /// The frame is unloaded and its settings are written: the process ends.

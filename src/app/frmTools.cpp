@@ -1,43 +1,31 @@
 // The dialog that edits a user button: its title and its two tags.
 #include "app/frmTools.h"
 
-#include "app/UserButtons.h"
-#include "editor/EditorState.h"
 #include "editor/Forms.h"
 #include "editor/Frame.h"
 #include "platform/Cp1252.h"
-#include "platform/Values.h"
 #include "ui_frmTools.h"
 
-#include <algorithm>
 #include <QFocusEvent>
 #include <QTimer>
 
-frmTools::frmTools(Frame& frame, UserButtons& strip)
-    : QDialog(frame.Window()), ui_(std::make_unique<Ui::frmTools>()), frame_(frame), strip_(strip) {
+frmTools::frmTools(Frame& frame, const UserButton& button)
+    : QDialog(frame.Window()), ui_(std::make_unique<Ui::frmTools>()), frame_(frame) {
     ui_->setupUi(this);
     for (QLineEdit* field : {ui_->txtName, ui_->txtFirst, ui_->txtSecond})
         field->installEventFilter(this);
     connect(ui_->cmdOK, &QPushButton::clicked, this, &frmTools::cmdOK_Click);
     connect(ui_->cmdCancel, &QPushButton::clicked, this, &frmTools::cmdCancel_Click);
-    Form_Load();
+    ui_->txtName->setText(button.caption);
+    ui_->txtFirst->setText(button.first);
+    ui_->txtSecond->setText(button.second);
 }
 
 frmTools::~frmTools() = default;
 
-void frmTools::Form_Load() {
-    button_ = std::clamp(Values::WholeVal(strip_.Tag()), 0, UserButtons::Count - 1);
-    const EditorState& state = frame_.State<EditorState>();
-    ui_->txtName->setText(strip_.Caption(button_));
-    ui_->txtFirst->setText(state.FirstBut[static_cast<size_t>(button_)]);
-    ui_->txtSecond->setText(state.SecondBut[static_cast<size_t>(button_)]);
-}
-
 void frmTools::cmdOK_Click() {
-    EditorState& state = frame_.State<EditorState>();
-    strip_.SetCaption(button_, Cp1252::Accept(ui_->txtName->text()));
-    state.FirstBut[static_cast<size_t>(button_)] = Cp1252::Accept(ui_->txtFirst->text());
-    state.SecondBut[static_cast<size_t>(button_)] = Cp1252::Accept(ui_->txtSecond->text());
+    Q_EMIT Edited({Cp1252::Accept(ui_->txtName->text()), Cp1252::Accept(ui_->txtFirst->text()),
+                   Cp1252::Accept(ui_->txtSecond->text())});
     Unload();
 }
 

@@ -92,8 +92,7 @@ class AccessibleNames : public FrameTest {
             if (row.reach.show)
                 row.reach.show(*run.frame);
         LoadedForms().Load<frmExternal>(*run.frame);
-        run.frame->Picture2().SetTag(QStringLiteral("0"));
-        LoadedForms().Load<frmTools>(*run.frame, run.frame->Picture2());
+        LoadedForms().Load<frmTools>(*run.frame, UserButton());
         LoadedForms().Load<frmSplash>(*run.frame);
         LoadedForms().Load<frmDropDown>(*run.frame).Fill({{}}, QStringLiteral("Attributes"));
     }

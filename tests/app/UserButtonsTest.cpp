@@ -135,8 +135,8 @@ TEST_F(UserButtonsTest, ARightPressEditsThatButton) {
     state.SecondBut[17] = Text("</X>");
     frmTools* editor = Editor(17);
     ASSERT_TRUE(editor);
-    EXPECT_EQ(strip->Tag(), Text("17"));
-    EXPECT_EQ(strip->property("Tag").toString(), Text("17"));
+    EXPECT_EQ(strip->Tag(), 17);
+    EXPECT_EQ(strip->property("Tag").toInt(), 17);
     EXPECT_TRUE(editor->isVisible());
     EXPECT_TRUE(editor->isModal());
     EXPECT_EQ(editor->parentWidget(), frame.Window());
@@ -197,14 +197,14 @@ TEST_F(UserButtonsTest, OnlyTheRightButtonEdits) {
     QTest::mouseRelease(Button(5), Qt::LeftButton);
     QTest::mousePress(Button(5), Qt::MiddleButton);
     EXPECT_FALSE(Dialog());
-    EXPECT_EQ(strip->Tag(), QString());
+    EXPECT_EQ(strip->Tag(), -1);
 }
 
 TEST_F(UserButtonsTest, TheKeyboardsWayToAContextMenuEditsToo) {
     QContextMenuEvent ask(QContextMenuEvent::Keyboard, QPoint(1, 1), Button(6)->mapToGlobal(QPoint(1, 1)));
     QCoreApplication::sendEvent(Button(6), &ask);
     EXPECT_TRUE(Dialog());
-    EXPECT_EQ(strip->Tag(), Text("6"));
+    EXPECT_EQ(strip->Tag(), 6);
 }
 
 TEST_F(UserButtonsTest, AFieldSelectsItsTextAsItGetsTheFocus) {

@@ -1,0 +1,66 @@
+// A file's text, just read, becomes the content of a document window.
+#include "app/TakeInText.h"
+
+#include "app/RecentFiles.h"
+#include "editor/ColorizeText.h"
+#include "editor/Document.h"
+#include "editor/Forms.h"
+#include "editor/Frame.h"
+#include "platform/Path.h"
+#include "platform/RichTextBox.h"
+#include "platform/Settings.h"
+
+namespace {
+
+void WriteColored(Frame& frame, QString& text) {
+    bool keepDocument = true;
+    ColorizeText(frame, text, keepDocument, true);
+}
+
+void WriteAsSet(Frame& frame, Document& document, QString& text) {
+    if (!frame.Store().ReadFlag(Keys::ColoredTags)) {
+        document.txtInput().SetSelText(text);
+        return;
+    }
+    frame.SetStatusPanel(QStringLiteral("Coloring HTML tags, please wait . . . "), true);
+    WriteColored(frame, text);
+    frame.SetStatusPanel(QString());
+}
+
+/// What stands there now is unchanged, and where undo ends: undoing the load itself would empty the page.
+void CountAsLoaded(Document& document) {
+    document.txtInput().EmptyUndoBuffer();
+    document.SetModified(false);
+}
+
+} // namespace
+
+bool IsLoaded(Frame& frame, const QString& path) {
+    const Forms& forms = frame.LoadedForms();
+    for (int i = 0; i < forms.Count(); ++i) {
+        if (forms.CaptionAt(i) == path)
+            return true;
+    }
+    return false;
+}
+
+void TakeInText(Frame& frame, const QString& path, QString text) {
+    Document* document = frame.ActiveForm();
+    if (!document)
+        return;
+    document->SetCaption(path);
+    WriteAsSet(frame, *document, text);
+    CountAsLoaded(*document);
+    AddToRecentFiles(frame);
+    frame.AddDocumentTab(path, Path::NameOnDisk(path));
+}
+
+void TakeInRecentText(Frame& frame, const QString& path, QString text) {
+    Document* document = frame.ActiveForm();
+    if (!document)
+        return;
+    document->SetCaption(path);
+    WriteColored(frame, text);
+    CountAsLoaded(*document);
+    frame.AddDocumentTab(path, Path::NameOnDisk(path));
+}
