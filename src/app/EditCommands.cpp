@@ -1,10 +1,12 @@
 // The Edit menu: its commands on the text, and which of them are enabled.
 #include "app/EditCommands.h"
 
+#include "editor/ActiveText.h"
 #include "editor/Commands.h"
 #include "editor/Document.h"
 #include "editor/Frame.h"
 #include "platform/Prompts.h"
+#include "platform/RichTextBox.h"
 
 #include <QAction>
 #include <QClipboard>
@@ -34,10 +36,10 @@ bool ClipboardHoldsText() {
 }
 
 void mnuSelectAll_Click(Frame& frame) {
-    Document* document = frame.ActiveForm();
-    if (!document)
+    RichTextBox* active = ActiveText(frame);
+    if (!active)
         return;
-    RichTextBox& text = document->txtInput();
+    RichTextBox& text = *active;
     text.SetSelStart(0);
     text.SetSelLength(text.TextLength());
 }
@@ -66,8 +68,8 @@ void mEdit_Click(Frame& frame, int Index) {
     case 4:
         return SendToActiveControl(frame, Message::Paste);
     case 5:
-        if (Document* document = frame.ActiveForm())
-            document->txtInput().SetSelText(QString());
+        if (RichTextBox* txtInput = ActiveText(frame))
+            txtInput->SetSelText(QString());
         return;
     default:
         return;

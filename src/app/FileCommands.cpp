@@ -6,6 +6,7 @@
 #include "app/RecentFiles.h"
 #include "dialogs/DialogState.h"
 #include "dialogs/FileDialogs.h"
+#include "editor/ActiveText.h"
 #include "editor/Commands.h"
 #include "editor/Document.h"
 #include "editor/Frame.h"
@@ -111,9 +112,9 @@ void mnuInsertContents_Click(Frame& frame) {
     if (!frame.ActiveForm())
         return;
     const FileAnswer answer = frame.Ask().OpenFile(frame.Window(), DocumentRequest());
-    Document* document = frame.ActiveForm();
-    if (answer.Cancelled() || !document)
+    RichTextBox* txtInput = ActiveText(frame);
+    if (answer.Cancelled() || !txtInput)
         return;
     if (const auto text = DocumentFiles::ReadInOneGo(answer.folder + answer.names.first()))
-        document->txtInput().SetSelText(*text);
+        txtInput->SetSelText(*text);
 }

@@ -1,7 +1,7 @@
 // The way out of a strip by the keyboard.
 #include "app/LeaveByEscape.h"
 
-#include "editor/Document.h"
+#include "editor/ActiveText.h"
 #include "editor/Frame.h"
 #include "platform/RichTextBox.h"
 
@@ -20,8 +20,8 @@ class WayOut final : public QObject {
     bool eventFilter(QObject* watched, QEvent* event) override {
         if (event->type() != QEvent::KeyPress || static_cast<QKeyEvent*>(event)->key() != Qt::Key_Escape)
             return QObject::eventFilter(watched, event);
-        if (Document* document = frame_.ActiveForm())
-            document->txtInput().SetFocus();
+        if (RichTextBox* txtInput = ActiveText(frame_))
+            txtInput->SetFocus();
         return true;
     }
 

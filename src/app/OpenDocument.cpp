@@ -11,8 +11,6 @@
 
 namespace {
 
-const QString title = QStringLiteral("The Tarnwick");
-
 /// Says so when a file is open already. The comparison is exact: another spelling of its path opens a file
 /// twice.
 bool RefusedAsDuplicate(Frame& frame, const QString& path) {
@@ -21,7 +19,7 @@ bool RefusedAsDuplicate(Frame& frame, const QString& path) {
     frame.Ask().MsgBox(
         frame.Window(),
         QStringLiteral("File \"%1\" already opened.\r\nDuplicate copies not allowed.").arg(path),
-        MsgButtons::OK, MsgIcon::Critical, title);
+        MsgButtons::OK, MsgIcon::Critical, ProgramTitle);
     return true;
 }
 
@@ -47,7 +45,7 @@ void OpenRecentFile(Frame& frame, int n) {
         frame.Ask().MsgBox(frame.Window(),
                            QStringLiteral("The file you selected was not found.\r"
                                           "Please check to see if it was deleted or moved."),
-                           MsgButtons::OK, MsgIcon::Exclamation, title);
+                           MsgButtons::OK, MsgIcon::Exclamation, ProgramTitle);
         return;
     }
     if (RefusedAsDuplicate(frame, path))

@@ -15,8 +15,6 @@
 
 namespace {
 
-const QString programTitle = QStringLiteral("The Tarnwick");
-
 /// Whether the document's text may go: an empty one goes unasked.
 bool MayReplace(Frame& frame, Document& document, const QString& title) {
     if (document.txtInput().TextLength() == 0)
@@ -61,7 +59,7 @@ void mnuDefault_Click(Frame& frame) {
 
 void mnuUserTemplate_Click(Frame& frame) {
     Document* document = frame.ActiveForm();
-    if (!document || !MayReplace(frame, *document, programTitle))
+    if (!document || !MayReplace(frame, *document, ProgramTitle))
         return;
     const UndoAction step(document->txtInput());
     document->txtInput().SetText(QString());
@@ -74,7 +72,7 @@ void mnuSetUserTemplate_Click(Frame& frame) {
     Document* document = frame.ActiveForm();
     if (!document) {
         frame.Ask().MsgBox(frame.Window(), QStringLiteral("Load document first."), MsgButtons::OK,
-                           MsgIcon::Critical, programTitle);
+                           MsgIcon::Critical, ProgramTitle);
         return;
     }
     frame.State<ProgramState>().UserTemplate = document->txtInput().Text();

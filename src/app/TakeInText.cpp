@@ -2,6 +2,7 @@
 #include "app/TakeInText.h"
 
 #include "app/RecentFiles.h"
+#include "editor/ColoredTags.h"
 #include "editor/ColorizeText.h"
 #include "editor/Document.h"
 #include "editor/Forms.h"
@@ -18,7 +19,7 @@ void WriteColored(Frame& frame, QString& text) {
 }
 
 void WriteAsSet(Frame& frame, Document& document, QString& text) {
-    if (!frame.Store().ReadFlag(Keys::ColoredTags)) {
+    if (!ColoredTagsChecked(frame.Store())) {
         document.txtInput().SetSelText(text);
         return;
     }

@@ -6,6 +6,8 @@
 #include "app/ProgramState.h"
 #include "builders/frmBulletList.h"
 #include "builders/MenuTagCommands.h"
+#include "editor/ActiveText.h"
+#include "editor/ColoredTags.h"
 #include "editor/Commands.h"
 #include "editor/Document.h"
 #include "editor/Frame.h"
@@ -72,8 +74,8 @@ QString MetaTag(const QString& name, const QString& content) {
 }
 
 void tb_delete_Click(Frame& frame) {
-    if (Document* document = frame.ActiveForm())
-        document->txtInput().SetSelText(QString());
+    if (RichTextBox* txtInput = ActiveText(frame))
+        txtInput->SetSelText(QString());
 }
 
 } // namespace
@@ -114,19 +116,18 @@ void tb_new_Click(Frame& frame) {
 }
 
 void tb_balloon_Click(Frame& frame) {
-    Document* document = frame.ActiveForm();
-    if (!document)
+    RichTextBox* active = ActiveText(frame);
+    if (!active)
         return;
-    RichTextBox& text = document->txtInput();
+    RichTextBox& text = *active;
     QString comment = text.SelText();
     if (comment.isEmpty()) {
-        comment = frame.Ask().InputBox(frame.Window(), QStringLiteral("Add Comment:"),
-                                       QStringLiteral("The Tarnwick"));
+        comment = frame.Ask().InputBox(frame.Window(), QStringLiteral("Add Comment:"), ProgramTitle);
         if (comment.isEmpty())
             return;
     }
     const UndoAction step(text);
-    const bool colored = frame.Store().ReadFlag(Keys::ColoredTags);
+    const bool colored = ColoredTagsChecked(frame.Store());
     const auto takeColor = [&] {
         if (!colored)
             return;
@@ -148,7 +149,7 @@ void tb_anchor_Click(Frame& frame) {
                                               QStringLiteral("Anchor"));
     if (name.isEmpty()) {
         frame.Ask().MsgBox(frame.Window(), QStringLiteral("No Data or Cancel Button Pressed!"),
-                           MsgButtons::OK, MsgIcon::Critical, QStringLiteral("The Tarnwick"));
+                           MsgButtons::OK, MsgIcon::Critical, ProgramTitle);
         return;
     }
     // The blank behind the equals sign is meant.
@@ -157,8 +158,8 @@ void tb_anchor_Click(Frame& frame) {
 }
 
 void tb_meta_Click(Frame& frame) {
-    Document* document = frame.ActiveForm();
-    if (!document)
+    RichTextBox* active = ActiveText(frame);
+    if (!active)
         return;
     const QString lineEnd = QStringLiteral("\r\n");
     QString tags;
@@ -171,7 +172,7 @@ void tb_meta_Click(Frame& frame) {
     if (!keywords.isEmpty())
         tags += lineEnd + MetaTag(QStringLiteral("keywords"), keywords);
 
-    RichTextBox& text = document->txtInput();
+    RichTextBox& text = *active;
     const int before = text.SelStart();
     const QString head = QStringLiteral("<HEAD>");
     // Where there is no such tag the search gives -1, and the text goes in at 5.
@@ -203,10 +204,10 @@ void tb_ftp_Click(Frame& frame) {
 }
 
 void tb_list_Click(Frame& frame, const QString& open, const QString& close, const QString& kind) {
-    Document* document = frame.ActiveForm();
-    if (!document)
+    RichTextBox* txtInput = ActiveText(frame);
+    if (!txtInput)
         return;
-    if (document->txtInput().SelLength() == 0)
+    if (txtInput->SelLength() == 0)
         ShowBulletList(frame, kind);
     else
         WrapSelectionAsList(frame, open, close, true);

@@ -3,9 +3,12 @@
 
 #include "app/BrowserLookup.h"
 #include "app/ProgramState.h"
+#include "app/WordWrap.h"
 #include "dialogs/FileDialogs.h"
 #include "dialogs/FormFields.h"
 #include "dialogs/PickColor.h"
+#include "editor/ActiveText.h"
+#include "editor/ColoredTags.h"
 #include "editor/ColorizeText.h"
 #include "editor/Commands.h"
 #include "editor/Document.h"
@@ -17,6 +20,7 @@
 #include "platform/ColorNumber.h"
 #include "platform/Cp1252.h"
 #include "platform/FaceNames.h"
+#include "platform/RichTextBox.h"
 #include "platform/Settings.h"
 #include "platform/UndoAction.h"
 #include "platform/Values.h"
@@ -26,9 +30,6 @@
 
 namespace {
 
-const QString programTitle = QStringLiteral("The Tarnwick");
-
-constexpr int noWrapTwips = 65000;
 constexpr int smallestSize = 6;
 constexpr int largestSize = 64;
 constexpr int sizeStep = 2;
@@ -37,7 +38,7 @@ constexpr int sizeStep = 2;
 ColorNumber StoredColor(const Settings& store, const SettingsKey& key) {
     constexpr ColorNumber ends = 0x1000000;
     const ColorNumber color = store.ReadNumber(key);
-    return color >= 0 && color < ends ? color : key.standard.toInt();
+    return color >= 0 && color < ends ? color : key.StandardNumber();
 }
 
 void SetVisible(Frame& frame, const QString& strip, bool visible) {
@@ -117,7 +118,7 @@ void frmExternal::LoadFlags() {
     const Settings& store = frame_.Store();
     ui_->chkMSIEInstalled->setChecked(store.ReadFlag(Keys::UseMSIE));
     ui_->chkShowButtons->setChecked(store.ReadFlag(Keys::ShowUserButtons));
-    ui_->chkColoredTags->setChecked(store.ReadFlag(Keys::ColoredTags));
+    ui_->chkColoredTags->setChecked(ColoredTagsChecked(store));
     ui_->chkConvertCharacters->setChecked(store.ReadFlag(Keys::ConvertChar));
     ui_->chkUseWebTimer->setChecked(store.ReadFlag(Keys::UseWebTimer));
     ui_->chkWordWrap->setChecked(store.ReadFlag(Keys::WordWrap));
@@ -180,8 +181,8 @@ void frmExternal::chkAutoFill_Click(bool on) {
 
 void frmExternal::chkWordWrap_Click(bool on) {
     frame_.Store().WriteFlag(Keys::WordWrap, on);
-    if (Document* document = frame_.ActiveForm())
-        document->txtInput().SetRightMargin(on ? 0 : noWrapTwips);
+    if (RichTextBox* txtInput = ActiveText(frame_))
+        SetWordWrap(*txtInput, on);
 }
 
 void frmExternal::chkMSIEInstalled_Click(bool on) {
@@ -263,7 +264,7 @@ bool frmExternal::ExtProgs() {
     if (store.Sync())
         return true;
     frame_.Ask().MsgBox(this, QStringLiteral("Searching for web browser...please wait"), MsgButtons::OK,
-                        MsgIcon::Exclamation, programTitle);
+                        MsgIcon::Exclamation, ProgramTitle);
     return false;
 }
 
@@ -281,12 +282,12 @@ bool frmExternal::SelectTagColor() {
     const QString size = Cp1252::Accept(ui_->cboFontSize->currentText());
     if (Values::Val(size) == 0) {
         frame_.Ask().MsgBox(this, QStringLiteral("You must enter a number - letters won't work."),
-                            MsgButtons::OK, MsgIcon::Critical, programTitle);
+                            MsgButtons::OK, MsgIcon::Critical, ProgramTitle);
         return false;
     }
     store.Write(Keys::EditorFontSize, size);
-    if (Document* document = frame_.ActiveForm()) {
-        RichTextBox& txtInput = document->txtInput();
+    if (RichTextBox* active = ActiveText(frame_)) {
+        RichTextBox& txtInput = *active;
         txtInput.SetFont(StoredEditorFont(store));
         const UndoAction step(txtInput);
         const QString text = txtInput.Text();

@@ -4,6 +4,8 @@
 #include "app/Icons.h"
 #include "app/KnownForms.h"
 #include "app/ProgramState.h"
+#include "app/WindowState.h"
+#include "app/WordWrap.h"
 #include "editor/Commands.h"
 #include "editor/EditorFont.h"
 #include "editor/EditorState.h"
@@ -32,12 +34,6 @@ namespace {
 
 // So much larger than the window's inside is the text, so that its border lies outside.
 constexpr int borderTwips = 75;
-constexpr int noWrapTwips = 65000;
-constexpr int listDelayMilliseconds = 1150;
-
-QString StateDigit(const QWidget& window) {
-    return window.isMinimized() ? u"1"_s : window.isMaximized() ? u"2"_s : u"0"_s;
-}
 
 // The window's own system menu takes Ctrl+W as well as Ctrl+F4: two actions on one key, and neither would
 // work.
@@ -64,8 +60,6 @@ frmTemplate::frmTemplate(Frame& frame)
     LeaveCtrlWToTheFileMenu(systemMenu());
 
     timer1_->setObjectName(u"Timer1"_s);
-    timer1_->setSingleShot(true);
-    timer1_->setInterval(listDelayMilliseconds);
     new TypingEngine(frame_, *this, *timer1_, this);
     modes_ = std::make_unique<DocumentModes>(frame_, *this);
 }
@@ -98,7 +92,7 @@ void frmTemplate::ReadSettings() {
     const Settings& store = frame_.Store();
     if (store.ReadFlag(Keys::UseMSIE))
         modes_->LoadControls();
-    txtInput_->SetRightMargin(store.ReadFlag(Keys::WordWrap) ? 0 : noWrapTwips);
+    SetWordWrap(*txtInput_, store.ReadFlag(Keys::WordWrap));
     if (store.ReadFlag(Keys::UseWebTimer))
         frame_.Commands().Run(QString::fromLatin1(WebTimerForm));
     Form_Resize();
@@ -156,7 +150,7 @@ bool frmTemplate::Form_QueryUnload() {
     frame_.RemoveDocumentTab(Caption());
     auto& program = frame_.State<ProgramState>();
     --program.DocumentCount;
-    program.TemplateWindowState = StateDigit(*this);
+    program.TemplateWindowState = WindowStateDigit(*this);
     if (QWidget* timer = frame_.LoadedForms().Find(QString::fromLatin1(WebTimerForm)))
         frame_.LoadedForms().Unload(*timer);
     return true;

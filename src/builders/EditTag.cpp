@@ -5,8 +5,8 @@
 #include "builders/frmEmbed.h"
 #include "builders/frmGraphicLink.h"
 #include "builders/ImageTag.h"
+#include "editor/ActiveText.h"
 #include "editor/Commands.h"
-#include "editor/Document.h"
 #include "editor/Forms.h"
 #include "editor/Frame.h"
 #include "editor/TagEnds.h"
@@ -15,8 +15,8 @@
 namespace {
 
 void CutSelection(Frame& frame) {
-    if (Document* document = frame.ActiveForm())
-        document->txtInput().SetSelText(QString());
+    if (RichTextBox* txtInput = ActiveText(frame))
+        txtInput->SetSelText(QString());
 }
 
 void FillImage(Frame& frame, const QString& tag) {
@@ -44,10 +44,10 @@ TagKind KindOfTag(const QString& tag) {
 }
 
 void EditTag(Frame& frame) {
-    Document* document = frame.ActiveForm();
-    if (!document)
+    RichTextBox* active = ActiveText(frame);
+    if (!active)
         return;
-    RichTextBox& txtInput = document->txtInput();
+    RichTextBox& txtInput = *active;
     const auto place = FindTagAround(txtInput.SelStart(), ReaderOf(txtInput));
     if (!place)
         return;

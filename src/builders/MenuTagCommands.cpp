@@ -2,8 +2,8 @@
 #include "builders/MenuTagCommands.h"
 
 #include "builders/frmBulletList.h"
+#include "editor/ActiveText.h"
 #include "editor/Commands.h"
-#include "editor/Document.h"
 #include "editor/Frame.h"
 #include "editor/InsertTag.h"
 #include "platform/Cp1252.h"
@@ -112,8 +112,8 @@ void AskAndInsert(Frame& frame, const AskingRow& row) {
 void mnuImageMap_Click(Frame& frame) {
     if (!frame.ActiveForm())
         return;
-    const QString name = frame.Ask().InputBox(frame.Window(), QStringLiteral("Enter Map Name:"),
-                                              QStringLiteral("The Tarnwick"));
+    const QString name =
+        frame.Ask().InputBox(frame.Window(), QStringLiteral("Enter Map Name:"), ProgramTitle);
     if (name.isEmpty())
         return;
     Insert(frame, QStringLiteral("<MAP NAME=\"") + name + QStringLiteral("\">"), QStringLiteral("</MAP>"));
@@ -121,10 +121,10 @@ void mnuImageMap_Click(Frame& frame) {
 
 // The items of a definition list get "<LI>" and no definition term: that is what this command writes.
 void mnuDef_Click(Frame& frame) {
-    Document* document = frame.ActiveForm();
-    if (!document)
+    RichTextBox* txtInput = ActiveText(frame);
+    if (!txtInput)
         return;
-    if (document->txtInput().SelLength() == 0)
+    if (txtInput->SelLength() == 0)
         ShowBulletList(frame, QStringLiteral("D"));
     else
         WrapSelectionAsList(frame, QStringLiteral("<DL>"), QStringLiteral("</DL>"), false);
@@ -157,11 +157,11 @@ QString LongDate(const QDate& date, const QLocale& locale) {
 }
 
 void WrapSelectionAsList(Frame& frame, const QString& open, const QString& close, bool ignoreCase) {
-    Document* document = frame.ActiveForm();
-    if (!document)
+    RichTextBox* active = ActiveText(frame);
+    if (!active)
         return;
     const QString lineEnd = QStringLiteral("\r\n");
-    RichTextBox& text = document->txtInput();
+    RichTextBox& text = *active;
     ReplaceInSelection(frame, open + lineEnd + text.SelText() + close, lineEnd,
                        lineEnd + QStringLiteral("<LI>"), ignoreCase ? Compare::IgnoreCase : Compare::Exact);
 }

@@ -6,7 +6,7 @@
 #include "dialogs/FileDialogs.h"
 #include "dialogs/FormFields.h"
 #include "dialogs/PickColor.h"
-#include "editor/Document.h"
+#include "editor/ActiveText.h"
 #include "editor/Frame.h"
 #include "platform/RichTextBox.h"
 #include "platform/UndoAction.h"
@@ -62,10 +62,10 @@ frmBody::frmBody(Frame& frame) : TagDialog(frame), ui_(std::make_unique<Ui::frmB
 frmBody::~frmBody() = default;
 
 void frmBody::ReadColors() {
-    Document* document = frame_.ActiveForm();
-    if (!document)
+    RichTextBox* txtInput = ActiveText(frame_);
+    if (!txtInput)
         return;
-    const BodyFields colors = BodyColorsOf(document->txtInput().Text());
+    const BodyFields colors = BodyColorsOf(txtInput->Text());
     ui_->txtBG->setText(colors.bg);
     ui_->txtText->setText(colors.text);
     ui_->txtLink->setText(colors.link);
@@ -124,9 +124,9 @@ void frmBody::cmdOK_Click() {
                                  .alink = FieldText(ui_->txtAlink),
                                  .background = FieldText(ui_->txtBackground)},
                                 TagCaseOf(frame_.Store()));
-    if (Document* document = frame_.ActiveForm()) {
-        const UndoAction step(document->txtInput());
-        DeleteBodyTag(document->txtInput());
+    if (RichTextBox* txtInput = ActiveText(frame_)) {
+        const UndoAction step(*txtInput);
+        DeleteBodyTag(*txtInput);
         Insert(tag);
     }
     auto& state = frame_.State<DialogState>();

@@ -1,6 +1,7 @@
 // The colouring pass: writes a plain HTML text, coloured, in one step.
 #include "editor/ColorizeText.h"
 
+#include "editor/ColoredTags.h"
 #include "editor/Document.h"
 #include "editor/EditorState.h"
 #include "editor/Frame.h"
@@ -91,7 +92,7 @@ void ColorizeText(Frame& frame, QString& text, bool& keepDocument, bool caretToT
         txtInput.SetText(QString());
     const InputOff off(txtInput);
     // Nothing else runs during a pass, so one look at the setting answers for every piece of it.
-    const bool colored = frame.Store().ReadNumber(Keys::ColoredTags) != 0;
+    const bool colored = WritesColored(frame.Store());
     QString plain;
     QString& buffer = colored ? state.RtfBuffer : plain;
     buffer.reserve(buffer.size() + text.size() + text.size() / 4);

@@ -1,7 +1,8 @@
 #include "editor/InsertTag.h"
 
+#include "editor/ActiveText.h"
+#include "editor/ColoredTags.h"
 #include "editor/ColorizeText.h"
-#include "editor/Document.h"
 #include "editor/Frame.h"
 #include "editor/TagCase.h"
 #include "editor/WriteColoredText.h"
@@ -16,10 +17,10 @@ void InsertTag(Frame& frame, QString& open, QString& close, bool keepCase) {
         open = InCase(open, tagCase);
         close = InCase(close, tagCase);
     }
-    Document* document = frame.ActiveForm();
-    if (!document)
+    RichTextBox* active = ActiveText(frame);
+    if (!active)
         return;
-    RichTextBox& txtInput = document->txtInput();
+    RichTextBox& txtInput = *active;
     const UndoAction step(txtInput);
     const QString selected = txtInput.SelText();
     WriteColoredText(frame, open, TagColorCode(open), false);
@@ -29,7 +30,7 @@ void InsertTag(Frame& frame, QString& open, QString& close, bool keepCase) {
     txtInput.SetSelStart(txtInput.SelStart() - static_cast<int>(close.size()));
     // The caret left the place for which the flush had set the colour of what comes next, and stands at a
     // tag.
-    if (frame.Store().ReadNumber(Keys::ColoredTags) != 0)
+    if (WritesColored(frame.Store()))
         txtInput.SetSelColor(frame.Store().ReadNumber(Keys::TextColor[0]));
 }
 
@@ -46,13 +47,13 @@ QString ReplaceInSelection(Frame& frame, const QString& text, const QString& fin
     if (!find.isEmpty())
         result.replace(find, replacement,
                        compare == Compare::IgnoreCase ? Qt::CaseInsensitive : Qt::CaseSensitive);
-    if (Document* document = frame.ActiveForm())
-        document->txtInput().SetSelText(result);
+    if (RichTextBox* txtInput = ActiveText(frame))
+        txtInput->SetSelText(result);
     else
         // 91: there is no object to assign to, as programs of this kind have always numbered it.
         frame.Ask().MsgBox(frame.Window(), QStringLiteral("Error - 91"), MsgButtons::OK, MsgIcon::Critical,
-                           QStringLiteral("The Tarnwick"));
+                           ProgramTitle);
     frame.Ask().MsgBox(frame.Window(), QStringLiteral("Finished!"), MsgButtons::OK, MsgIcon::Information,
-                       QStringLiteral("The Tarnwick"));
+                       ProgramTitle);
     return result;
 }

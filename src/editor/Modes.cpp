@@ -109,8 +109,7 @@ void DocumentModes::ViewClicked() {
     const QString path = document_.Caption();
     if (browser_ && !path.isEmpty() && browser_->Navigate(path))
         return;
-    frame_.Ask().MsgBox(frame_.Window(), cannotDisplay, MsgButtons::OK, MsgIcon::Exclamation,
-                        QStringLiteral("The Tarnwick"));
+    frame_.Ask().MsgBox(frame_.Window(), cannotDisplay, MsgButtons::OK, MsgIcon::Exclamation, ProgramTitle);
 }
 
 void DocumentModes::SaveDesign() {
@@ -162,7 +161,7 @@ void Reopen(Frame& frame, void (DocumentModes::*save)()) {
 
 bool WantsChangesSaved(Frame& frame) {
     return frame.Ask().MsgBox(frame.Window(), QStringLiteral("Save Changes?"), MsgButtons::YesNo,
-                              MsgIcon::None, QStringLiteral("The Tarnwick")) == MsgAnswer::Yes;
+                              MsgIcon::None, ProgramTitle) == MsgAnswer::Yes;
 }
 
 void ShowDesign(Frame& frame) {

@@ -1,6 +1,7 @@
 // The one routine through which every coloured piece of text goes, and the rule that picks a tag's colour.
 #include "editor/WriteColoredText.h"
 
+#include "editor/ColoredTags.h"
 #include "editor/Document.h"
 #include "editor/EditorState.h"
 #include "editor/Frame.h"
@@ -157,7 +158,7 @@ void WriteColoredText(Frame& frame, QString& text, QStringView colorWord, bool r
 
 void WriteColoredText(Frame& frame, Document& document, QString& text, QStringView colorWord,
                       bool resetOnly) {
-    if (frame.Store().ReadNumber(Keys::ColoredTags) == 0) {
+    if (!WritesColored(frame.Store())) {
         document.txtInput().SetSelText(text);
         return;
     }

@@ -1,6 +1,7 @@
 // The auto-fill list: attributes or values at the caret, while the keyboard stays in the text.
 #include "editor/frmDropDown.h"
 
+#include "editor/ActiveText.h"
 #include "editor/Document.h"
 #include "editor/DropDownIcons.h"
 #include "editor/DropDownPlace.h"
@@ -108,10 +109,10 @@ bool frmDropDown::FocusList() {
 }
 
 void frmDropDown::MoveToCaret() {
-    Document* document = frame_.ActiveForm();
-    if (!document)
+    RichTextBox* active = ActiveText(frame_);
+    if (!active)
         return;
-    const RichTextBox& text = document->txtInput();
+    const RichTextBox& text = *active;
     const QPoint caret = text.CaretPixel();
     place_ = DropDownTwips(parentWidget()->frameGeometry().topLeft() * Twips::PerPixel, caret);
     const QPoint line = text.viewport()->mapTo(parentWidget(), caret);
@@ -157,8 +158,8 @@ void frmDropDown::ListView1_KeyPress(int& KeyAscii) {
         break;
     case 8:
         Unload();
-        if (Document* document = frame_.ActiveForm())
-            document->txtInput().SetSelStart(frame_.State<EditorState>().ListReturnCaret);
+        if (RichTextBox* txtInput = ActiveText(frame_))
+            txtInput->SetSelStart(frame_.State<EditorState>().ListReturnCaret);
         KeyAscii = 0;
         break;
     case 32:
@@ -195,7 +196,7 @@ void frmDropDown::Form_Unload() {
     frame_.State<EditorState>().DropDownOpen = false;
     // A list that goes while it has the focus leaves it to the text, not to whatever stands next in the tab
     // order.
-    Document* document = frame_.ActiveForm();
-    if (document && ui_->ListView1->hasFocus())
-        document->txtInput().SetFocus();
+    RichTextBox* txtInput = ActiveText(frame_);
+    if (txtInput && ui_->ListView1->hasFocus())
+        txtInput->SetFocus();
 }

@@ -2,6 +2,7 @@
 #include "platform/SettingsKeys.h"
 
 #include "platform/ProgramFolder.h"
+#include "platform/Values.h"
 
 namespace {
 
@@ -10,6 +11,14 @@ SettingsKey Indexed(const char* section, const QString& pattern, int n) {
 }
 
 } // namespace
+
+bool SettingsKey::StandardFlag() const {
+    return Values::ToBoolean(standard).value_or(false);
+}
+
+int SettingsKey::StandardNumber() const {
+    return Values::WholeVal(standard);
+}
 
 namespace Keys {
 

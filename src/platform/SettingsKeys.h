@@ -1,6 +1,8 @@
 // Every key of the settings store, once, with its section and its default. Nothing else spells a key.
 #pragma once
 
+#include "platform/ProgramTitle.h"
+
 #include <QString>
 
 struct SettingsKey {
@@ -8,11 +10,15 @@ struct SettingsKey {
     QString section;
     QString key;
     QString standard; ///< the text that reading gives when the key is absent
+
+    /// The default as the flag or the number that it stands for.
+    bool StandardFlag() const;
+    int StandardNumber() const;
 };
 
 namespace Keys {
 
-inline const QString Tarnwick = QStringLiteral("The Tarnwick");
+inline const QString Tarnwick = ProgramTitle;
 inline const QString WebTimerApplication = QStringLiteral("Web Timer");
 
 inline SettingsKey In(const char* section, const char* key, const char* standard) {
@@ -97,6 +103,7 @@ inline const SettingsKey Password = In("FTP", "Password", "");
 SettingsKey ProjFile(int n);
 
 // Application "Web Timer".
-inline const SettingsKey DateList = {WebTimerApplication, QStringLiteral("Dates"), QStringLiteral("Date List"), QString()};
+inline const SettingsKey DateList = {WebTimerApplication, QStringLiteral("Dates"),
+                                     QStringLiteral("Date List"), QString()};
 
 } // namespace Keys
