@@ -5,28 +5,16 @@
 #include "app/MainFrame.h"
 #include "app/ProgramState.h"
 #include "app/RecentFiles.h"
-#include "app/UserButtons.h"
-#include "dialogs/DialogState.h"
+#include "app/WindowState.h"
 #include "dialogs/frmImage.h"
 #include "editor/Document.h"
-#include "editor/EditorState.h"
 #include "editor/Forms.h"
-#include "editor/SpellChecker.h"
 #include "platform/Settings.h"
 #include "platform/Twips.h"
-#include "platform/Values.h"
-
-#include <limits>
 
 using namespace Qt::StringLiterals;
 
-namespace {
-
-constexpr int storedButtons = 30;
-
-} // namespace
-
-Shutdown::Shutdown(MainFrame& frame) : frame_(frame) {}
+Shutdown::Shutdown(MainFrame& frame) : frame_(frame), values_(frame) {}
 
 std::vector<const char*> Shutdown::UnloadedForms() {
     return FormsToUnload(KnownForms());
@@ -85,8 +73,7 @@ void Shutdown::UnhookWindow() {
 }
 
 void Shutdown::KeepWindowState() {
-    const QWidget& window = *frame_.Window();
-    mainWindowState_ = window.isMinimized() ? u"1"_s : window.isMaximized() ? u"2"_s : u"0"_s;
+    frame_.State<ProgramState>().MainWindowState = WindowStateDigit(*frame_.Window());
 }
 
 void Shutdown::KeepRecentFiles() {
@@ -96,49 +83,37 @@ void Shutdown::KeepRecentFiles() {
 }
 
 void Shutdown::WriteFirstTimeAgain() {
-    // The greatest count can't be counted on; it stays, as any step that fails leaves things as they are.
-    const int runs = frame_.State<ProgramState>().FirstTimeAgain;
-    if (runs < std::numeric_limits<int>::max())
-        frame_.Store().WriteNumber(Keys::FirstTimeAgain, runs + 1);
+    values_.Write(WrittenAt::RunCount);
 }
 
 void Shutdown::WriteDictionaries() {
-    frame_.Store().Write(Keys::StandardDic(), frame_.VSSpell1().StandardDic);
-    frame_.Store().Write(Keys::CustomDic(), frame_.VSSpell1().CustomDic);
+    values_.Write(WrittenAt::Dictionaries);
 }
 
 void Shutdown::WriteTextColors() {
-    const auto& colors = frame_.State<EditorState>().ColorTable;
-    for (size_t slot = 0; slot < colors.size(); ++slot)
-        frame_.Store().Write(Keys::EdTextColor[slot], colors[slot]);
+    values_.Write(WrittenAt::TextColors);
 }
 
 void Shutdown::WriteEditorValues() {
-    Settings& store = frame_.Store();
-    const auto& program = frame_.State<ProgramState>();
-    store.Write(Keys::LinkColor, program.LinkColor);
-    store.Write(Keys::UserTemplate, program.UserTemplate);
-    store.Write(Keys::TemplateWindowState, program.TemplateWindowState);
-    store.WriteNumber(Keys::Background2, frame_.State<EditorState>().Background2);
-    store.Write(Keys::ReloadFlag, Values::FromBoolean(program.ReloadFlag));
-    store.Write(Keys::TheOpenFile, program.TheOpenFile);
-    store.Write(Keys::LastDir(), frame_.State<DialogState>().LastDir);
+    values_.Write(WrittenAt::LinkColor);
+    values_.Write(WrittenAt::EditorValues);
 }
 
 void Shutdown::WriteGeometry() {
     // A maximised or minimised frame keeps the geometry of its last normal run.
-    if (mainWindowState_ != u"0")
+    auto& program = frame_.State<ProgramState>();
+    if (program.MainWindowState != u"0")
         return;
-    Settings& store = frame_.Store();
     const QWidget& window = *frame_.Window();
-    store.WriteNumber(Keys::MainFormHeight, Twips::FromPixels(window.height()));
-    store.WriteNumber(Keys::MainFormWidth, Twips::FromPixels(window.width()));
-    store.WriteNumber(Keys::MainFormLeft, Twips::FromPixels(window.x()));
-    store.WriteNumber(Keys::MainFormTop, Twips::FromPixels(window.y()));
+    program.MainFormHeight = Twips::FromPixels(window.height());
+    program.MainFormWidth = Twips::FromPixels(window.width());
+    program.MainFormLeft = Twips::FromPixels(window.x());
+    program.MainFormTop = Twips::FromPixels(window.y());
+    values_.Write(WrittenAt::Geometry);
 }
 
 void Shutdown::WriteMainWindowState() {
-    frame_.Store().Write(Keys::MainWindowState, mainWindowState_);
+    values_.Write(WrittenAt::WindowState);
 }
 
 void Shutdown::WriteUseDDE() {
@@ -146,19 +121,11 @@ void Shutdown::WriteUseDDE() {
 }
 
 void Shutdown::WriteRecentFiles() {
-    const auto& program = frame_.State<ProgramState>();
-    for (int n = 0; n < RecentFiles::Count; ++n)
-        frame_.Store().Write(Keys::MenuArray(n), program.MenuArray[static_cast<size_t>(n)]);
+    values_.Write(WrittenAt::RecentFiles);
 }
 
 void Shutdown::WriteUserButtons() {
-    Settings& store = frame_.Store();
-    const auto& editor = frame_.State<EditorState>();
-    for (int n = 0; n < storedButtons; ++n) {
-        store.Write(Keys::FirstBut(n), editor.FirstBut[static_cast<size_t>(n)]);
-        store.Write(Keys::SecondBut(n), editor.SecondBut[static_cast<size_t>(n)]);
-        store.Write(Keys::ButCap(n), frame_.Picture2().Caption(n));
-    }
+    values_.Write(WrittenAt::UserButtons);
 }
 
 void Shutdown::UnloadImageDialog() {

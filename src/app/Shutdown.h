@@ -1,6 +1,8 @@
 // What happens as the main frame closes: dialogs and documents go, and the settings go out.
 #pragma once
 
+#include "app/CarriedValues.h"
+
 #include <functional>
 #include <QString>
 #include <span>
@@ -51,5 +53,5 @@ class Shutdown {
     void Watch(const char* name) const;
 
     MainFrame& frame_;
-    QString mainWindowState_;
+    CarriedValues values_;
 };

@@ -8,19 +8,13 @@
 #include "app/UserButtons.h"
 #include "app/Version.h"
 #include "app/WindowPlace.h"
-#include "dialogs/DialogState.h"
 #include "editor/Commands.h"
 #include "editor/EditorState.h"
-#include "editor/SpellChecker.h"
-#include "platform/Path.h"
 #include "platform/Settings.h"
 #include "platform/Twips.h"
 #include "platform/Values.h"
 
-#include <cmath>
-#include <limits>
 #include <QGuiApplication>
-#include <QRegularExpression>
 #include <QScreen>
 
 using namespace Qt::StringLiterals;
@@ -28,7 +22,6 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr int maximised = 2;
-constexpr int storedButtons = 30;
 constexpr int captionedButtons = 32;
 
 QList<QRect> Screens() {
@@ -38,18 +31,11 @@ QList<QRect> Screens() {
     return places;
 }
 
-// Of several separators at the end exactly one goes. The root of a file system is nothing but its separator,
-// and stays.
-QString WithoutLastSeparator(const QString& folder) {
-    if (folder.size() <= 1 || !folder.endsWith(Path::Separator(folder)))
-        return folder;
-    return folder.chopped(1);
-}
-
 } // namespace
 
 Startup::Startup(MainFrame& frame, QString commandLine, std::function<bool()> anotherCopyRuns)
-    : frame_(frame), commandLine_(std::move(commandLine)), anotherCopyRuns_(std::move(anotherCopyRuns)) {}
+    : frame_(frame), commandLine_(std::move(commandLine)), anotherCopyRuns_(std::move(anotherCopyRuns)),
+      values_(frame) {}
 
 std::span<const Startup::Step> Startup::Steps() {
     static constexpr Step steps[] = {
@@ -113,7 +99,7 @@ void Startup::SetFindMode() {
 }
 
 void Startup::ReadUseAutoFill() {
-    TakeFlag(frame_.State<EditorState>().UseAutoFill, Keys::UseAutoFill);
+    values_.Read(ReadAt::UseAutoFill);
 }
 
 void Startup::EndIfAnotherCopyRuns() {
@@ -125,10 +111,7 @@ void Startup::ResetDocumentCount() {
 }
 
 void Startup::ReadGeometry() {
-    TakeNumber(height_, Keys::MainFormHeight);
-    TakeNumber(width_, Keys::MainFormWidth);
-    TakeNumber(left_, Keys::MainFormLeft);
-    TakeNumber(top_, Keys::MainFormTop);
+    values_.Read(ReadAt::Geometry);
 }
 
 void Startup::ShowStrips() {
@@ -138,10 +121,11 @@ void Startup::ShowStrips() {
 
 void Startup::MoveFrame() {
     // The width alone tells whether a place was stored.
-    if (width_ <= 0)
+    const auto& program = frame_.State<ProgramState>();
+    if (program.MainFormWidth <= 0)
         return;
-    const QSize size(Twips::ToPixels(width_), Twips::ToPixels(height_));
-    const QPoint corner(Twips::ToPixels(left_), Twips::ToPixels(top_));
+    const QSize size(Twips::ToPixels(program.MainFormWidth), Twips::ToPixels(program.MainFormHeight));
+    const QPoint corner(Twips::ToPixels(program.MainFormLeft), Twips::ToPixels(program.MainFormTop));
     // A place stored with screens that are gone: the window must stay within a person's reach.
     QWidget& window = *frame_.Window();
     const QRect place =
@@ -151,52 +135,28 @@ void Startup::MoveFrame() {
 }
 
 void Startup::ReadDictionaries() {
-    frame_.VSSpell1().StandardDic = Text(Keys::StandardDic());
-    frame_.VSSpell1().CustomDic = Text(Keys::CustomDic());
+    values_.Read(ReadAt::Dictionaries);
 }
 
 void Startup::ReadEditorValues() {
-    auto& program = frame_.State<ProgramState>();
-    auto& editor = frame_.State<EditorState>();
-    TakeNumber(program.FirstTimeAgain, Keys::FirstTimeAgain);
-    for (size_t slot = 0; slot < editor.ColorTable.size(); ++slot)
-        TakeColor(slot);
-    program.UserTemplate = Text(Keys::UserTemplate);
-    program.LinkColor = Text(Keys::LinkColor);
-    program.TemplateWindowState = Text(Keys::TemplateWindowState);
-    TakeNumber(editor.Background2, Keys::Background2);
-    TakeFlag(program.ReloadFlag, Keys::ReloadFlag);
-    program.TheOpenFile = Text(Keys::TheOpenFile);
+    values_.Read(ReadAt::EditorValues);
 }
 
 void Startup::ReadLastDir() {
-    frame_.State<DialogState>().LastDir = WithoutLastSeparator(Text(Keys::LastDir()));
+    values_.Read(ReadAt::LastDir);
 }
 
 void Startup::ReadProgramValues() {
     // WebTimer, UseDDE and TabOption stand in the store and are of no effect: they are not even read.
-    auto& program = frame_.State<ProgramState>();
-    TakeNumber(mainWindowState_, Keys::MainWindowState);
-    program.WebPath = Text(Keys::Web);
-    program.FtpPath = Text(Keys::FTP);
-    TakeFlag(program.LocalPreview, Keys::LocalPreview);
-    TakeFlag(program.LocalFTP, Keys::LocalFTP);
+    values_.Read(ReadAt::ProgramValues);
 }
 
 void Startup::ReadLists() {
-    auto& program = frame_.State<ProgramState>();
-    for (int n = 0; n < RecentFiles::Count; ++n)
-        program.MenuArray[static_cast<size_t>(n)] = Text(Keys::MenuArray(n));
-    auto& editor = frame_.State<EditorState>();
-    for (int n = 0; n < storedButtons; ++n) {
-        editor.FirstBut[static_cast<size_t>(n)] = Text(Keys::FirstBut(n));
-        editor.SecondBut[static_cast<size_t>(n)] = Text(Keys::SecondBut(n));
-        editor.ButCap[static_cast<size_t>(n)] = Text(Keys::ButCap(n));
-    }
+    values_.Read(ReadAt::Lists);
 }
 
 void Startup::MaximiseFrame() {
-    if (mainWindowState_ == maximised)
+    if (Values::ToNumber(frame_.State<ProgramState>().MainWindowState) == maximised)
         frame_.Window()->setWindowState(Qt::WindowMaximized);
 }
 
@@ -233,27 +193,4 @@ void Startup::TellOfSettings() {
     // Last of all: opening a document writes into the panel, too.
     if (const QStringList unreadable = frame_.Store().Unreadable(); !unreadable.isEmpty())
         frame_.SetStatusPanel(u"The settings can't be read, nor will they be kept: "_s + unreadable.first());
-}
-
-template <typename Number> void Startup::TakeNumber(Number& variable, const SettingsKey& key) {
-    const std::optional<double> number = Values::ToNumber(Text(key));
-    if (!number || *number < std::numeric_limits<Number>::lowest() ||
-        *number > std::numeric_limits<Number>::max())
-        return;
-    variable = static_cast<Number>(std::is_integral_v<Number> ? std::nearbyint(*number) : *number);
-}
-
-void Startup::TakeFlag(bool& variable, const SettingsKey& key) {
-    if (const std::optional<bool> flag = Values::ToBoolean(Text(key)))
-        variable = *flag;
-}
-
-void Startup::TakeColor(size_t slot) {
-    static const QRegularExpression entry(u"\\A\\\\red\\d+\\\\green\\d+\\\\blue\\d+\\z"_s);
-    if (const QString color = Text(Keys::EdTextColor[slot]); entry.match(color).hasMatch())
-        frame_.State<EditorState>().ColorTable[slot] = color;
-}
-
-QString Startup::Text(const SettingsKey& key) {
-    return frame_.Store().Read(key);
 }

@@ -1,12 +1,13 @@
 // What happens as the main frame loads: the settings come in, and the document of the command line.
 #pragma once
 
+#include "app/CarriedValues.h"
+
 #include <functional>
 #include <QString>
 #include <span>
 
 class MainFrame;
-struct SettingsKey;
 
 class Startup {
   public:
@@ -57,18 +58,9 @@ class Startup {
     void CaptionUserButtons();
     void TellOfSettings();
 
-    /// The number of a stored text; what is no number changes nothing.
-    template <typename Number> void TakeNumber(Number& variable, const SettingsKey& key);
-    void TakeFlag(bool& variable, const SettingsKey& key);
-    /// The colour of a slot; what is no entry of a colour table, such as one that a damaged file cut off,
-    /// changes nothing: it would spoil every page that is coloured with it.
-    void TakeColor(size_t slot);
-    QString Text(const SettingsKey& key);
-
     MainFrame& frame_;
     QString commandLine_;
     std::function<bool()> anotherCopyRuns_;
     bool goOn_ = true;
-    double height_ = 0, width_ = 0, left_ = 0, top_ = 0;
-    double mainWindowState_ = 0;
+    CarriedValues values_;
 };

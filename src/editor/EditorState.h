@@ -1,6 +1,8 @@
 // Program-wide values of the source editor.
 #pragma once
 
+#include "platform/SettingsKeys.h"
+
 #include <array>
 #include <QString>
 
@@ -8,9 +10,8 @@ struct EditorState {
     /// The colour table: entries of an RTF \colortbl, slot 0 text, 1 tags, 2 links, 3 images, 4 embedded
     /// objects, 5 comments. The settings call them EdTextColor0 to 5; this is that array.
     std::array<QString, 6> ColorTable{
-        QStringLiteral("\\red0\\green0\\blue0"),     QStringLiteral("\\red0\\green0\\blue255"),
-        QStringLiteral("\\red0\\green128\\blue0"),   QStringLiteral("\\red255\\green0\\blue0"),
-        QStringLiteral("\\red255\\green127\\blue0"), QStringLiteral("\\red128\\green128\\blue128"),
+        Keys::EdTextColor[0].standard, Keys::EdTextColor[1].standard, Keys::EdTextColor[2].standard,
+        Keys::EdTextColor[3].standard, Keys::EdTextColor[4].standard, Keys::EdTextColor[5].standard,
     };
     /// The coloured pieces gathered so far, shared by all document windows.
     QString RtfBuffer;
@@ -18,7 +19,7 @@ struct EditorState {
     bool RtfFlushNow = false;
 
     /// Auto-fill lists are on.
-    bool UseAutoFill = true;
+    bool UseAutoFill = Keys::UseAutoFill.StandardFlag();
     bool DropDownOpen = false;
     bool DropDownFollowsCaret = false;
     bool ListPickPending = false;
@@ -33,5 +34,5 @@ struct EditorState {
     bool ComingFromDesign = false;
 
     /// Background of the editor, a colour number.
-    int Background2 = 16777215;
+    int Background2 = Keys::Background2.StandardNumber();
 };
