@@ -1,15 +1,23 @@
 // The page of the browser control: what it may ask of the user.
 #include "web/BrowserPage.h"
 
-#include <QCoreApplication>
+#include <algorithm>
+#include <QApplication>
 #include <QFileDialog>
+#include <QMdiArea>
+#include <QMdiSubWindow>
 #include <QWebEngineScript>
 #include <QWebEngineView>
 
+#ifdef Q_OS_UNIX
+#include <csignal>
+#endif
+
 namespace {
 
-// So often no page asks within one turn of its scripts, unless in a loop without end.
+// So often no page asks, or goes elsewhere, within one turn of its scripts, unless in a loop without end.
 constexpr int runawayCount = 100;
+constexpr int navigationWeight = 4;
 
 /// The engine puts the question whether to leave a page in these words, as a question of the page.
 bool IsAboutLeaving(const QString& message) {
@@ -19,7 +27,38 @@ bool IsAboutLeaving(const QString& message) {
                "Are you sure you want to leave this page? Changes that you made may not be saved.");
 }
 
+/// The user may be at work elsewhere: in another document's window, in a dialog or a menu.
+bool IsInFront(const QWidget& view) {
+    const QWidget* active = QApplication::activeWindow();
+    if (QApplication::activeModalWidget() || QApplication::activePopupWidget() ||
+        (active && active != view.window()))
+        return false;
+    for (const QWidget* around = &view; around; around = around->parentWidget()) {
+        if (const auto* document = qobject_cast<const QMdiSubWindow*>(around))
+            return document->mdiArea() && document->mdiArea()->currentSubWindow() == document;
+    }
+    return true;
+}
+
+/// The engine can let several pages share a process, once there are very many.
+bool IsShared(qint64 process, const QWebEnginePage* by) {
+    const QWidgetList widgets = QApplication::allWidgets();
+    return std::any_of(widgets.begin(), widgets.end(), [&](const QWidget* widget) {
+        const auto* view = qobject_cast<const QWebEngineView*>(widget);
+        return view && view->page() != by && view->page()->renderProcessPid() == process;
+    });
+}
+
 } // namespace
+
+BrowserPage::~BrowserPage() {
+#ifdef Q_OS_UNIX
+    // The engine ends it too, but takes up all that the page has asked for before.
+    const qint64 process = renderProcessPid();
+    if (process > 0 && !IsShared(process, this))
+        ::kill(static_cast<pid_t>(process), SIGKILL);
+#endif
+}
 
 void BrowserPage::CloseBox() {
     if (box_)
@@ -28,12 +67,12 @@ void BrowserPage::CloseBox() {
 
 bool BrowserPage::IsHeard() const {
     const auto* view = QWebEngineView::forPage(this);
-    return !silenced_ && view && view->isVisible();
+    return !silenced_ && view && view->isVisible() && IsInFront(*view);
 }
 
 std::optional<BrowserPage::Answer> BrowserPage::Ask(const QUrl& origin, PageBox::Request request) {
     if (asking_ || !IsHeard()) {
-        CountUnheard();
+        CountAct();
         return std::nullopt;
     }
     request.speaker = Speaker(origin);
@@ -61,16 +100,26 @@ QString BrowserPage::Speaker(const QUrl& origin) const {
     return url().isLocalFile() ? url().fileName() : url().host();
 }
 
-void BrowserPage::CountUnheard() {
+void BrowserPage::CountAct(int weight) {
     // It counts from one turn of the page's scripts to the next: a page that answers in between is alive.
-    if (unheard_++ == 0)
+    const int before = acts_;
+    acts_ += weight;
+    if (before == 0)
         runJavaScript(QStringLiteral("0"), QWebEngineScript::ApplicationWorld,
                       [self = QPointer<BrowserPage>(this)](const QVariant&) {
                           if (self)
-                              self->unheard_ = 0;
+                              self->acts_ = 0;
                       });
-    if (unheard_ == runawayCount)
+    if (before < runawayCount && acts_ >= runawayCount)
         emit RanAway();
+}
+
+bool BrowserPage::acceptNavigationRequest(const QUrl& url, NavigationType type, bool isMainFrame) {
+    // Each costs the engine more to take up than the page to ask for: they pile up, and the next page waits
+    // behind all of them.
+    if (isMainFrame)
+        CountAct(navigationWeight);
+    return QWebEnginePage::acceptNavigationRequest(url, type, isMainFrame);
 }
 
 void BrowserPage::javaScriptAlert(const QUrl& origin, const QString& message) {

@@ -38,7 +38,7 @@ void BrowserPane::Show(const QString& path) {
         shown, &BrowserPage::RanAway, this,
         [this, shown] {
             if (Page() == shown)
-                Empty();
+                End();
         },
         Qt::QueuedConnection);
     connect(
@@ -48,8 +48,18 @@ void BrowserPane::Show(const QString& path) {
                 step();
         },
         Qt::QueuedConnection);
+    connect(shown, &BrowserPage::featurePermissionRequested, shown,
+            [shown](const QUrl& origin, QWebEnginePage::Feature feature) {
+                shown->setFeaturePermission(origin, feature, QWebEnginePage::PermissionDeniedByUser);
+            });
     ShowPage(std::move(page));
     shown->load(QUrl::fromLocalFile(path));
+}
+
+void BrowserPane::End() {
+    // A page that waits to be shown takes the place of this one anyway.
+    if (!onceAnswered_)
+        OnceAnswered([this] { Empty(); });
 }
 
 void BrowserPane::OnceAnswered(std::function<void()> step) {

@@ -18,6 +18,9 @@ class BrowserPane final : public WebPane, public BrowserControl {
     QWidget& widget() override { return *this; }
     bool Navigate(const QString& path) override;
 
+  protected:
+    void End() override;
+
   private:
     BrowserPage* Browsed() const;
     void Show(const QString& path);

@@ -19,8 +19,14 @@ constexpr auto ourWorld = QWebEngineScript::ApplicationWorld;
 // very same page, but for blanks at its end. tail is what the source behind the body adds to the body:
 // engines count blanks there to it, and some comments. A reader drops the first line end of a pre and its
 // like: written() puts one more where there is one. behind() gives the comments after the html tag's end.
+// What has a name in the page, <form name=body> say, hides the document's own properties of that name: its
+// prototype still gives them.
 const QString fillScript = QStringLiteral(R"js(
 (function(text, begin, end) {
+    const own = (page, name) => Reflect.get(Document.prototype, name, page);
+    const root = page => own(page, 'documentElement');
+    const bodyOf = page => own(page, 'body');
+    const call = (name, ...words) => own(document, name).apply(document, words);
     const parse = source => new DOMParser().parseFromString(source, 'text/html');
     const inert = parse('');
     const loses = element => element.firstChild && element.firstChild.nodeType === Node.TEXT_NODE
@@ -36,7 +42,7 @@ const QString fillScript = QStringLiteral(R"js(
     };
     const behind = page => {
         let comments = '';
-        for (let node = page.documentElement; node; node = node.nextSibling)
+        for (let node = root(page); node; node = node.nextSibling)
             if (node.nodeType === Node.COMMENT_NODE)
                 comments += '\n<!--' + node.data + '-->';
         return comments;
@@ -50,31 +56,32 @@ const QString fillScript = QStringLiteral(R"js(
             html = html.slice(0, tag);
         }
     };
-    const shell = () => document.head.outerHTML + (document.body ? document.body.cloneNode(false).outerHTML : '')
-        + document.documentElement.cloneNode(false).outerHTML;
-    document.open();
-    document.write(text);
-    document.close();
-    const whole = document.documentElement.outerHTML;
+    const shell = () => own(document, 'head').outerHTML
+        + (bodyOf(document) ? bodyOf(document).cloneNode(false).outerHTML : '')
+        + root(document).cloneNode(false).outerHTML;
+    call('open');
+    call('write', text);
+    call('close');
+    const whole = root(document).outerHTML;
     let bodyIsOwn = false;
     let tail = '';
-    if (begin >= 0 && document.body) {
-        const body = written(document.body).innerHTML;
-        const added = parse('<body>.' + text.slice(end)).body.innerHTML.slice(1);
+    if (begin >= 0 && bodyOf(document)) {
+        const body = written(bodyOf(document)).innerHTML;
+        const added = bodyOf(parse('<body>.' + text.slice(end))).innerHTML.slice(1);
         if (body.endsWith(added))
             tail = added;
-        const own = body.slice(0, body.length - tail.length);
-        const again = parse(text.slice(0, begin) + own + text.slice(end));
-        bodyIsOwn = upToItsEnd(again.documentElement.outerHTML) === upToItsEnd(whole)
+        const mine = body.slice(0, body.length - tail.length);
+        const again = parse(text.slice(0, begin) + mine + text.slice(end));
+        bodyIsOwn = upToItsEnd(root(again).outerHTML) === upToItsEnd(whole)
             && behind(again) === behind(document);
     }
     window.tarnwick = {
         shell, bodyIsOwn, tail, before: whole, shellBefore: shell(), collected: whole,
-        body: () => written(document.body).innerHTML,
-        document: () => written(document.documentElement).outerHTML + behind(document)
+        body: () => written(bodyOf(document)).innerHTML,
+        document: () => written(root(document)).outerHTML + behind(document), whole: () => root(document).outerHTML
     };
-    document.designMode = 'on';
-    document.execCommand('defaultParagraphSeparator', false, 'p');
+    Reflect.set(Document.prototype, 'designMode', 'on', document);
+    call('execCommand', 'defaultParagraphSeparator', false, 'p');
     return true;
 }).apply(null, %1)
 )js");
@@ -83,7 +90,7 @@ const QString fillScript = QStringLiteral(R"js(
 // twice.
 const QString collectScript = QStringLiteral(R"js(
 (function(page) {
-    const whole = document.documentElement.outerHTML;
+    const whole = page.whole();
     page.collected = whole;
     if (whole === page.before)
         return { changed: false };

@@ -80,7 +80,7 @@ void WebPane::ShowPage(std::unique_ptr<QWebEnginePage> page) {
         shown, &QWebEnginePage::renderProcessTerminated, this,
         [this, shown] {
             if (Page() == shown)
-                Empty();
+                End();
         },
         Qt::QueuedConnection);
     if (view_) {

@@ -28,6 +28,8 @@ class WebPane : public QWidget {
     /// The engine starts with the first profile, and so no earlier than with the first page.
     QWebEngineProfile& Profile();
     virtual void Emptied() {}
+    /// Empties the pane, where its page is of no more use.
+    virtual void End() { Empty(); }
     /// Deletes the page.
     void Empty();
 

@@ -89,6 +89,20 @@ TEST_F(Browser, WindowsAndDownloadsAreRefused) {
     EXPECT_EQ(QDir(TestFolder()).entryList(QDir::Files).size(), 2);
 }
 
+TEST_F(Browser, NoPageGetsPlacesMicrophonesOrNotices) {
+    ASSERT_TRUE(
+        Open(QStringLiteral("a.htm"),
+             "const told = []; const tell = words => { told.push(words); document.title = told.sort() };"
+             "navigator.geolocation.getCurrentPosition(() => tell('given'), e => tell('place ' + e.code));"
+             "navigator.mediaDevices.getUserMedia({audio: true}).then(() => tell('given'), "
+             "() => tell('media'));"
+             "Notification.requestPermission().then(answer => tell('notice ' + answer));"
+             "navigator.clipboard.readText().then(() => tell('given'), () => tell('clipboard'))"));
+    EXPECT_TRUE(Shows(QStringLiteral("clipboard,media,notice denied,place 1")))
+        << Probe::Run(pane, QStringLiteral("document.title")).toString().toStdString();
+    EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
+}
+
 TEST_F(Browser, NothingIsKeptOnTheDisk) {
     ASSERT_TRUE(pane.Navigate(PageFiles::Write(QStringLiteral("a.htm"), "<title>here</title>")));
     ASSERT_TRUE(Shows(QStringLiteral("here")));

@@ -123,6 +123,24 @@ INSTANTIATE_TEST_SUITE_P(
                "\r\n<p>\x80 \xE9 &#9731;</p>" + finish}),
     [](const auto& info) { return std::string(info.param.name); });
 
+TEST_F(Design, NamesInThePageHideNothingOfItFromTheSave) {
+    QByteArray named;
+    for (const char* name : {"documentElement", "body", "head", "open", "write", "close", "designMode",
+                             "execCommand", "querySelectorAll", "importNode", "firstChild", "tarnwick"})
+        named += QByteArray("<img name=\"") + name + "\" id=\"" + name + "\"><form name=\"" + name +
+                 "\"><input name=\"outerHTML\"><input name=\"nextSibling\"></form>\r\n";
+    const QByteArray head = "<HTML><HEAD><TITLE>t</TITLE></HEAD>\r\n<BODY>\r\n";
+    const QByteArray rest = "</p>\r\n" + named + "<pre>\r\n\r\nx</pre></BODY>\r\n</HTML>\r\n";
+    path = PageFiles::Write(QStringLiteral("page.htm"), head + "<p>one" + rest);
+    pane.Load(path);
+    // Nothing of the document can be asked for by its name here.
+    ASSERT_TRUE(Probe::Until(
+        pane, QStringLiteral("Reflect.get(Document.prototype, 'designMode', document) === 'on'")));
+    Probe::Run(pane, QStringLiteral("document.getElementsByTagName('p')[0].append(' typed')"));
+    EXPECT_TRUE(pane.Save(path));
+    EXPECT_EQ(Saved(), head + "<p>one typed" + rest);
+}
+
 TEST_F(Design, AnEditOfAPageWithoutABodyTagKeepsTheCommentBehindIt) {
     for (const char* end : {"</html>\r\n<!-- mine -->\r\n", "</html><!-- mine -->", "<!-- mine -->"}) {
         Edit(QByteArray("<title>t</title>\r\n<p>one</p>") + end);
