@@ -5,6 +5,7 @@
 
 class DocumentTabs;
 class SpellChecker;
+class StatusBar;
 class UserButtons;
 
 class MainFrame : public Frame {
@@ -14,6 +15,7 @@ class MainFrame : public Frame {
     virtual UserButtons& Picture2() = 0;
     /// The mode strip.
     virtual QWidget& Picture4() = 0;
+    virtual StatusBar& Panels() = 0;
     virtual SpellChecker& VSSpell1() = 0;
     /// Whether the frame hears of the application becoming active, and of files dropped on it.
     virtual void SetHooks(bool activation, bool drops) = 0;

@@ -5,6 +5,7 @@
 #include "app/MainFrame.h"
 #include "app/ProgramState.h"
 #include "app/RecentFiles.h"
+#include "app/StandingNotice.h"
 #include "app/UserButtons.h"
 #include "app/Version.h"
 #include "app/WindowPlace.h"
@@ -192,5 +193,6 @@ void Startup::CaptionUserButtons() {
 void Startup::TellOfSettings() {
     // Last of all: opening a document writes into the panel, too.
     if (const QStringList unreadable = frame_.Store().Unreadable(); !unreadable.isEmpty())
-        frame_.SetStatusPanel(u"The settings can't be read, nor will they be kept: "_s + unreadable.first());
+        new StandingNotice(frame_.Panels(),
+                           u"The settings can't be read, nor will they be kept: "_s + unreadable.first());
 }

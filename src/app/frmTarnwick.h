@@ -51,6 +51,7 @@ class frmTarnwick final : public QMainWindow, public MainFrame {
     DocumentTabs& TabStrip2() override { return *tabStrip2_; }
     UserButtons& Picture2() override { return *picture2_; }
     QWidget& Picture4() override { return *picture4_; }
+    StatusBar& Panels() override { return *statusBar_; }
     SpellChecker& VSSpell1() override { return *vsSpell1_; }
     void SetHooks(bool activation, bool drops) override;
 

@@ -6,6 +6,7 @@
 #include "dialogs/FileDialogs.h"
 #include "dialogs/FormFields.h"
 #include "dialogs/PickColor.h"
+#include "dialogs/PictureFile.h"
 #include "editor/ActiveText.h"
 #include "editor/Frame.h"
 #include "platform/RichTextBox.h"
@@ -105,7 +106,7 @@ void frmBody::Command1_Click() {
     if (!path)
         return;
     // A file that is no picture leaves the sample as it is.
-    if (const QPixmap picture(*path); !picture.isNull())
+    if (const QPixmap picture = ReadPicture(*path); !picture.isNull())
         ui_->Picture1->SetPicture(picture);
     PickIntoField(frame_, *ui_->txtBackground, *path, ui_->chkAbsolute->isChecked(),
                   ui_->chkForwardSlash->isChecked());

@@ -1,13 +1,13 @@
 // What a file dialog's target is: its default filters, and how a file goes into it and out of it.
 #include "dialogs/CDialog.h"
 
+#include "dialogs/PictureFile.h"
 #include "platform/Cp1252.h"
 #include "platform/RichTextBox.h"
 #include "platform/WholeFile.h"
 
 #include <QBuffer>
 #include <QComboBox>
-#include <QFile>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
@@ -103,15 +103,17 @@ QString DialogTarget::DefaultFilters() const {
 bool DialogTarget::Load(const QString& path) const {
     const Kind kind = KindOf(control_);
     if (kind == Kind::Picture) {
-        const QPixmap picture(path);
+        const QPixmap picture = ReadPicture(path);
         if (!picture.isNull())
             static_cast<QLabel*>(control_)->setPixmap(picture);
         return !picture.isNull();
     }
-    QFile file(path);
-    if ((kind == Kind::None && !text_) || !file.open(QIODevice::ReadOnly))
+    if (kind == Kind::None && !text_)
         return false;
-    const QString text = Cp1252::FromBytes(file.readAll());
+    const std::optional<QByteArray> bytes = WholeFile::Read(path);
+    if (!bytes)
+        return false;
+    const QString text = Cp1252::FromBytes(*bytes);
     if (text_)
         *text_ = text;
     else

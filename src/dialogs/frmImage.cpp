@@ -2,11 +2,11 @@
 #include "dialogs/frmImage.h"
 
 #include "dialogs/ImagePreview.h"
+#include "dialogs/PictureFile.h"
 #include "editor/Forms.h"
 #include "editor/Frame.h"
 #include "ui_frmImage.h"
 
-#include <QImageReader>
 #include <QPixmap>
 
 frmImage::frmImage(Frame& frame) : QDialog(frame.Window()), ui_(std::make_unique<Ui::frmImage>()) {
@@ -20,11 +20,7 @@ QWidget* frmImage::Frame1() const {
 }
 
 bool frmImage::ShowPicture(const QString& path) {
-    QImageReader reader(path);
-    reader.setDecideFormatFromContent(true);
-    // Browsers turn a picture as its camera says, and count width and height of the turned one.
-    reader.setAutoTransform(true);
-    const QPixmap picture = QPixmap::fromImageReader(&reader);
+    const QPixmap picture = ReadPicture(path);
     if (picture.isNull())
         return false;
     pictureSize_ = picture.size();

@@ -14,10 +14,12 @@
 #include <QDeadlineTimer>
 #include <QDialog>
 #include <QDir>
+#include <QLabel>
 #include <QPointer>
 #include <QTimer>
 #include <sched.h>
 #include <sys/mount.h>
+#include <sys/stat.h>
 
 namespace {
 
@@ -417,6 +419,52 @@ TEST_F(Program, SettingsFileThatCannotBeReadIsLeftAlone) {
     Overwrite(SettingsFile() + QStringLiteral("/inside"), "kept");
     ExpectThatWorkGoesOn("a folder in its place");
     EXPECT_EQ(Content(SettingsFile() + QStringLiteral("/inside")), "kept");
+}
+
+TEST_F(Program, SettingsThatCannotBeReadAreToldOfUntilTheUserActs) {
+    FreshUser();
+    ASSERT_EQ(::mkfifo(QFile::encodeName(SettingsFile()), 0600), 0);
+    const QString told =
+        QStringLiteral("The settings can't be read, nor will they be kept: ") + SettingsFile();
+    EXPECT_EQ(Run(MakeFile(QStringLiteral("page.htm"), "<B>page</B>"),
+                  [&](frmTarnwick& frame) {
+                      const QLabel& panel = *frame.findChild<QLabel*>(QStringLiteral("Panel3"));
+                      RichTextBox& text = frame.ActiveForm()->txtInput();
+                      if (!text.hasFocus())
+                          return false;
+                      EXPECT_EQ(panel.text(), told);
+                      // The desktop takes the focus away and gives it back: nobody has told anything else.
+                      text.clearFocus();
+                      text.SetFocus();
+                      EXPECT_EQ(panel.text(), told);
+
+                      QTest::keyClick(&text, Qt::Key_Right);
+                      EXPECT_EQ(panel.text(), QStringLiteral("Line 1"));
+                      frame.SetStatusPanel(QString());
+                      text.clearFocus();
+                      text.SetFocus();
+                      EXPECT_EQ(panel.text(), QStringLiteral("Line 1"));
+                      return true;
+                  }),
+              0);
+}
+
+TEST_F(Program, WhatIsToldLaterThanTheSettingsStands) {
+    FreshUser();
+    ASSERT_EQ(::mkfifo(QFile::encodeName(SettingsFile()), 0600), 0);
+    EXPECT_EQ(Run(MakeFile(QStringLiteral("page.htm"), "<B>page</B>"),
+                  [&](frmTarnwick& frame) {
+                      RichTextBox& text = frame.ActiveForm()->txtInput();
+                      if (!text.hasFocus())
+                          return false;
+                      frame.SetStatusPanel(QStringLiteral("something else"));
+                      text.clearFocus();
+                      text.SetFocus();
+                      EXPECT_EQ(frame.findChild<QLabel*>(QStringLiteral("Panel3"))->text(),
+                                QStringLiteral("Line 1"));
+                      return true;
+                  }),
+              0);
 }
 
 TEST_F(Program, SettingsFolderThatCannotBeMadeStopsNobody) {

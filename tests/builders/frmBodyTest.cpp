@@ -7,6 +7,7 @@
 #include "dialogs/DialogState.h"
 #include "dialogs/FileDialogs.h"
 #include "dialogs/TagRows.h"
+#include "support/NoPlainFile.h"
 #include "support/Site.h"
 #include <QCheckBox>
 
@@ -186,6 +187,23 @@ TEST_F(frmBodyTest, BrowsesForTheBackground) {
 
     Fill(T(u"txtBackground"), QString());
     EXPECT_TRUE(Page().Picture().isNull());
+}
+
+TEST_F(frmBodyTest, ABackgroundThatIsNoPlainFileIsNotWaitedFor) {
+    FreshUser();
+    const Site site;
+    const QStringList paths = NoPlainFiles();
+    ASSERT_FALSE(paths.isEmpty());
+    Show();
+    Press(T(u"chkAbsolute"));
+    frame.prompts.openAnswers = {ScriptedPrompts::Picked(site.Path(T(u"img/banner.png")))};
+    Press(T(u"Command1"));
+    for (const QString& path : paths) {
+        frame.prompts.openAnswers = {ScriptedPrompts::Picked(path)};
+        Press(T(u"Command1"));
+        EXPECT_EQ(Field(T(u"txtBackground")), path);
+        EXPECT_EQ(Page().Picture().size(), QSize(468, 60));
+    }
 }
 
 TEST_F(frmBodyTest, KeepsTheFullPathWhereAsked) {

@@ -4,6 +4,7 @@
 #include "dialogs/DialogState.h"
 #include "dialogs/FileDialogs.h"
 #include "support/FreshUser.h"
+#include "support/NoPlainFile.h"
 #include "support/TestFrame.h"
 
 #include <gtest/gtest.h>
@@ -242,6 +243,23 @@ TEST_F(CDialogTest, OpenLoadsAPictureAndLeavesTheTargetWhereItCannot) {
     QString text = QStringLiteral("old");
     EXPECT_FALSE(dialog.LoadInto(&text));
     EXPECT_EQ(text, QStringLiteral("old"));
+}
+
+TEST_F(CDialogTest, WhatIsNoPlainFileIsNotWaitedForAndLeavesTheTarget) {
+    FreshUser();
+    const QStringList paths = NoPlainFiles();
+    ASSERT_FALSE(paths.isEmpty());
+    for (const QString& path : paths) {
+        SCOPED_TRACE(path.toStdString());
+        frame.prompts.openAnswers = {ScriptedPrompts::Picked(path)};
+        QLineEdit field(QStringLiteral("old"));
+        EXPECT_TRUE(dialog.ShowOpen(nullptr, &field));
+        ASSERT_EQ(field.text(), QStringLiteral("old"));
+        ASSERT_FALSE(dialog.LoadInto(&field));
+        QLabel picture;
+        ASSERT_FALSE(dialog.LoadInto(&picture));
+        EXPECT_FALSE(dialog.SaveFrom(&field));
+    }
 }
 
 TEST_F(CDialogTest, SaveWritesItsTarget) {

@@ -5,6 +5,7 @@
 #include "dialogs/frmImage.h"
 #include "platform/DesktopPrompts.h"
 #include "support/FreshUser.h"
+#include "support/NoPlainFile.h"
 #include "support/TestFrame.h"
 
 #include <gtest/gtest.h>
@@ -109,6 +110,20 @@ TEST(PictureBrowse, PreviewsTheSelectionAndUnloadsTheForm) {
         EXPECT_EQ(browse.Show(dialog, nullptr), std::nullopt);
     }
     EXPECT_EQ(frame.LoadedForms().Find<frmImage>(), nullptr);
+}
+
+TEST(PictureBrowse, WhatIsNoPlainFileIsNotWaitedForAndLeavesThePreview) {
+    FreshUser();
+    TestFrame frame;
+    const QStringList paths = NoPlainFiles();
+    ASSERT_FALSE(paths.isEmpty());
+    Picture(Here("tall.png"), 100, 400);
+    PictureBrowse browse(frame);
+    ShowImagePreview(frame, Here("tall.png"));
+    for (const QString& path : paths) {
+        ShowImagePreview(frame, path);
+        EXPECT_EQ(browse.PictureSize(), QSize(100, 400)) << path.toStdString();
+    }
 }
 
 TEST(PictureBrowse, ShowsThePictureInTheRealFileDialog) {

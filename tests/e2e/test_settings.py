@@ -2,6 +2,7 @@
 import os
 import resource
 import signal
+import stat
 import sys
 from driver import main, read, wait_for, PROGRAM
 
@@ -72,6 +73,24 @@ def test_a_folder_in_place_of_the_file_is_done_without(desk):
     os.makedirs(os.path.join(file_of(desk), "in the way"))
     starts_as_new(desk)
     assert os.path.isdir(os.path.join(file_of(desk), "in the way"))
+
+
+def test_a_pipe_in_place_of_the_file_is_told_until_a_key_is_pressed(desk):
+    os.remove(file_of(desk))
+    os.mkfifo(file_of(desk))
+    content = b"<P>words</P>"
+    path = desk.write("page.htm", content)
+    desk.run(path, window="Options")
+    desk.key("Escape")
+    desk.wait_no_window("Options")
+    desk.wait_active("The Tarnwick Pro")
+    desk.widget("Document text", focused=True)
+    told = "The settings can't be read, nor will they be kept: " + file_of(desk)
+    assert desk.widget_text_contains(told), "overwritten when the page got the focus"
+    desk.key("Right")
+    wait_for("the line", lambda: desk.widget_text_contains("Line 1"))
+    writes_a_page(desk, path, content)
+    assert stat.S_ISFIFO(os.stat(file_of(desk)).st_mode)
 
 
 def test_a_full_disk_leaves_the_old_file(desk):
