@@ -21,10 +21,7 @@ namespace {
 
 /// The HTML files of the filter are the ones shown at first.
 FileRequest DocumentRequest() {
-    FileRequest request;
-    request.filter = FileFilter::Document;
-    request.filterIndex = 2;
-    return request;
+    return {.filter = FileFilter::Document, .filterIndex = 2};
 }
 
 bool MayOverwrite(Frame& frame, const QString& path) {
@@ -42,9 +39,7 @@ FileAnswer AskWhereToSave(Frame& frame) {
             frame.Store().ReadFlag(Keys::UseHTM) ? QStringLiteral("htm") : QStringLiteral("html");
         request.folder = frame.State<DialogState>().LastDir;
         FileAnswer answer = frame.Ask().SaveFile(frame.Window(), request);
-        if (answer.Cancelled() || answer.names.first().isEmpty())
-            return {};
-        if (MayOverwrite(frame, answer.folder + answer.names.first()))
+        if (answer.Cancelled() || MayOverwrite(frame, answer.Path()))
             return answer;
     }
 }
@@ -75,8 +70,8 @@ void mnuOpen_Click(Frame& frame) {
     const FileAnswer answer = frame.Ask().OpenFile(frame.Window(), request);
     if (answer.Cancelled())
         return;
-    for (const QString& name : answer.names)
-        frame.OpenDocumentFile(answer.folder + name);
+    for (const QString& path : answer.Paths())
+        frame.OpenDocumentFile(path);
     frame.State<DialogState>().LastDir = answer.folder;
 }
 
@@ -97,7 +92,7 @@ void mnuSaveAs_Click(Frame& frame) {
     Document* document = frame.ActiveForm();
     if (answer.Cancelled() || !document)
         return;
-    const QString path = answer.folder + answer.names.first();
+    const QString path = answer.Path();
     // The document takes the new path either way; only what is safely in the file counts as saved.
     if (DocumentFiles::Save(path, document->txtInput().Text()))
         document->SetModified(false);
@@ -115,6 +110,6 @@ void mnuInsertContents_Click(Frame& frame) {
     RichTextBox* txtInput = ActiveText(frame);
     if (answer.Cancelled() || !txtInput)
         return;
-    if (const auto text = DocumentFiles::ReadInOneGo(answer.folder + answer.names.first()))
+    if (const auto text = DocumentFiles::ReadInOneGo(answer.Path()))
         txtInput->SetSelText(*text);
 }

@@ -20,6 +20,7 @@
 #include "platform/ColorNumber.h"
 #include "platform/Cp1252.h"
 #include "platform/FaceNames.h"
+#include "platform/Prompts.h"
 #include "platform/RichTextBox.h"
 #include "platform/Settings.h"
 #include "platform/UndoAction.h"
@@ -212,9 +213,9 @@ void frmExternal::chkLocFTP_Click(bool on) {
 namespace {
 
 std::optional<QString> PickProgram(Frame& frame, QWidget* owner) {
-    FileDialog dialog(frame);
-    dialog.SetFilter(QStringLiteral("All files (*.*)|*.*|Executables (*.exe)|*.exe|"), 2);
-    return dialog.ShowOpen(owner);
+    return PickFile(
+        frame, owner,
+        {.filter = QStringLiteral("All files (*.*)|*.*|Executables (*.exe)|*.exe|"), .filterIndex = 2});
 }
 
 } // namespace

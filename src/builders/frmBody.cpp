@@ -5,6 +5,7 @@
 #include "dialogs/DialogState.h"
 #include "dialogs/FileDialogs.h"
 #include "dialogs/FormFields.h"
+#include "dialogs/PathField.h"
 #include "dialogs/PickColor.h"
 #include "dialogs/PictureFile.h"
 #include "editor/ActiveText.h"
@@ -100,9 +101,7 @@ void frmBody::cmdShowColor_Click(int index) {
 
 void frmBody::Command1_Click() {
     PictureBrowse browse(frame_);
-    FileDialog dialog(frame_);
-    dialog.SetFilter(FileFilter::Picture);
-    const auto path = browse.Show(dialog, this);
+    const auto path = browse.Show(this, {.filter = FileFilter::Picture});
     if (!path)
         return;
     // A file that is no picture leaves the sample as it is.
@@ -130,8 +129,6 @@ void frmBody::cmdOK_Click() {
         DeleteBodyTag(*txtInput);
         Insert(tag);
     }
-    auto& state = frame_.State<DialogState>();
-    state.LastBuiltTag = tag;
-    state.TagBuilt = true;
+    frame_.State<DialogState>().TellBuilt(tag);
     Unload();
 }

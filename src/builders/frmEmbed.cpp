@@ -4,6 +4,7 @@
 #include "builders/EmbedTag.h"
 #include "dialogs/FileDialogs.h"
 #include "dialogs/FormFields.h"
+#include "dialogs/PathField.h"
 #include "editor/Frame.h"
 #include "ui_frmEmbed.h"
 
@@ -31,10 +32,8 @@ void frmEmbed::txtURL_Change() {
 }
 
 void frmEmbed::cmdGetFle_Click() {
-    FileDialog dialog(frame_);
     // There is one filter, and the second is asked for: the dialog comes up with the one there is.
-    dialog.SetFilter(FileFilter::AnyFile, 2);
-    if (const auto path = dialog.ShowOpen(this))
+    if (const auto path = PickFile(frame_, this, {.filter = FileFilter::AnyFile, .filterIndex = 2}))
         PickIntoField(frame_, *ui_->txtURL, *path, ui_->chkAbsolute->isChecked(),
                       ui_->chkForwardSlash->isChecked());
 }

@@ -3,13 +3,14 @@
 
 #include "builders/ImageTag.h"
 #include "dialogs/DialogState.h"
+#include "dialogs/FileDialogs.h"
 #include "dialogs/FormFields.h"
+#include "dialogs/PathField.h"
 #include "editor/Frame.h"
 #include "platform/Path.h"
 #include "ui_frmGraphicLink.h"
 
-frmGraphicLink::frmGraphicLink(Frame& frame)
-    : TagDialog(frame), ui_(std::make_unique<Ui::frmGraphicLink>()), dialog_(frame) {
+frmGraphicLink::frmGraphicLink(Frame& frame) : TagDialog(frame), ui_(std::make_unique<Ui::frmGraphicLink>()) {
     ui_->setupUi(this);
     Wire(*ui_->cmdOK, *ui_->cmdCancel);
     PrepareComboBoxes(*this);
@@ -40,8 +41,8 @@ void frmGraphicLink::Take(const ImageFields& fields) {
 
 void frmGraphicLink::cmdPicOpen_Click() {
     PictureBrowse browse(frame_);
-    dialog_.SetFilter(FileFilter::Picture);
-    const auto path = browse.Show(dialog_, this);
+    cdrFileDialog_ = {.filter = FileFilter::Picture};
+    const auto path = browse.Show(this, cdrFileDialog_);
     if (!path)
         return;
     PickIntoField(frame_, *ui_->txtURL, *path, ui_->chkAbsolute->isChecked(),
@@ -55,15 +56,15 @@ void frmGraphicLink::cmdPicOpen_Click() {
 
 void frmGraphicLink::cmdOpen2_Click() {
     PictureBrowse browse(frame_);
-    if (const auto path = browse.Show(dialog_, this))
+    if (const auto path = browse.Show(this, cdrFileDialog_))
         PickIntoField(frame_, *ui_->txtLowSRC, *path, ui_->chkAbsolute->isChecked(),
                       ui_->chkForwardSlash->isChecked());
 }
 
 void frmGraphicLink::cmdLinkMe_Click() {
     ui_->txtLinkMe->clear();
-    dialog_.SetFilter(FileFilter::LinkTarget, 2);
-    if (const auto path = dialog_.ShowOpen(this))
+    cdrFileDialog_ = {.filter = FileFilter::LinkTarget, .filterIndex = 2};
+    if (const auto path = PickFile(frame_, this, cdrFileDialog_))
         PickIntoField(frame_, *ui_->txtLinkMe, *path, false, ui_->chkForwardSlash->isChecked());
 }
 
@@ -81,8 +82,6 @@ void frmGraphicLink::cmdOK_Click() {
                                   .linkMe = FieldText(ui_->txtLinkMe)},
                                  TagCaseOf(frame_.Store()));
     Insert(tag);
-    auto& state = frame_.State<DialogState>();
-    state.LastBuiltTag = tag;
-    state.TagBuilt = true;
+    frame_.State<DialogState>().TellBuilt(tag);
     Unload();
 }

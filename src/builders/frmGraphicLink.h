@@ -1,8 +1,8 @@
 // The Image dialog: an image tag, bare or wrapped in a link.
 #pragma once
 
-#include "dialogs/FileDialogs.h"
 #include "dialogs/TagDialog.h"
+#include "platform/FileRequest.h"
 
 #include <memory>
 
@@ -34,5 +34,5 @@ class frmGraphicLink final : public TagDialog {
     void cmdOK_Click() override;
 
     std::unique_ptr<Ui::frmGraphicLink> ui_;
-    FileDialog dialog_;
+    FileRequest cdrFileDialog_; ///< the filter of the last browse, for the one that sets none
 };

@@ -4,6 +4,7 @@
 #include "builders/LinkTag.h"
 #include "dialogs/FileDialogs.h"
 #include "dialogs/FormFields.h"
+#include "dialogs/PathField.h"
 #include "editor/Frame.h"
 #include "ui_frmLinks.h"
 

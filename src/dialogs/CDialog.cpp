@@ -3,7 +3,6 @@
 
 #include "dialogs/DialogState.h"
 #include "editor/Frame.h"
-#include "platform/Path.h"
 #include "platform/Prompts.h"
 
 #include <algorithm>
@@ -20,6 +19,12 @@ qsizetype BufferUse(const FileAnswer& answer) {
         return answer.folder.size() + answer.names.first().size() + 1;
     return std::accumulate(answer.names.begin(), answer.names.end(), answer.folder.size() + 2,
                            [](qsizetype sum, const QString& name) { return sum + name.size() + 1; });
+}
+
+void Append(QString& filter, const QString& more) {
+    if (!filter.isEmpty() && !more.isEmpty() && !filter.endsWith(u'|'))
+        filter += u'|';
+    filter += more;
 }
 
 bool CanBeWritten(const QString& path) {
@@ -45,21 +50,16 @@ void CDialog::SetMultiSelect(int multi) {
 }
 
 void CDialog::SetFilter(const QString& filter) {
-    filter_ = filter;
-    filterIndex_ = 1;
+    request_.filter = filter;
+    request_.filterIndex = 1;
 }
 
 void CDialog::AddFilter(const QString& name, const QString& patterns) {
-    if (!filter_.isEmpty() && !filter_.endsWith(u'|'))
-        filter_ += u'|';
-    filter_ += name + u'|' + patterns + u'|';
+    Append(request_.filter, name + u'|' + patterns + u'|');
 }
 
 void CDialog::AddDefaultFilters(const DialogTarget& target) {
-    const QString filters = target.DefaultFilters();
-    if (!filter_.isEmpty() && !filters.isEmpty() && !filter_.endsWith(u'|'))
-        filter_ += u'|';
-    filter_ += filters;
+    Append(request_.filter, target.DefaultFilters());
 }
 
 QString CDialog::SelectedFile(int n) const {
@@ -91,14 +91,11 @@ bool CDialog::LoadInto(const DialogTarget& target) const {
 }
 
 bool CDialog::Show(bool open, QWidget* owner, const DialogTarget& target) {
-    if (filter_.isEmpty())
+    if (request_.filter.isEmpty())
         AddDefaultFilters(target);
-    FileRequest request;
-    request.filter = filter_;
-    request.filterIndex = filterIndex_;
+    FileRequest request = request_;
     request.folder = frame_.State<DialogState>().LastDir;
     request.multiSelect = open && multiSelect_ != Off;
-    request.mustExist = fileMustExist_;
     if (!owner)
         owner = QApplication::activeWindow();
     if (!owner)
@@ -122,8 +119,6 @@ bool CDialog::Take(const FileAnswer& answer) {
         errorCode_ = BufferTooSmall;
         return false;
     }
-    selected_.reserve(answer.names.size());
-    for (const QString& name : answer.names)
-        selected_ += Path::Join(answer.folder, name);
+    selected_ = answer.Paths();
     return true;
 }

@@ -2,11 +2,12 @@
 // control.
 #pragma once
 
+#include "platform/FileRequest.h"
+
 #include <QString>
 #include <QStringList>
 
 class Frame;
-struct FileAnswer;
 class QWidget;
 
 /// Where a file is loaded into or saved from: a control, a string, or nothing.
@@ -50,18 +51,18 @@ class CDialog {
     int MultiSelect() const { return multiSelect_; }
     /// "Name|pattern;pattern|" and so on. Assigning selects filter 1.
     void SetFilter(const QString& filter);
-    QString Filter() const { return filter_; }
+    QString Filter() const { return request_.filter; }
     /// 1-based.
-    void SetFilterIndex(int index) { filterIndex_ = index; }
-    int FilterIndex() const { return filterIndex_; }
+    void SetFilterIndex(int index) { request_.filterIndex = index; }
+    int FilterIndex() const { return request_.filterIndex; }
     void AddFilter(const QString& name, const QString& patterns);
     /// Adds the filters that suit the kind of target.
     void AddDefaultFilters(const DialogTarget& target);
     /// Kept as set: the desktop's dialogs have no read-only box.
     void SetFileReadOnly(bool on) { fileReadOnly_ = on; }
     bool FileReadOnly() const { return fileReadOnly_; }
-    void SetFileMustExist(bool on) { fileMustExist_ = on; }
-    bool FileMustExist() const { return fileMustExist_; }
+    void SetFileMustExist(bool on) { request_.mustExist = on; }
+    bool FileMustExist() const { return request_.mustExist; }
     /// The dialog comes again for a file that can't be written.
     void SetFileMustBeWritable(bool on) { fileMustBeWritable_ = on; }
     bool FileMustBeWritable() const { return fileMustBeWritable_; }
@@ -90,11 +91,9 @@ class CDialog {
     bool Take(const FileAnswer& answer);
 
     Frame& frame_;
+    FileRequest request_; ///< what stays from one showing to the next
     int multiSelect_ = Off;
-    QString filter_;
-    int filterIndex_ = 1;
     bool fileReadOnly_ = false;
-    bool fileMustExist_ = false;
     bool fileMustBeWritable_ = false;
     int errorCode_ = 0;
     QStringList selected_;

@@ -9,4 +9,9 @@ struct DialogState {
     /// The tag that the Body or image dialog wrote last, and that it did: the wizard reads the two.
     QString LastBuiltTag;
     bool TagBuilt = false;
+
+    void TellBuilt(const QString& tag) {
+        LastBuiltTag = tag;
+        TagBuilt = true;
+    }
 };

@@ -1,16 +1,13 @@
-// Picking a file into a field of a tag dialog: filters, a form's file dialog, the picture browse.
+// Picking a file in a tag dialog: the filters, the file dialog, the picture browse.
 #pragma once
 
-#include "platform/Prompts.h"
+#include "platform/FileRequest.h"
 
-#include <initializer_list>
 #include <optional>
 #include <QSize>
 #include <QString>
 
 class Frame;
-class QCheckBox;
-class QLineEdit;
 class QWidget;
 
 namespace FileFilter {
@@ -29,26 +26,9 @@ inline const QString AnyFile = QStringLiteral("All Files (*.*)|*.*|");
 
 } // namespace FileFilter
 
-/// A form's file dialog, cdrFileDialog. It opens in LastDir, which tag dialogs never change, and keeps the
-/// filter it was given last for a browse that sets none; it has none at first.
-class FileDialog {
-  public:
-    explicit FileDialog(Frame& frame) : frame_(frame) {}
-
-    /// The filter and its 1-based index, for the next showing and those after it.
-    void SetFilter(const QString& filter, int index = 1);
-    /// The full path of the file picked; nothing on Cancel.
-    std::optional<QString> ShowOpen(QWidget* owner);
-    /// The same with a preview panel beside the file list; selectionChanged is told the path of each file
-    /// selected.
-    std::optional<QString> ShowOpen(QWidget* owner, QWidget* panel,
-                                    std::function<void(const QString&)> selectionChanged);
-
-  private:
-    Frame& frame_;
-    QString filter_;
-    int filterIndex_ = 1;
-};
+/// Asks for a file to open, in LastDir, which tag dialogs never change. The full path of the file picked;
+/// nothing on Cancel.
+std::optional<QString> PickFile(Frame& frame, QWidget* owner, FileRequest request);
 
 /// One browse for a picture: loads frmImage, shows a file dialog with its panel, unloads frmImage at the
 /// end of its own life. Between a pick and that end the picture's size can be read.
@@ -59,23 +39,11 @@ class PictureBrowse {
     PictureBrowse(const PictureBrowse&) = delete;
     PictureBrowse& operator=(const PictureBrowse&) = delete;
 
-    /// The full path of the picture picked; nothing on Cancel. The dialog comes with the filter that it has.
-    std::optional<QString> Show(FileDialog& dialog, QWidget* owner);
+    /// The same as PickFile, with the preview beside the file list.
+    std::optional<QString> Show(QWidget* owner, FileRequest request);
     /// Width and height in pixels of the picture; 0 by 0 for a file that is none.
     QSize PictureSize() const;
 
   private:
     Frame& frame_;
 };
-
-/// What a field receives for a picked file: its full path if absolute, else the path relative to the active
-/// document; then with forwardSlash every \ becomes /. Nothing (the field stays as it was) where a relative
-/// path has no document to start from.
-std::optional<QString> FieldPath(Frame& frame, const QString& fullPath, bool absolute, bool forwardSlash);
-/// The same straight into a field.
-void PickIntoField(Frame& frame, QLineEdit& field, const QString& fullPath, bool absolute, bool forwardSlash);
-
-/// The whole text of a field with every \ as /, or with every / as \.
-void ConvertSlashes(QLineEdit& field, bool forward);
-/// From now on a click on chkForwardSlash converts the fields.
-void ConvertSlashesOnClick(QCheckBox& chkForwardSlash, std::initializer_list<QLineEdit*> fields);

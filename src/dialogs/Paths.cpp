@@ -1,9 +1,7 @@
 // From a picked file to a link target: exact case, paths relative to the document, slashes.
 #include "dialogs/Paths.h"
 
-#include "editor/Frame.h"
 #include "platform/Path.h"
-#include "platform/Prompts.h"
 
 #include <algorithm>
 #include <QDir>
@@ -105,17 +103,9 @@ RelativeResult RelativePath(const QString& documentPath, const QString& targetPa
                   Path::Separator(targetPath));
 }
 
-QString RelativePath(Frame& frame, const QString& documentPath, const QString& targetPath) {
-    const RelativeResult result = Relate(ExactCasePath(documentPath), ExactCasePath(targetPath),
-                                         Path::Separator(documentPath), Path::Separator(targetPath));
-    if (result.failed)
-        frame.Ask().MsgBox(
-            frame.Window(),
-            QStringLiteral("I am unable to complete this operation properly.\r\n"
-                           "You must save this document before selecting the relative path to an file.\r\n"
-                           "If the document is properly saved, please report this error to the maintainers."),
-            MsgButtons::OK, MsgIcon::Information, QString());
-    return result.path;
+RelativeResult RelativePath(const QString& documentPath, const QString& targetPath) {
+    return Relate(ExactCasePath(documentPath), ExactCasePath(targetPath), Path::Separator(documentPath),
+                  Path::Separator(targetPath));
 }
 
 void ReplaceChar(QString& text, QChar findChar, QChar newChar) {

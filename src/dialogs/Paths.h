@@ -5,8 +5,6 @@
 #include <QChar>
 #include <QString>
 
-class Frame;
-
 /// Asks a file system for the name of a folder's entry as it is spelled there: folder (with its separator at
 /// the end) and name in any case to the exact name, or empty where there is none.
 using NameLookUp = std::function<QString(const QString& folder, const QString& name)>;
@@ -27,8 +25,8 @@ struct RelativeResult {
 /// The way from a document's folder to a target, in the target's form: `..\img\b.gif`, `../img/b.gif`. Drives
 /// are not compared. Both are full paths; case counts, after ExactCasePath has looked at both.
 RelativeResult RelativePath(const QString& documentPath, const QString& targetPath, const NameLookUp& lookUp);
-/// The same on this computer's disks. A failure shows the box that asks to save the document first.
-QString RelativePath(Frame& frame, const QString& documentPath, const QString& targetPath);
+/// The same on this computer's disks.
+RelativeResult RelativePath(const QString& documentPath, const QString& targetPath);
 
 /// Overwrites every findChar by newChar.
 void ReplaceChar(QString& text, QChar findChar, QChar newChar);

@@ -1,4 +1,4 @@
-// Picking a file into a field of a tag dialog.
+// Picking a file in a tag dialog.
 #include "dialogs/FileDialogs.h"
 
 #include "dialogs/DialogState.h"
@@ -10,12 +10,10 @@
 
 #include <gtest/gtest.h>
 #include <QApplication>
-#include <QCheckBox>
 #include <QDialogButtonBox>
 #include <QDir>
 #include <QFileDialog>
 #include <QImage>
-#include <QLineEdit>
 #include <QListView>
 #include <QPushButton>
 #include <QTest>
@@ -62,18 +60,17 @@ TEST(FileFilter, TextsToTheLetter) {
     EXPECT_EQ(FileFilter::AnyFile, QStringLiteral("All Files (*.*)|*.*|"));
 }
 
-TEST(FileDialog, OpensInLastDirAndKeepsItsFilter) {
+TEST(PickFile, OpensInLastDirWithTheFilterGiven) {
     TestFrame frame;
     auto& state = frame.State<DialogState>();
     state.LastDir = QStringLiteral("/site");
     frame.prompts.openAnswers = {ScriptedPrompts::Cancelled(),
                                  ScriptedPrompts::Picked(QStringLiteral("/img/a.gif")),
                                  FileAnswer{QStringLiteral("/img/"), {QString()}}};
-    FileDialog dialog(frame);
-    dialog.SetFilter(FileFilter::LinkTarget, 2);
-    EXPECT_EQ(dialog.ShowOpen(nullptr), std::nullopt);
-    EXPECT_EQ(dialog.ShowOpen(nullptr), QStringLiteral("/img/a.gif"));
-    EXPECT_EQ(dialog.ShowOpen(nullptr), std::nullopt) << "an empty first name is a cancel";
+    const FileRequest request{.filter = FileFilter::LinkTarget, .filterIndex = 2};
+    EXPECT_EQ(PickFile(frame, nullptr, request), std::nullopt);
+    EXPECT_EQ(PickFile(frame, nullptr, request), QStringLiteral("/img/a.gif"));
+    EXPECT_EQ(PickFile(frame, nullptr, request), std::nullopt) << "an empty first name is a cancel";
     ASSERT_EQ(frame.prompts.asked.size(), 3);
     for (const Asked& asked : frame.prompts.asked) {
         EXPECT_EQ(asked.kind, Asked::Open);
@@ -98,16 +95,14 @@ TEST(PictureBrowse, PreviewsTheSelectionAndUnloadsTheForm) {
     };
     frame.prompts.openAnswers = {ScriptedPrompts::Picked(Here("tall.png")), ScriptedPrompts::Cancelled()};
     {
-        FileDialog dialog(frame);
         PictureBrowse browse(frame);
-        EXPECT_EQ(browse.Show(dialog, nullptr), Here("tall.png"));
+        EXPECT_EQ(browse.Show(nullptr, {}), Here("tall.png"));
         EXPECT_EQ(browse.PictureSize(), QSize(100, 400)) << "a name that was typed was never selected";
     }
     EXPECT_EQ(frame.LoadedForms().Find<frmImage>(), nullptr);
     {
-        FileDialog dialog(frame);
         PictureBrowse browse(frame);
-        EXPECT_EQ(browse.Show(dialog, nullptr), std::nullopt);
+        EXPECT_EQ(browse.Show(nullptr, {}), std::nullopt);
     }
     EXPECT_EQ(frame.LoadedForms().Find<frmImage>(), nullptr);
 }
@@ -130,8 +125,6 @@ TEST(PictureBrowse, ShowsThePictureInTheRealFileDialog) {
     RealPromptsFrame frame;
     Picture(Here("wide.png"), 468, 60);
     frame.State<DialogState>().LastDir = TestFolder();
-    FileDialog pictures(frame);
-    pictures.SetFilter(FileFilter::Picture);
     bool seen = false;
     QTimer timer;
     QObject::connect(&timer, &QTimer::timeout, &timer, [&] {
@@ -152,67 +145,7 @@ TEST(PictureBrowse, ShowsThePictureInTheRealFileDialog) {
     });
     timer.start(0);
     PictureBrowse browse(frame);
-    EXPECT_EQ(browse.Show(pictures, frame.Window()), Here("wide.png"));
+    EXPECT_EQ(browse.Show(frame.Window(), {.filter = FileFilter::Picture}), Here("wide.png"));
     EXPECT_TRUE(seen);
     EXPECT_EQ(browse.PictureSize(), QSize(468, 60));
-}
-
-TEST(FieldPath, AbsoluteOrRelativeThenSlashes) {
-    TestFrame frame;
-    struct Row {
-        QStringView caption;
-        QStringView path;
-        bool absolute;
-        bool forwardSlash;
-        QStringView field;
-    };
-    const Row rows[] = {
-        {u"C:\\site\\p\\a.htm", u"C:\\site\\img\\b.gif", false, true, u"../img/b.gif"},
-        {u"C:\\site\\p\\a.htm", u"C:\\site\\img\\b.gif", false, false, u"..\\img\\b.gif"},
-        {u"C:\\site\\p\\a.htm", u"C:\\site\\img\\b.gif", true, true, u"C:/site/img/b.gif"},
-        {u"C:\\site\\p\\a.htm", u"C:\\site\\img\\b.gif", true, false, u"C:\\site\\img\\b.gif"},
-    };
-    for (const Row& row : rows) {
-        frame.active->caption = row.caption.toString();
-        QLineEdit field(QStringLiteral("old"));
-        PickIntoField(frame, field, row.path.toString(), row.absolute, row.forwardSlash);
-        EXPECT_EQ(field.text(), row.field.toString());
-        EXPECT_EQ(FieldPath(frame, row.path.toString(), row.absolute, row.forwardSlash),
-                  row.field.toString());
-    }
-}
-
-TEST(FieldPath, NeverSavedDocumentShowsTheBoxAndFillsTheFieldAllTheSame) {
-    TestFrame frame;
-    QLineEdit field(QStringLiteral("old"));
-    PickIntoField(frame, field, QStringLiteral("C:\\site\\b.gif"), false, true);
-    EXPECT_EQ(field.text(), QStringLiteral("site/b.gif"));
-    ASSERT_EQ(frame.prompts.Messages().size(), 1);
-    EXPECT_TRUE(frame.prompts.Messages().first().startsWith(QStringLiteral("I am unable to complete")));
-}
-
-TEST(FieldPath, WithoutADocumentOnlyAFullPathComes) {
-    TestFrame frame;
-    frame.CloseDocument();
-    QLineEdit field(QStringLiteral("old"));
-    PickIntoField(frame, field, QStringLiteral("C:\\site\\b.gif"), false, true);
-    EXPECT_EQ(field.text(), QStringLiteral("old"));
-    PickIntoField(frame, field, QStringLiteral("C:\\site\\b.gif"), true, true);
-    EXPECT_EQ(field.text(), QStringLiteral("C:/site/b.gif"));
-    EXPECT_TRUE(frame.prompts.asked.isEmpty());
-}
-
-TEST(ForwardSlash, ClickConvertsTheWholeTextOfTheFields) {
-    QCheckBox box;
-    box.setChecked(true);
-    QLineEdit first(QStringLiteral("http://x/y"));
-    QLineEdit second(QStringLiteral("a\\b"));
-    ConvertSlashesOnClick(box, {&first, &second});
-    EXPECT_EQ(second.text(), QStringLiteral("a\\b")) << "not before a click";
-    box.click();
-    EXPECT_EQ(first.text(), QStringLiteral("http:\\\\x\\y"));
-    EXPECT_EQ(second.text(), QStringLiteral("a\\b"));
-    box.click();
-    EXPECT_EQ(first.text(), QStringLiteral("http://x/y"));
-    EXPECT_EQ(second.text(), QStringLiteral("a/b"));
 }

@@ -2,7 +2,6 @@
 #include "dialogs/Paths.h"
 
 #include "support/FreshUser.h"
-#include "support/TestFrame.h"
 
 #include <gtest/gtest.h>
 #include <QDir>
@@ -23,11 +22,6 @@ QString AsAsked(const QString&, const QString& name) {
 QString InLowerCase(const QString&, const QString& name) {
     return name.startsWith(u"gone", Qt::CaseInsensitive) ? QString() : name.toLower();
 }
-
-const QString SaveFirst =
-    QStringLiteral("I am unable to complete this operation properly.\r\n"
-                   "You must save this document before selecting the relative path to an file.\r\n"
-                   "If the document is properly saved, please report this error to the maintainers.");
 
 void Touch(const QString& path) {
     ASSERT_TRUE(QDir().mkpath(QFileInfo(path).absolutePath()));
@@ -153,41 +147,6 @@ TEST(ExactCasePath, PathOfAnotherKindOfComputerStays) {
     EXPECT_EQ(ExactCasePath(T(u"c:\\Site\\B.gif")), T(u"c:\\Site\\B.gif"));
     EXPECT_EQ(ExactCasePath(T(u"b.gif")), T(u"b.gif"));
     EXPECT_EQ(ExactCasePath(QString()), QString());
-}
-
-TEST(RelativePath, AsksToSaveFirstAndGivesWhatItHasAllTheSame) {
-    TestFrame frame;
-    const QString file = TestFolder() + QStringLiteral("/b.gif");
-    Touch(file);
-    EXPECT_EQ(RelativePath(frame, QString(), file), file.mid(1));
-    ASSERT_EQ(frame.prompts.asked.size(), 1);
-    const Asked& box = frame.prompts.asked.first();
-    EXPECT_EQ(box.text, SaveFirst);
-    EXPECT_EQ(box.title, QString());
-    EXPECT_EQ(box.icon, MsgIcon::Information);
-    EXPECT_EQ(box.buttons, MsgButtons::OK);
-}
-
-TEST(RelativePath, SavedDocumentsNeedNoBox) {
-    TestFrame frame;
-    Touch(TestFolder() + QStringLiteral("/pages/a.htm"));
-    Touch(TestFolder() + QStringLiteral("/Img/b.gif"));
-    EXPECT_EQ(RelativePath(frame, TestFolder() + QStringLiteral("/pages/a.htm"),
-                           TestFolder() + QStringLiteral("/img/B.gif")),
-              T(u"../Img/b.gif"));
-    EXPECT_EQ(RelativePath(frame, T(u"C:\\site\\pages\\a.htm"), T(u"C:\\site\\img\\b.gif")),
-              T(u"..\\img\\b.gif"));
-    EXPECT_TRUE(frame.prompts.asked.isEmpty());
-}
-
-TEST(RelativePath, AnEmptyTargetGetsTheBoxLikeADocumentWithoutAPath) {
-    TestFrame frame;
-    EXPECT_EQ(RelativePath(frame, T(u"C:\\site\\pages\\a.htm"), QString()), T(u"../../"));
-    EXPECT_EQ(RelativePath(frame, QString(), T(u"C:\\site\\b.gif")), T(u"site\\b.gif"));
-    ASSERT_EQ(frame.prompts.asked.size(), 2);
-    EXPECT_EQ(frame.prompts.asked[0].text, frame.prompts.asked[1].text);
-    EXPECT_EQ(frame.prompts.asked[0].title, frame.prompts.asked[1].title);
-    EXPECT_EQ(frame.prompts.asked[0].icon, frame.prompts.asked[1].icon);
 }
 
 TEST(ReplaceChar, OverwritesEveryOccurrence) {

@@ -1,0 +1,60 @@
+// A field that holds the path of a file: what a picked file becomes in it, and its slashes.
+#include "dialogs/PathField.h"
+
+#include "dialogs/Paths.h"
+#include "editor/Document.h"
+#include "editor/Frame.h"
+#include "platform/Prompts.h"
+
+#include <QCheckBox>
+#include <QLineEdit>
+
+namespace {
+
+void AskToSaveFirst(Prompts& ask, QWidget* owner) {
+    ask.MsgBox(
+        owner,
+        QStringLiteral("I am unable to complete this operation properly.\r\n"
+                       "You must save this document before selecting the relative path to an file.\r\n"
+                       "If the document is properly saved, please report this error to the maintainers."),
+        MsgButtons::OK, MsgIcon::Information, QString());
+}
+
+} // namespace
+
+std::optional<QString> FieldPath(Frame& frame, const QString& fullPath, bool absolute, bool forwardSlash) {
+    QString path = fullPath;
+    if (!absolute) {
+        const Document* document = frame.ActiveForm();
+        if (!document)
+            return std::nullopt;
+        const RelativeResult relative = RelativePath(document->Caption(), fullPath);
+        if (relative.failed)
+            AskToSaveFirst(frame.Ask(), frame.Window());
+        path = relative.path;
+    }
+    if (forwardSlash)
+        ReplaceChar(path, u'\\', u'/');
+    return path;
+}
+
+void PickIntoField(Frame& frame, QLineEdit& field, const QString& fullPath, bool absolute,
+                   bool forwardSlash) {
+    if (const auto path = FieldPath(frame, fullPath, absolute, forwardSlash))
+        field.setText(*path);
+}
+
+void ConvertSlashes(QLineEdit& field, bool forward) {
+    QString text = field.text();
+    if (forward)
+        ReplaceChar(text, u'\\', u'/');
+    else
+        ReplaceChar(text, u'/', u'\\');
+    field.setText(text);
+}
+
+void ConvertSlashesOnClick(QCheckBox& chkForwardSlash, std::initializer_list<QLineEdit*> fields) {
+    for (QLineEdit* field : fields)
+        QObject::connect(&chkForwardSlash, &QCheckBox::toggled, field,
+                         [field](bool forward) { ConvertSlashes(*field, forward); });
+}
