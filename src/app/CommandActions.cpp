@@ -2,7 +2,6 @@
 #include "app/CommandActions.h"
 
 #include "editor/Commands.h"
-#include "editor/Frame.h"
 
 #include <QAction>
 #include <QWidget>
@@ -14,19 +13,20 @@ constexpr char isCommand[] = "isCommand";
 
 } // namespace
 
-QAction* MakeCommandAction(const QString& name, const QString& caption, Frame& frame, QObject* parent) {
+QAction* MakeCommandAction(const QString& name, const QString& caption, CommandSet& commands,
+                           QObject* parent) {
     auto* action = new QAction(caption, parent);
     action->setObjectName(name);
     // Captions such as "&Options..." must not be taken for an application menu's entries.
     action->setMenuRole(QAction::NoRole);
     action->setProperty(isCommand, true);
-    QObject::connect(action, &QAction::triggered, action, [&frame, name] { frame.Commands().Run(name); });
+    QObject::connect(action, &QAction::triggered, action, [&commands, name] { commands.Run(name); });
     return action;
 }
 
-void EnableCommands(QWidget& window, Frame& frame) {
+void EnableCommands(QWidget& window, const CommandSet& commands) {
     const auto actions = window.findChildren<QAction*>();
     for (QAction* action : actions)
         if (action->property(isCommand).toBool())
-            action->setEnabled(frame.Commands().Has(action->objectName()));
+            action->setEnabled(commands.Has(action->objectName()));
 }

@@ -212,8 +212,8 @@ void AddSeparator(QMenu& menu, const MenuRow& row) {
 }
 
 void AddEntry(QMenu& menu, const MenuRow& row, Frame& frame, QObject* owner) {
-    QAction* entry =
-        MakeCommandAction(QString::fromLatin1(row.name), QString::fromLatin1(row.caption), frame, owner);
+    QAction* entry = MakeCommandAction(QString::fromLatin1(row.name), QString::fromLatin1(row.caption),
+                                       frame.Commands(), owner);
     entry->setShortcut(QKeySequence(QString::fromLatin1(row.shortcut), QKeySequence::PortableText));
     entry->setVisible(row.showing == MenuRow::Shown);
     menu.addAction(entry);

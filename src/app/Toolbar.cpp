@@ -114,7 +114,7 @@ Toolbar1::Toolbar1(Frame& frame, QWidget* parent) : QWidget(parent), frame_(fram
 void Toolbar1::AddButton(const ToolbarRow& row) {
     const QString key = QString::fromLatin1(row.key);
     const QString toolTip = QString::fromLatin1(row.toolTip);
-    QAction* action = MakeCommandAction(QStringLiteral("tb_") + key, toolTip, frame_, this);
+    QAction* action = MakeCommandAction(QStringLiteral("tb_") + key, toolTip, frame_.Commands(), this);
     action->setToolTip(toolTip);
     action->setIcon(ToolbarIcon(key));
     auto* button = new CommandButton(*action, this);

@@ -1,7 +1,6 @@
 // Loads the plugin with the browser and design controls, if it is installed.
 #include "app/WebPlugin.h"
 
-#include "editor/Frame.h"
 #include "editor/WebControls.h"
 
 #include <QCoreApplication>
@@ -24,6 +23,6 @@ WebControlsFactory* LoadWebPlugin(const QStringList& folders) {
     return nullptr;
 }
 
-void UseWebPlugin(Frame& frame) {
-    frame.State<WebControls>().Load = [] { return LoadWebPlugin(WebPluginFolders()); };
+void UseWebPlugin(WebControls& controls) {
+    controls.Load = [] { return LoadWebPlugin(WebPluginFolders()); };
 }

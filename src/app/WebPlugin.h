@@ -3,12 +3,12 @@
 
 #include <QStringList>
 
-class Frame;
+struct WebControls;
 class WebControlsFactory;
 
-/// Lets the documents of a frame have the controls. Nothing is loaded until a document asks; without the
+/// Lets the documents of a frame have its controls. Nothing is loaded until a document asks; without the
 /// plugin they do without.
-void UseWebPlugin(Frame& frame);
+void UseWebPlugin(WebControls& controls);
 
 /// The plugin of the first of the folders that holds one that can be loaded; null where none does. A plugin
 /// that was loaded stays to the end of the program.

@@ -106,8 +106,7 @@ class WindowList : public QObject {
 
 } // namespace
 
-void FillWindowCommands(Frame& frame, QMdiArea& area) {
-    CommandSet& commands = frame.Commands();
+void FillWindowCommands(CommandSet& commands, QMdiArea& area) {
     commands.Set(u"mnuCascade"_s, [&area] { mnuCascade_Click(area); });
     commands.Set(u"mnuTile"_s, [&area] { mnuTile_Click(area); });
     commands.Set(u"mnuArrangeIcons"_s, [&area] { mnuArrangeIcons_Click(area); });

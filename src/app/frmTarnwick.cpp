@@ -30,6 +30,7 @@
 #include "builders/MenuTagCommands.h"
 #include "editor/Modes.h"
 #include "editor/SpellChecker.h"
+#include "editor/WebControls.h"
 #include "platform/RichTextBox.h"
 
 #include <QApplication>
@@ -86,7 +87,7 @@ frmTarnwick::frmTarnwick(Settings& store, Prompts& ask)
     FillCommands();
     BuildMenuBar();
     BuildStrips();
-    EnableCommands(*this, *this);
+    EnableCommands(*this, commands_);
     HookWindow();
     resize(firstSize.boundedTo(RoomInside(*this)));
 }
@@ -101,7 +102,7 @@ void frmTarnwick::FillCommands() {
     commands_.Set(u"mnuNew"_s, [this] { NewDocument(); });
     FillFileCommands(*this);
     FillEditCommands(*this);
-    FillWindowCommands(*this, *area_);
+    FillWindowCommands(commands_, *area_);
     FillSkeletonCommands(*this);
     FillPreviewCommands(*this);
     FillMenuTagCommands(*this);
@@ -109,7 +110,7 @@ void frmTarnwick::FillCommands() {
     FillHelpCommands(*this);
     FillFormCommands(*this, KnownForms());
     FillEditTagCommand(*this);
-    UseWebPlugin(*this);
+    UseWebPlugin(State<WebControls>());
     FillAutoFillHooks(*this);
 }
 

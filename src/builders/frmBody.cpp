@@ -107,8 +107,9 @@ void frmBody::Command1_Click() {
     // A file that is no picture leaves the sample as it is.
     if (const QPixmap picture = ReadPicture(*path); !picture.isNull())
         ui_->Picture1->SetPicture(picture);
-    PickIntoField(frame_, *ui_->txtBackground, *path, ui_->chkAbsolute->isChecked(),
-                  ui_->chkForwardSlash->isChecked());
+    PickIntoField(
+        frame_, *ui_->txtBackground, *path,
+        {.absolute = ui_->chkAbsolute->isChecked(), .forwardSlash = ui_->chkForwardSlash->isChecked()});
 }
 
 void frmBody::txtBackground_Change() {

@@ -34,8 +34,9 @@ void frmEmbed::txtURL_Change() {
 void frmEmbed::cmdGetFle_Click() {
     // There is one filter, and the second is asked for: the dialog comes up with the one there is.
     if (const auto path = PickFile(frame_, this, {.filter = FileFilter::AnyFile, .filterIndex = 2}))
-        PickIntoField(frame_, *ui_->txtURL, *path, ui_->chkAbsolute->isChecked(),
-                      ui_->chkForwardSlash->isChecked());
+        PickIntoField(
+            frame_, *ui_->txtURL, *path,
+            {.absolute = ui_->chkAbsolute->isChecked(), .forwardSlash = ui_->chkForwardSlash->isChecked()});
 }
 
 void frmEmbed::cmdOK_Click() {

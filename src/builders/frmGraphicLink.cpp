@@ -45,8 +45,9 @@ void frmGraphicLink::cmdPicOpen_Click() {
     const auto path = browse.Show(this, cdrFileDialog_);
     if (!path)
         return;
-    PickIntoField(frame_, *ui_->txtURL, *path, ui_->chkAbsolute->isChecked(),
-                  ui_->chkForwardSlash->isChecked());
+    PickIntoField(
+        frame_, *ui_->txtURL, *path,
+        {.absolute = ui_->chkAbsolute->isChecked(), .forwardSlash = ui_->chkForwardSlash->isChecked()});
     const QSize size = browse.PictureSize();
     ui_->txtWidth->setText(QString::number(size.width()));
     ui_->txtHeight->setText(QString::number(size.height()));
@@ -57,15 +58,16 @@ void frmGraphicLink::cmdPicOpen_Click() {
 void frmGraphicLink::cmdOpen2_Click() {
     PictureBrowse browse(frame_);
     if (const auto path = browse.Show(this, cdrFileDialog_))
-        PickIntoField(frame_, *ui_->txtLowSRC, *path, ui_->chkAbsolute->isChecked(),
-                      ui_->chkForwardSlash->isChecked());
+        PickIntoField(
+            frame_, *ui_->txtLowSRC, *path,
+            {.absolute = ui_->chkAbsolute->isChecked(), .forwardSlash = ui_->chkForwardSlash->isChecked()});
 }
 
 void frmGraphicLink::cmdLinkMe_Click() {
     ui_->txtLinkMe->clear();
     cdrFileDialog_ = {.filter = FileFilter::LinkTarget, .filterIndex = 2};
     if (const auto path = PickFile(frame_, this, cdrFileDialog_))
-        PickIntoField(frame_, *ui_->txtLinkMe, *path, false, ui_->chkForwardSlash->isChecked());
+        PickIntoField(frame_, *ui_->txtLinkMe, *path, {.forwardSlash = ui_->chkForwardSlash->isChecked()});
 }
 
 void frmGraphicLink::cmdOK_Click() {

@@ -29,8 +29,9 @@ void frmLinks::cmdOpen_Click() {
     dialog_.ShowOpen(this);
     // A cancel is not told apart: the way to an empty name is what the field receives then, and the box of a
     // path without a root comes up.
-    PickIntoField(frame_, *ui_->txtURL, dialog_.SelectedFile(1), ui_->chkAbsolute->isChecked(),
-                  ui_->chkForwardSlash->isChecked());
+    PickIntoField(
+        frame_, *ui_->txtURL, dialog_.SelectedFile(1),
+        {.absolute = ui_->chkAbsolute->isChecked(), .forwardSlash = ui_->chkForwardSlash->isChecked()});
 }
 
 void frmLinks::cmdOK_Click() {

@@ -22,9 +22,9 @@ void AskToSaveFirst(Prompts& ask, QWidget* owner) {
 
 } // namespace
 
-std::optional<QString> FieldPath(Frame& frame, const QString& fullPath, bool absolute, bool forwardSlash) {
+std::optional<QString> FieldPath(Frame& frame, const QString& fullPath, PathForm form) {
     QString path = fullPath;
-    if (!absolute) {
+    if (!form.absolute) {
         const Document* document = frame.ActiveForm();
         if (!document)
             return std::nullopt;
@@ -33,14 +33,13 @@ std::optional<QString> FieldPath(Frame& frame, const QString& fullPath, bool abs
             AskToSaveFirst(frame.Ask(), frame.Window());
         path = relative.path;
     }
-    if (forwardSlash)
+    if (form.forwardSlash)
         ReplaceChar(path, u'\\', u'/');
     return path;
 }
 
-void PickIntoField(Frame& frame, QLineEdit& field, const QString& fullPath, bool absolute,
-                   bool forwardSlash) {
-    if (const auto path = FieldPath(frame, fullPath, absolute, forwardSlash))
+void PickIntoField(Frame& frame, QLineEdit& field, const QString& fullPath, PathForm form) {
+    if (const auto path = FieldPath(frame, fullPath, form))
         field.setText(*path);
 }
 

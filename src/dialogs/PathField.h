@@ -9,13 +9,18 @@ class Frame;
 class QCheckBox;
 class QLineEdit;
 
-/// What a field receives for a picked file: its full path if absolute, else the path relative to the active
-/// document; then with forwardSlash every \ becomes /. A path without a root to start from or to go to shows
+/// How a picked file stands in a field, as chkAbsolute and chkForwardSlash tell.
+struct PathForm {
+    bool absolute = false;    ///< the full path; otherwise the path relative to the active document
+    bool forwardSlash = true; ///< every \ becomes /
+};
+
+/// What a field receives for a picked file. A path without a root to start from or to go to shows
 /// the box that asks to save the document first, and gives what could be computed. Nothing (the field stays
 /// as it was) where a relative path has no document to start from.
-std::optional<QString> FieldPath(Frame& frame, const QString& fullPath, bool absolute, bool forwardSlash);
+std::optional<QString> FieldPath(Frame& frame, const QString& fullPath, PathForm form);
 /// The same straight into a field.
-void PickIntoField(Frame& frame, QLineEdit& field, const QString& fullPath, bool absolute, bool forwardSlash);
+void PickIntoField(Frame& frame, QLineEdit& field, const QString& fullPath, PathForm form);
 
 /// The whole text of a field with every \ as /, or with every / as \.
 void ConvertSlashes(QLineEdit& field, bool forward);

@@ -297,17 +297,17 @@ TEST_F(MenuTreeTest, NoKeyIsGivenTwiceAndTheTextControlKeepsItsOwn) {
 
 TEST_F(MenuTreeTest, AnEntryWithoutACommandIsDisabled) {
     frame.Commands().Set(QStringLiteral("mnuBold"), [] {});
-    EnableCommands(*frame.Window(), frame);
+    EnableCommands(*frame.Window(), frame.Commands());
     EXPECT_TRUE(Entry("mnuBold")->isEnabled());
     EXPECT_FALSE(Entry("mnuItalic")->isEnabled());
     frame.Commands().Set(QStringLiteral("mnuItalic"), [] {});
-    EnableCommands(*frame.Window(), frame);
+    EnableCommands(*frame.Window(), frame.Commands());
     EXPECT_TRUE(Entry("mnuItalic")->isEnabled());
 }
 
 TEST_F(MenuTreeTest, EnablingLeavesOtherActionsAlone) {
     QAction listed(QStringLiteral("an open document"), frame.Window());
-    EnableCommands(*frame.Window(), frame);
+    EnableCommands(*frame.Window(), frame.Commands());
     EXPECT_TRUE(listed.isEnabled());
     EXPECT_TRUE(bar.findChild<QMenu*>(QStringLiteral("mnuFile"))->isEnabled());
 }
@@ -319,7 +319,7 @@ TEST_F(MenuTreeTest, AnEntryRunsTheCommandOfItsName) {
             const QString name = QString::fromLatin1(row.name);
             frame.Commands().Set(name, [&ran, name] { ran << name; });
         }
-    EnableCommands(*frame.Window(), frame);
+    EnableCommands(*frame.Window(), frame.Commands());
     QStringList expected;
     for (const MenuRow& row : MenuTree())
         if (row.kind == MenuRow::Entry) {

@@ -92,7 +92,7 @@ class ToolbarTest : public testing::Test {
             frame.Commands().Set(name, [this, name] { ran << name; });
         }
         toolbar = new Toolbar1(frame, frame.Window());
-        EnableCommands(*frame.Window(), frame);
+        EnableCommands(*frame.Window(), frame.Commands());
         toolbar->show();
     }
 
@@ -250,7 +250,7 @@ TEST_F(ToolbarTest, TheArrowsPassOverWhatIsDisabled) {
 TEST_F(ToolbarTest, AButtonWithoutACommandIsDisabled) {
     TestFrame other;
     auto* bare = new Toolbar1(other, other.Window());
-    EnableCommands(*other.Window(), other);
+    EnableCommands(*other.Window(), other.Commands());
     const QList<QToolButton*> buttons = bare->findChildren<QToolButton*>();
     EXPECT_EQ(buttons.size(), static_cast<qsizetype>(expected.size()));
     for (const QToolButton* button : buttons)

@@ -1,13 +1,12 @@
 // A field that holds the path of a file.
 #include "dialogs/PathField.h"
 
+#include "support/Files.h"
 #include "support/FreshUser.h"
 #include "support/TestFrame.h"
 
 #include <gtest/gtest.h>
 #include <QCheckBox>
-#include <QDir>
-#include <QFile>
 #include <QLineEdit>
 
 namespace {
@@ -21,16 +20,10 @@ const QString SaveFirst =
                    "You must save this document before selecting the relative path to an file.\r\n"
                    "If the document is properly saved, please report this error to the maintainers.");
 
-void Touch(const QString& path) {
-    ASSERT_TRUE(QDir().mkpath(QFileInfo(path).absolutePath()));
-    QFile file(path);
-    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-}
-
 /// What a field receives for a target while a document is the active one.
 QString RelativeTo(TestFrame& frame, const QString& document, const QString& target) {
     frame.active->caption = document;
-    return FieldPath(frame, target, false, false).value_or(T(u"(nothing)"));
+    return FieldPath(frame, target, {.forwardSlash = false}).value_or(T(u"(nothing)"));
 }
 
 } // namespace
@@ -38,7 +31,7 @@ QString RelativeTo(TestFrame& frame, const QString& document, const QString& tar
 TEST(FieldPath, AsksToSaveFirstAndGivesWhatItHasAllTheSame) {
     TestFrame frame;
     const QString file = TestFolder() + QStringLiteral("/b.gif");
-    Touch(file);
+    WriteFile(file);
     EXPECT_EQ(RelativeTo(frame, QString(), file), file.mid(1));
     ASSERT_EQ(frame.prompts.asked.size(), 1);
     const Asked& box = frame.prompts.asked.first();
@@ -50,8 +43,8 @@ TEST(FieldPath, AsksToSaveFirstAndGivesWhatItHasAllTheSame) {
 
 TEST(FieldPath, SavedDocumentsNeedNoBox) {
     TestFrame frame;
-    Touch(TestFolder() + QStringLiteral("/pages/a.htm"));
-    Touch(TestFolder() + QStringLiteral("/Img/b.gif"));
+    WriteFile(TestFolder() + QStringLiteral("/pages/a.htm"));
+    WriteFile(TestFolder() + QStringLiteral("/Img/b.gif"));
     EXPECT_EQ(RelativeTo(frame, TestFolder() + QStringLiteral("/pages/a.htm"),
                          TestFolder() + QStringLiteral("/img/B.gif")),
               T(u"../Img/b.gif"));
@@ -88,9 +81,9 @@ TEST(FieldPath, AbsoluteOrRelativeThenSlashes) {
     for (const Row& row : rows) {
         frame.active->caption = row.caption.toString();
         QLineEdit field(QStringLiteral("old"));
-        PickIntoField(frame, field, row.path.toString(), row.absolute, row.forwardSlash);
+        PickIntoField(frame, field, row.path.toString(), {row.absolute, row.forwardSlash});
         EXPECT_EQ(field.text(), row.field.toString());
-        EXPECT_EQ(FieldPath(frame, row.path.toString(), row.absolute, row.forwardSlash),
+        EXPECT_EQ(FieldPath(frame, row.path.toString(), {row.absolute, row.forwardSlash}),
                   row.field.toString());
     }
 }
@@ -98,7 +91,7 @@ TEST(FieldPath, AbsoluteOrRelativeThenSlashes) {
 TEST(FieldPath, NeverSavedDocumentShowsTheBoxAndFillsTheFieldAllTheSame) {
     TestFrame frame;
     QLineEdit field(QStringLiteral("old"));
-    PickIntoField(frame, field, QStringLiteral("C:\\site\\b.gif"), false, true);
+    PickIntoField(frame, field, QStringLiteral("C:\\site\\b.gif"), {});
     EXPECT_EQ(field.text(), QStringLiteral("site/b.gif"));
     ASSERT_EQ(frame.prompts.Messages().size(), 1);
     EXPECT_TRUE(frame.prompts.Messages().first().startsWith(QStringLiteral("I am unable to complete")));
@@ -108,9 +101,9 @@ TEST(FieldPath, WithoutADocumentOnlyAFullPathComes) {
     TestFrame frame;
     frame.CloseDocument();
     QLineEdit field(QStringLiteral("old"));
-    PickIntoField(frame, field, QStringLiteral("C:\\site\\b.gif"), false, true);
+    PickIntoField(frame, field, QStringLiteral("C:\\site\\b.gif"), {});
     EXPECT_EQ(field.text(), QStringLiteral("old"));
-    PickIntoField(frame, field, QStringLiteral("C:\\site\\b.gif"), true, true);
+    PickIntoField(frame, field, QStringLiteral("C:\\site\\b.gif"), {.absolute = true});
     EXPECT_EQ(field.text(), QStringLiteral("C:/site/b.gif"));
     EXPECT_TRUE(frame.prompts.asked.isEmpty());
 }
