@@ -121,15 +121,11 @@ TEST_P(AnyDialogTest, IsEmptyAtFirstButForTheForwardSlashes) {
 TEST_P(AnyDialogTest, OkActsOnTheDocumentAndTheSelectionOfThatMoment) {
     LowerCaseTags();
     TestDocument* first = frame.active;
-    frame.SetText(QStringLiteral("first"));
-    frame.Box().SetSelStart(0);
-    frame.Box().SetSelLength(5);
+    SelectIn(QStringLiteral("first"), 0, 5);
     Show();
     FillIn();
     frame.NewDocument();
-    frame.SetText(QStringLiteral("one two"));
-    frame.Box().SetSelStart(4);
-    frame.Box().SetSelLength(3);
+    SelectIn(QStringLiteral("one two"), 4, 3);
     PressOk();
     EXPECT_EQ(first->input->Text(), QStringLiteral("first"));
     EXPECT_EQ(first->input->SelText(), QStringLiteral("first"));

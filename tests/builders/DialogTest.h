@@ -6,6 +6,7 @@
 
 #include <gtest/gtest.h>
 #include <QAbstractButton>
+#include <QCheckBox>
 #include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
@@ -65,7 +66,22 @@ class DialogTest : public testing::Test {
             items << Control<QComboBox>(combo).itemText(i);
         return items;
     }
+    /// The two boxes of a dialog that picks a file into a field, as they come up.
+    void ExpectPathBoxes() {
+        const auto& chkForwardSlash = Control<QCheckBox>(QStringLiteral("chkForwardSlash"));
+        EXPECT_EQ(chkForwardSlash.text(), QStringLiteral("Forward Slashes"));
+        EXPECT_TRUE(chkForwardSlash.isChecked());
+        const auto& chkAbsolute = Control<QCheckBox>(QStringLiteral("chkAbsolute"));
+        EXPECT_EQ(chkAbsolute.text(), QStringLiteral("Display Absolute Path"));
+        EXPECT_FALSE(chkAbsolute.isChecked());
+    }
     QString Text() { return frame.Box().Text(); }
+    /// The document holds a text of which a part is selected.
+    void SelectIn(const QString& text, int start, int length) {
+        frame.SetText(text);
+        frame.Box().SetSelStart(start);
+        frame.Box().SetSelLength(length);
+    }
     void LowerCaseTags() { frame.Store().WriteFlag(Keys::LowerCaseTags, true); }
 
     TestFrame frame;

@@ -253,9 +253,7 @@ TEST_F(EditTagTest, OutsideATagNothingChanges) {
 }
 
 TEST_F(EditTagTest, UnclosedTagKeepsTheSelectionToo) {
-    frame.SetText(QStringLiteral("a <img src"));
-    frame.Box().SetSelStart(5);
-    frame.Box().SetSelLength(3);
+    SelectIn(QStringLiteral("a <img src"), 5, 3);
     EditTag(frame);
     EXPECT_EQ(frame.Box().SelText(), QStringLiteral("g s"));
 }
@@ -273,9 +271,7 @@ TEST_F(EditTagTest, OffTheTextsStartOnlyTheSelectionGoes) {
 }
 
 TEST_F(EditTagTest, ScanStartsFromTheSelectionsStart) {
-    frame.SetText(QStringLiteral("<embed src=\"a.mid\"> <b>"));
-    frame.Box().SetSelStart(3);
-    frame.Box().SetSelLength(19);
+    SelectIn(QStringLiteral("<embed src=\"a.mid\"> <b>"), 3, 19);
     EditTag(frame);
     EXPECT_EQ(Shown(), QStringLiteral("frmEmbed"));
     EXPECT_EQ(Text(), QStringLiteral(" <b>"));

@@ -5,7 +5,6 @@
 #include "dialogs/FileDialogs.h"
 #include "dialogs/TagRows.h"
 #include "support/Site.h"
-#include <QCheckBox>
 
 namespace {
 
@@ -29,10 +28,7 @@ TEST_F(frmEmbedTest, LooksAsItShould) {
     EXPECT_EQ(Tip(T(u"cmdGetFle")), T(u"Find File"));
     for (const QString& field : {T(u"txtWidth"), T(u"txtHeight"), T(u"cboPalette"), T(u"txtURL")})
         EXPECT_EQ(Field(field), QString());
-    EXPECT_EQ(Control<QCheckBox>(T(u"chkForwardSlash")).text(), T(u"Forward Slashes"));
-    EXPECT_TRUE(Control<QCheckBox>(T(u"chkForwardSlash")).isChecked());
-    EXPECT_EQ(Control<QCheckBox>(T(u"chkAbsolute")).text(), T(u"Display Absolute Path"));
-    EXPECT_FALSE(Control<QCheckBox>(T(u"chkAbsolute")).isChecked());
+    ExpectPathBoxes();
 }
 
 TEST_F(frmEmbedTest, OkNeedsASource) {

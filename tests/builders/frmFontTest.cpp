@@ -90,9 +90,7 @@ TEST_F(frmFontTest, PicksAColour) {
 }
 
 TEST_F(frmFontTest, WrapsTheSelection) {
-    frame.SetText(T(u"abc"));
-    frame.Box().SetSelStart(1);
-    frame.Box().SetSelLength(1);
+    SelectIn(T(u"abc"), 1, 1);
     Fill(T(u"cboFontSize"), T(u"3"));
     Fill(T(u"txtFontColor"), T(u"#FF0000"));
     Fill(T(u"txtFontFace"), T(u"Arial, Verdana"));

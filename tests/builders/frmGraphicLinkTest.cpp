@@ -51,10 +51,7 @@ TEST_F(frmGraphicLinkTest, LooksAsItShould) {
               T(u"TOP MIDDLE BOTTOM RIGHT LEFT TEXTTOP BASELINE ABSMIDDLE ABSBOTTOM").split(u' '));
     EXPECT_EQ(Control<QCheckBox>(T(u"chkISMAP")).text(), T(u"ISMAP (Server Map)"));
     EXPECT_FALSE(Control<QCheckBox>(T(u"chkISMAP")).isChecked());
-    EXPECT_EQ(Control<QCheckBox>(T(u"chkForwardSlash")).text(), T(u"Forward Slashes"));
-    EXPECT_TRUE(Control<QCheckBox>(T(u"chkForwardSlash")).isChecked());
-    EXPECT_EQ(Control<QCheckBox>(T(u"chkAbsolute")).text(), T(u"Display Absolute Path"));
-    EXPECT_FALSE(Control<QCheckBox>(T(u"chkAbsolute")).isChecked());
+    ExpectPathBoxes();
     EXPECT_EQ(Tip(T(u"cmdPicOpen")), T(u"Find Source Image"));
     EXPECT_EQ(Tip(T(u"cmdOpen2")), T(u"Find Low Source Image"));
     EXPECT_EQ(Tip(T(u"cmdLinkMe")), T(u"Find URL"));
@@ -222,9 +219,7 @@ TEST_F(frmGraphicLinkTest, ColoursTheTag) {
 }
 
 TEST_F(frmGraphicLinkTest, StandsBeforeTheSelectedText) {
-    frame.SetText(T(u"ab"));
-    frame.Box().SetSelStart(0);
-    frame.Box().SetSelLength(1);
+    SelectIn(T(u"ab"), 0, 1);
     Press(T(u"cmdOK"));
     EXPECT_EQ(Text(), T(u"<IMG USEMAP=\"#\">ab"));
 }

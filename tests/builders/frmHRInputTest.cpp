@@ -42,9 +42,7 @@ TEST_F(frmHRInputTest, LooksAsItShould) {
 }
 
 TEST_F(frmHRInputTest, WritesTheRuleBeforeTheSelectedText) {
-    frame.SetText(T(u"ab"));
-    frame.Box().SetSelStart(0);
-    frame.Box().SetSelLength(1);
+    SelectIn(T(u"ab"), 0, 1);
     Open(T(u"tb_hr"), T(u"frmHRInput"));
     Fill(T(u"txtWidthInput"), T(u"50"));
     Press(T(u"optPercent"));

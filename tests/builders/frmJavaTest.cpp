@@ -37,9 +37,7 @@ TEST_F(frmJavaTest, LooksAsItShould) {
 }
 
 TEST_F(frmJavaTest, PutsTheSelectionInside) {
-    frame.SetText(T(u"text"));
-    frame.Box().SetSelStart(0);
-    frame.Box().SetSelLength(4);
+    SelectIn(T(u"text"), 0, 4);
     Fill(T(u"txtCodeBase"), T(u"base"));
     Fill(T(u"txtCode"), T(u"A.class"));
     Fill(T(u"txtWidth"), T(u"1"));

@@ -5,7 +5,6 @@
 #include "dialogs/FileDialogs.h"
 #include "dialogs/TagRows.h"
 #include "support/Site.h"
-#include <QCheckBox>
 
 namespace {
 
@@ -31,18 +30,13 @@ TEST_F(frmLinksTest, LooksAsItShould) {
     for (const QString& field : {T(u"cboChoice"), T(u"txtURL"), T(u"txtAnchor"), T(u"txtTarget")})
         EXPECT_EQ(Field(field), QString());
     EXPECT_EQ(Control<QComboBox>(T(u"cboChoice")).currentIndex(), -1);
-    EXPECT_EQ(Control<QCheckBox>(T(u"chkForwardSlash")).text(), T(u"Forward Slashes"));
-    EXPECT_TRUE(Control<QCheckBox>(T(u"chkForwardSlash")).isChecked());
-    EXPECT_EQ(Control<QCheckBox>(T(u"chkAbsolute")).text(), T(u"Display Absolute Path"));
-    EXPECT_FALSE(Control<QCheckBox>(T(u"chkAbsolute")).isChecked());
+    ExpectPathBoxes();
     EXPECT_EQ(Control<QAbstractButton>(T(u"cmdOK")).text(), T(u"&OK"));
     EXPECT_EQ(Control<QAbstractButton>(T(u"cmdCancel")).text(), T(u"&Cancel"));
 }
 
 TEST_F(frmLinksTest, WrapsTheSelection) {
-    frame.SetText(T(u"abc"));
-    frame.Box().SetSelStart(1);
-    frame.Box().SetSelLength(1);
+    SelectIn(T(u"abc"), 1, 1);
     Fill(T(u"txtURL"), T(u"x.htm"));
     Fill(T(u"txtAnchor"), T(u"top"));
     Fill(T(u"txtTarget"), T(u"main"));

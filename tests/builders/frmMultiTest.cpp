@@ -24,9 +24,7 @@ TEST_F(frmMultiTest, LooksAsItShould) {
 }
 
 TEST_F(frmMultiTest, WrapsTheSelection) {
-    frame.SetText(T(u"abc"));
-    frame.Box().SetSelStart(1);
-    frame.Box().SetSelLength(1);
+    SelectIn(T(u"abc"), 1, 1);
     Fill(T(u"txtCols"), T(u"2"));
     Fill(T(u"txtGutter"), T(u"8"));
     Fill(T(u"txtWidth"), T(u"90%"));

@@ -3,14 +3,13 @@
 
 #include "dialogs/DialogState.h"
 #include "dialogs/FileDialogs.h"
+#include "support/Files.h"
 #include "support/FreshUser.h"
 #include "support/NoPlainFile.h"
 #include "support/TestFrame.h"
 
 #include <gtest/gtest.h>
 #include <QComboBox>
-#include <QDir>
-#include <QFile>
 #include <QImage>
 #include <QLabel>
 #include <QLineEdit>
@@ -23,17 +22,6 @@ namespace {
 
 QString Here(const char* name) {
     return TestFolder() + u'/' + QString::fromLatin1(name);
-}
-
-void WriteFile(const QString& path, const QByteArray& content) {
-    QFile file(path);
-    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-    file.write(content);
-}
-
-QByteArray ReadFile(const QString& path) {
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("(none)");
 }
 
 class CDialogTest : public testing::Test {

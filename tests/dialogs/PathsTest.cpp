@@ -1,11 +1,10 @@
 // From a picked file to a link target.
 #include "dialogs/Paths.h"
 
+#include "support/Files.h"
 #include "support/FreshUser.h"
 
 #include <gtest/gtest.h>
-#include <QDir>
-#include <QFile>
 
 namespace {
 
@@ -21,12 +20,6 @@ QString AsAsked(const QString&, const QString& name) {
 /// A file system in which every name is in lower case, but for those that are gone.
 QString InLowerCase(const QString&, const QString& name) {
     return name.startsWith(u"gone", Qt::CaseInsensitive) ? QString() : name.toLower();
-}
-
-void Touch(const QString& path) {
-    ASSERT_TRUE(QDir().mkpath(QFileInfo(path).absolutePath()));
-    QFile file(path);
-    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
 }
 
 } // namespace
@@ -133,10 +126,10 @@ TEST(ExactCasePath, AsksForEachComponentInTheFolderFound) {
 TEST(ExactCasePath, LooksAtTheDisk) {
     FreshUser();
     const QString folder = TestFolder();
-    Touch(folder + QStringLiteral("/Site/Img/Logo.GIF"));
+    WriteFile(folder + QStringLiteral("/Site/Img/Logo.GIF"));
     EXPECT_EQ(ExactCasePath(folder + QStringLiteral("/site/IMG/logo.gif")),
               folder + QStringLiteral("/Site/Img/Logo.GIF"));
-    Touch(folder + QStringLiteral("/Site/Img/logo.gif"));
+    WriteFile(folder + QStringLiteral("/Site/Img/logo.gif"));
     EXPECT_EQ(ExactCasePath(folder + QStringLiteral("/site/IMG/logo.gif")),
               folder + QStringLiteral("/Site/Img/logo.gif"))
         << "the name that is there exactly wins";
