@@ -97,6 +97,11 @@ void TextColors::SetStyles(int start, const StyleRuns& styles) {
     }
     write();
     MendStretches(at);
+    AllIsStyled();
+}
+
+void TextColors::AllIsStyled() {
+    Sci(Control::SCI_STARTSTYLING, buffer_.Bytes());
 }
 
 void TextColors::MendStretches(int seam) {
@@ -173,6 +178,7 @@ std::optional<ByteRange> TextColors::TakeIncoming() {
     const Incoming incoming = *std::exchange(incoming_, std::nullopt);
     if (incoming.range.Empty()) {
         MendStretches(incoming.range.start);
+        AllIsStyled();
         return std::nullopt;
     }
     buffer_.CountInsertion(incoming.range);

@@ -63,6 +63,10 @@ class TextColors {
     CellText CellsOf(int start, int end) const;
     /// Keeps stretches short where an edit made two of them meet.
     void MendStretches(int seam);
+    /// Tells the control that no text waits for its styles. It takes all text behind an edit or the last
+    /// styling for unstyled, asks for styles at each painting, and compares the lines in view byte by byte
+    /// with what it had laid out: work that grows with the length of a line at each blink of the caret.
+    void AllIsStyled();
     /// The styles that a journal entry of undo or redo holds.
     static StyleRuns Taken(StyleRuns* entry);
 

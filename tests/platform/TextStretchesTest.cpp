@@ -225,6 +225,31 @@ TEST_F(TextStretchesTest, LinesWrapWhereTheyWouldInOneStretch) {
     EXPECT_GT(rows, 3);
 }
 
+TEST_F(TextStretchesTest, NoTextWaitsForStylesAfterAnEdit) {
+    box.SetText(u"some words in a row"_s);
+    int asked = 0;
+    QObject::connect(&box, &RichTextBox::SCN_STYLENEEDED, &box, [&] { ++asked; });
+    const auto expectStyled = [&](const char* after) {
+        EXPECT_EQ(box.SendScintilla(RichTextBox::SCI_GETENDSTYLED), box.TextLength()) << after;
+        box.viewport()->repaint();
+        EXPECT_EQ(asked, 0) << after;
+    };
+    box.show();
+    expectStyled("an assignment");
+    Select(5, 0);
+    Type("x");
+    expectStyled("a key");
+    Press(Qt::Key_Backspace);
+    expectStyled("a deletion");
+    box.Send(RichTextBox::Message::Undo);
+    expectStyled("undo");
+    Select(0, 4);
+    box.SetSelColor(0xff);
+    expectStyled("a colour");
+    box.SetSelText(u"no"_s);
+    expectStyled("an assignment to the selection");
+}
+
 TEST_F(TextStretchesTest, RtfKnowsNothingOfThem) {
     Put(u"one two three"_s, u"kkkkkkkkrrrrr"_s);
     EXPECT_EQ(box.TextRTF(), u"{{\\colortbl ;\\red255\\green0\\blue0;}\\cf0 one two \\cf1 three}"_s);
