@@ -6,7 +6,6 @@
 #include "app/WordWrap.h"
 #include "dialogs/FileDialogs.h"
 #include "dialogs/FormFields.h"
-#include "dialogs/PickColor.h"
 #include "editor/ActiveText.h"
 #include "editor/ColoredTags.h"
 #include "editor/ColorizeText.h"
@@ -17,6 +16,7 @@
 #include "editor/Forms.h"
 #include "editor/Frame.h"
 #include "editor/Modes.h"
+#include "editor/PickColor.h"
 #include "platform/ColorNumber.h"
 #include "platform/Cp1252.h"
 #include "platform/FaceNames.h"
@@ -236,12 +236,11 @@ void frmExternal::cmdFTPBrowse_Click() {
 }
 
 void frmExternal::lblTag_Click(int index) {
-    // A cancelled pick is an empty text, and that is black.
-    lblTag_[static_cast<size_t>(index)]->SetForeNumber(Values::WholeVal(PickColor(frame_, this)));
+    lblTag_[static_cast<size_t>(index)]->SetForeNumber(PickColorOrBlack(frame_.Ask(), this));
 }
 
 void frmExternal::lblTagBG_DblClick() {
-    ui_->lblTagBG->SetBackNumber(Values::WholeVal(PickColor(frame_, this)));
+    ui_->lblTagBG->SetBackNumber(PickColorOrBlack(frame_.Ask(), this));
 }
 
 void frmExternal::Command2_Click() {

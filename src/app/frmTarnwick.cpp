@@ -25,7 +25,6 @@
 #include "app/UserButtons.h"
 #include "app/WebPlugin.h"
 #include "app/WindowCommands.h"
-#include "builders/AutoFillPick.h"
 #include "builders/EditTag.h"
 #include "builders/MenuTagCommands.h"
 #include "editor/Modes.h"
@@ -111,7 +110,6 @@ void frmTarnwick::FillCommands() {
     FillFormCommands(*this, KnownForms());
     FillEditTagCommand(*this);
     UseWebPlugin(State<WebControls>());
-    FillAutoFillHooks(*this);
 }
 
 void frmTarnwick::BuildMenuBar() {

@@ -6,10 +6,11 @@
 #include "dialogs/FileDialogs.h"
 #include "dialogs/FormFields.h"
 #include "dialogs/PathField.h"
-#include "dialogs/PickColor.h"
 #include "dialogs/PictureFile.h"
 #include "editor/ActiveText.h"
 #include "editor/Frame.h"
+#include "editor/PickColor.h"
+#include "editor/TagEnds.h"
 #include "platform/RichTextBox.h"
 #include "platform/UndoAction.h"
 #include "ui_frmBody.h"
@@ -23,9 +24,9 @@ constexpr int ColorCount = 5;
 /// deleted.
 void DeleteBodyTag(RichTextBox& txtInput) {
     if (const int open = txtInput.Find(QStringLiteral("<body")); open >= 0) {
-        const int close = txtInput.FindForward(u'>', open);
+        const auto tag = TagFrom(open, ReaderOf(txtInput));
         txtInput.SetSelStart(open);
-        txtInput.SetSelLength(close < 0 ? 0 : close - open + 1);
+        txtInput.SetSelLength(tag ? tag->length : 0);
     }
     txtInput.SetSelText(QString());
 }
@@ -94,7 +95,7 @@ void frmBody::ShowSample(int index, const QColor& color) {
 void frmBody::cmdShowColor_Click(int index) {
     if (index < 0 || index >= ColorCount)
         return;
-    const QString color = u'#' + ColorHex(PickColor(frame_, this));
+    const QString color = u'#' + ColorHex(PickColorOrBlack(frame_.Ask(), this));
     ColorField(index)->setText(color);
     ShowSample(index, QColor(color));
 }

@@ -4,8 +4,8 @@
 #include "builders/FontTag.h"
 #include "dialogs/FormFields.h"
 #include "dialogs/ListKeys.h"
-#include "dialogs/PickColor.h"
 #include "editor/Frame.h"
+#include "editor/PickColor.h"
 #include "platform/FaceNames.h"
 #include "ui_frmFont.h"
 
@@ -25,7 +25,7 @@ frmFont::frmFont(Frame& frame) : TagDialog(frame), ui_(std::make_unique<Ui::frmF
 frmFont::~frmFont() = default;
 
 void frmFont::cmdShowColor_Click() {
-    ui_->txtFontColor->setText(u'#' + ColorHex(PickColor(frame_, this)));
+    ui_->txtFontColor->setText(u'#' + ColorHex(PickColorOrBlack(frame_.Ask(), this)));
 }
 
 void frmFont::List1_DblClick() {

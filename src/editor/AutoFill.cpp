@@ -1,12 +1,12 @@
 // Offers the attributes of the tag at the caret, and writes the one that is taken.
 #include "editor/AutoFill.h"
 
-#include "editor/AutoFillHooks.h"
 #include "editor/Document.h"
 #include "editor/EditorState.h"
 #include "editor/Forms.h"
 #include "editor/Frame.h"
 #include "editor/frmDropDown.h"
+#include "editor/PickColor.h"
 #include "editor/TagCase.h"
 #include "editor/TagEnds.h"
 #include "platform/RichTextBox.h"
@@ -153,11 +153,10 @@ bool AutoFill::TakeRow(int& KeyAscii) {
 QChar AutoFill::WriteKey(const QString& key) {
     QString written = key;
     if (key == QLatin1String("custom")) {
-        const auto& pickColorHex = frame_.State<AutoFillHooks>().PickColorHex;
-        const QString picked = pickColorHex ? pickColorHex(frame_.Window()) : QString();
-        if (picked.isEmpty())
+        const std::optional<ColorNumber> picked = PickColor(frame_.Ask(), frame_.Window());
+        if (!picked)
             return {};
-        written = u'#' + picked;
+        written = u'#' + ColorHex(*picked);
     } else {
         written = InCase(key, TagCaseOf(frame_.Store()));
     }

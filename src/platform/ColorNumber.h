@@ -22,6 +22,9 @@ constexpr ColorParts PartsOf(ColorNumber color) {
 /// "\red0\green128\blue0": the entry of an RTF colour table, without blanks and without its semicolon.
 QString RtfColor(ColorNumber color);
 
+/// Its six upper-case hexadecimal digits on the web, red first; without a "#".
+QString ColorHex(ColorNumber color);
+
 /// For the screen.
 QColor ToQColor(ColorNumber color);
 ColorNumber FromQColor(const QColor& color);

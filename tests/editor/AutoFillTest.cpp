@@ -1,7 +1,6 @@
 // The auto-fill lists as they are typed: when they open, what they select, what Enter writes.
 #include "editor/AutoFill.h"
 
-#include "editor/AutoFillHooks.h"
 #include "editor/frmDropDown.h"
 #include "support/TypingFrame.h"
 
@@ -239,29 +238,40 @@ TEST(AutoFill, AValueIsTypedOverWhatWasTyped) {
 
 TEST(AutoFill, CustomColor) {
     TypingFrame frame;
-    QWidget* owner = nullptr;
-    frame.State<AutoFillHooks>().PickColorHex = [&owner](QWidget* window) {
-        owner = window;
-        return QStringLiteral("FF0000");
-    };
+    frame.prompts.colorAnswers = {255};
     frame.Type("<font col\r");
     frame.Pause();
     EXPECT_EQ(frame.SelectedRow(), QStringLiteral(" custom..."));
     frame.Type("\r");
     EXPECT_EQ(frame.Marked(), QStringLiteral("<font COLOR=\"#FF0000|\""));
-    EXPECT_EQ(owner, frame.Window());
+    ASSERT_EQ(frame.prompts.asked.size(), 1);
+    EXPECT_EQ(frame.prompts.asked.front().kind, Asked::Color);
+    EXPECT_EQ(frame.prompts.asked.front().owner, frame.Window());
     EXPECT_FALSE(frame.Flags().DropDownOpen);
     EXPECT_EQ(frame.List(), nullptr);
 }
 
-TEST(AutoFill, ACancelledColorLetsTheEnterThrough) {
-    for (const bool hooked : {true, false}) {
+TEST(AutoFill, CustomWritesThePickedColor) {
+    struct Row {
+        ColorNumber picked;
+        const char* text;
+    };
+    for (const auto& [picked, text] :
+         {Row{255, "#FF0000"}, Row{0, "#000000"}, Row{1, "#010000"}, Row{0x00ABCDEF, "#EFCDAB"}}) {
         TypingFrame frame;
-        if (hooked)
-            frame.State<AutoFillHooks>().PickColorHex = [](QWidget*) { return QString(); };
+        frame.prompts.colorAnswers = {picked};
+        frame.Type("<font color\r\r");
+        EXPECT_EQ(frame.Marked(), QStringLiteral("<font COLOR=\"%1|\"").arg(QLatin1String(text)));
+    }
+}
+
+TEST(AutoFill, ACancelledColorLetsTheEnterThrough) {
+    // A word that fits no row leaves the selection where it is.
+    for (const char* typed : {"zz\r", "\r"}) {
+        TypingFrame frame;
+        frame.prompts.colorAnswers = {std::nullopt};
         frame.Type("<font col\r");
-        // A word that fits no row leaves the selection where it is.
-        frame.Type("zz\r");
+        frame.Type(typed);
         EXPECT_EQ(frame.Marked(), QStringLiteral("<font COLOR=\"\r\n|\""));
         EXPECT_FALSE(frame.Flags().DropDownOpen);
         EXPECT_EQ(frame.List(), nullptr);
@@ -271,7 +281,7 @@ TEST(AutoFill, ACancelledColorLetsTheEnterThrough) {
 TEST(AutoFill, CustomIsNotLowered) {
     TypingFrame frame;
     frame.Store().WriteFlag(Keys::LowerCaseTags, true);
-    frame.State<AutoFillHooks>().PickColorHex = [](QWidget*) { return QStringLiteral("EFCDAB"); };
+    frame.prompts.colorAnswers = {0x00ABCDEF};
     frame.Type("<font col\r\r");
     EXPECT_EQ(frame.Marked(), QStringLiteral("<font color=\"#EFCDAB|\""));
 }

@@ -1,7 +1,6 @@
 // The auto-fill list with the keyboard or the mouse in it.
 #include "editor/frmDropDown.h"
 
-#include "editor/AutoFillHooks.h"
 #include "editor/AutoFillTables.h"
 #include "editor/DropDownIcons.h"
 #include "support/TypingFrame.h"
@@ -171,17 +170,13 @@ TEST_F(ListTest, LeavingTheListForgetsNotThatItHeldValues) {
 }
 
 TEST_F(ListTest, ACancelledColourTakenFromTheListWritesNothing) {
-    int asked = 0;
-    frame.State<AutoFillHooks>().PickColorHex = [&asked](QWidget*) {
-        ++asked;
-        return QString();
-    };
+    frame.prompts.colorAnswers = {std::nullopt};
     frame.Type("<font col\r");
     frame.Pause();
     frame.Key(Qt::Key_Down);
     ASSERT_EQ(QApplication::focusWidget(), frame.ListView1());
     frame.Type("\r");
-    EXPECT_EQ(asked, 1);
+    EXPECT_EQ(frame.prompts.asked.size(), 1);
     EXPECT_EQ(frame.Marked(), QStringLiteral("<font COLOR=\"|\""))
         << "that Enter was the list's, no key of the text";
     EXPECT_EQ(frame.List(), nullptr);

@@ -31,3 +31,13 @@ TEST(ColorNumber, SplitsIntoItsParts) {
     EXPECT_EQ(PartsOf(0x7F0000FF), (ColorParts{.red = 255, .green = 0, .blue = 0}));
     EXPECT_EQ(PartsOf(-1), (ColorParts{.red = 255, .green = 255, .blue = 255}));
 }
+
+TEST(ColorHex, SixUpperCaseDigitsRedFirst) {
+    const std::pair<ColorNumber, const char*> rows[] = {
+        {0, "000000"},        {255, "FF0000"},      {65280, "00FF00"},
+        {16711680, "0000FF"}, {16777215, "FFFFFF"}, {8421376, "008080"},
+        {1, "010000"},        {11259375, "EFCDAB"}, {-1, "FFFFFF"},
+    };
+    for (const auto& [color, digits] : rows)
+        EXPECT_EQ(ColorHex(color), QString::fromLatin1(digits)) << color;
+}
