@@ -105,9 +105,9 @@ void Recolour(benchmark::State& state) {
     SavingFrame frame;
     OpenDocumentFile(frame, PageFile(state.range(0)));
     for ([[maybe_unused]] auto step : state) {
-        const QString text = frame.Box().Text();
+        QString text = frame.Box().Text();
         frame.Box().SetText(QString());
-        ColorizeText(frame, text, false, true);
+        ColorizeText(frame, std::move(text), KeepDocument::No, CaretToTop::Yes);
         frame.Box().EmptyUndoBuffer();
     }
     state.SetComplexityN(state.range(0));

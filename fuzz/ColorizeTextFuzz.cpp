@@ -33,7 +33,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
     static TestFrame& frame = *new TestFrame;
 
     const QString text = Cp1252::FromBytes(QByteArrayView(data, static_cast<qsizetype>(size)));
-    ColorizeText(frame, text, false, false);
+    ColorizeText(frame, text, KeepDocument::No, CaretToTop::No);
     if (frame.Box().Text() != Promised(text))
         std::abort();
     for (int i = 0; i < frame.Box().TextLength(); ++i) {

@@ -54,7 +54,7 @@ void mnuDefault_Click(Frame& frame) {
         return;
     const UndoAction step(document->txtInput());
     document->txtInput().SetText(QString());
-    ColorizeText(frame, DefaultSkeleton(Version::Dotted()), false, false);
+    ColorizeText(frame, DefaultSkeleton(Version::Dotted()), KeepDocument::No, CaretToTop::No);
 }
 
 void mnuUserTemplate_Click(Frame& frame) {
@@ -65,7 +65,7 @@ void mnuUserTemplate_Click(Frame& frame) {
     document->txtInput().SetText(QString());
     const QString& text = frame.State<ProgramState>().UserTemplate;
     if (!text.isEmpty())
-        ColorizeText(frame, text, true, false);
+        ColorizeText(frame, text, KeepDocument::Yes, CaretToTop::No);
 }
 
 void mnuSetUserTemplate_Click(Frame& frame) {

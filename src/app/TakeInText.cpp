@@ -11,20 +11,21 @@
 #include "platform/RichTextBox.h"
 #include "platform/Settings.h"
 
+#include <utility>
+
 namespace {
 
-void WriteColored(Frame& frame, QString& text) {
-    bool keepDocument = true;
-    ColorizeText(frame, text, keepDocument, true);
+void WriteColored(Frame& frame, QString text) {
+    ColorizeText(frame, std::move(text), KeepDocument::Yes, CaretToTop::Yes);
 }
 
-void WriteAsSet(Frame& frame, Document& document, QString& text) {
+void WriteAsSet(Frame& frame, Document& document, QString text) {
     if (!ColoredTagsChecked(frame.Store())) {
         document.txtInput().SetSelText(text);
         return;
     }
     frame.SetStatusPanel(QStringLiteral("Coloring HTML tags, please wait . . . "), true);
-    WriteColored(frame, text);
+    WriteColored(frame, std::move(text));
     frame.SetStatusPanel(QString());
 }
 
@@ -50,7 +51,7 @@ void TakeInText(Frame& frame, const QString& path, QString text) {
     if (!document)
         return;
     document->SetCaption(path);
-    WriteAsSet(frame, *document, text);
+    WriteAsSet(frame, *document, std::move(text));
     CountAsLoaded(*document);
     AddToRecentFiles(frame);
     frame.AddDocumentTab(path, Path::NameOnDisk(path));
@@ -61,7 +62,7 @@ void TakeInRecentText(Frame& frame, const QString& path, QString text) {
     if (!document)
         return;
     document->SetCaption(path);
-    WriteColored(frame, text);
+    WriteColored(frame, std::move(text));
     CountAsLoaded(*document);
     frame.AddDocumentTab(path, Path::NameOnDisk(path));
 }

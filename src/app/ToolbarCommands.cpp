@@ -84,7 +84,7 @@ void FillToolbarCommands(Frame& frame) {
     CommandSet& commands = frame.Commands();
     for (const PairRow& row : pairs)
         commands.Set(QString::fromLatin1(row.name), [&frame, &row] {
-            InsertTag(frame, QString::fromLatin1(row.open), QString::fromLatin1(row.close), false);
+            InsertTag(frame, QString::fromLatin1(row.open), QString::fromLatin1(row.close), KeepCase::No);
         });
     for (const ForwardRow& row : forwards)
         commands.Forward(QString::fromLatin1(row.name), QString::fromLatin1(row.to));
@@ -154,7 +154,7 @@ void tb_anchor_Click(Frame& frame) {
     }
     // The blank behind the equals sign is meant.
     InsertTag(frame, QStringLiteral("<A NAME= \"") + name + QStringLiteral("\">"), QStringLiteral("</A>"),
-              false);
+              KeepCase::No);
 }
 
 void tb_meta_Click(Frame& frame) {
@@ -177,7 +177,7 @@ void tb_meta_Click(Frame& frame) {
     const QString head = QStringLiteral("<HEAD>");
     // Where there is no such tag the search gives -1, and the text goes in at 5.
     text.SetSelStart(text.Find(head) + static_cast<int>(head.size()));
-    InsertTag(frame, lineEnd + tags, QString(), true);
+    InsertTag(frame, lineEnd + tags, QString(), KeepCase::Yes);
     text.SetSelStart(before + static_cast<int>(tags.size()) + 2);
 }
 

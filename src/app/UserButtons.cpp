@@ -120,8 +120,7 @@ void UserButtons::TakeEdited(const UserButton& button) {
 
 void UserButtons::Command1_Click(int index) {
     const UserButton button = Button(index);
-    // Copies go in, so that the case rule changes the document only and never the user's own tags.
-    InsertTag(frame_, button.first, button.second, false);
+    InsertTag(frame_, button.first, button.second, KeepCase::No);
 }
 
 void UserButtons::Edit(int index) {

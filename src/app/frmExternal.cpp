@@ -290,9 +290,9 @@ bool frmExternal::SelectTagColor() {
         RichTextBox& txtInput = *active;
         txtInput.SetFont(StoredEditorFont(store));
         const UndoAction step(txtInput);
-        const QString text = txtInput.Text();
+        QString text = txtInput.Text();
         txtInput.SetText(QString());
-        ColorizeText(frame_, text, false, false);
+        ColorizeText(frame_, std::move(text), KeepDocument::No, CaretToTop::No);
     }
     return true;
 }

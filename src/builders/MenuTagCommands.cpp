@@ -98,7 +98,7 @@ const AskingRow askingRows[] = {
 };
 
 void Insert(Frame& frame, const QString& open, const QString& close = QString()) {
-    InsertTag(frame, open, close, false);
+    InsertTag(frame, open, close, KeepCase::No);
 }
 
 void AskAndInsert(Frame& frame, const AskingRow& row) {

@@ -22,7 +22,7 @@ void TagDialog::reject() {
 }
 
 void TagDialog::Insert(const QString& open, const QString& close) {
-    InsertTag(frame_, open, close, true);
+    InsertTag(frame_, open, close, KeepCase::Yes);
 }
 
 void TagDialog::Unload() {

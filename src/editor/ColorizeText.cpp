@@ -10,6 +10,8 @@
 #include "platform/Settings.h"
 #include "platform/UndoAction.h"
 
+#include <utility>
+
 namespace {
 
 constexpr QStringView textWord = u"\\cf1 ";
@@ -45,8 +47,8 @@ class Pieces {
 /// Gathers the tags and what stands between them. Positions count from 1, as the rules below are told; last
 /// is where the last tag written ends, 0 before the first tag and after an unclosed "<". Returns false where
 /// the text holds no "<" at all and the caller kept the document.
-bool GatherTags(Pieces& pieces, const QString& text, bool keepDocument, qsizetype& last) {
-    bool first = keepDocument;
+bool GatherTags(Pieces& pieces, const QString& text, KeepDocument keepDocument, qsizetype& last) {
+    bool first = keepDocument == KeepDocument::Yes;
     qsizetype pos = 1;
     while (true) {
         pos = text.indexOf(QLatin1Char('<'), pos - 1) + 1;
@@ -71,7 +73,7 @@ bool GatherTags(Pieces& pieces, const QString& text, bool keepDocument, qsizetyp
 
 } // namespace
 
-void ColorizeText(Frame& frame, QString& text, bool& keepDocument, bool caretToTop) {
+ColorizedText ColorizeText(Frame& frame, QString text, KeepDocument keepDocument, CaretToTop caretToTop) {
     EscapeBackslashes(text);
     EscapeOpenBraces(text);
     EscapeCloseBraces(text);
@@ -81,14 +83,15 @@ void ColorizeText(Frame& frame, QString& text, bool& keepDocument, bool caretToT
     if (!document) {
         // A pass that is to empty the document first ends there; any other goes on to its end and writes
         // nothing.
-        state.RtfFlushNow = keepDocument;
-        keepDocument = keepDocument && text.contains(u'<');
-        return;
+        state.RtfFlushNow = keepDocument == KeepDocument::Yes;
+        if (!text.contains(u'<'))
+            keepDocument = KeepDocument::No;
+        return {std::move(text), keepDocument};
     }
     RichTextBox& txtInput = document->txtInput();
     const RichTextBox::PaintHold hold(txtInput);
     const UndoAction step(txtInput);
-    if (!keepDocument)
+    if (keepDocument == KeepDocument::No)
         txtInput.SetText(QString());
     const InputOff off(txtInput);
     // Nothing else runs during a pass, so one look at the setting answers for every piece of it.
@@ -103,8 +106,7 @@ void ColorizeText(Frame& frame, QString& text, bool& keepDocument, bool caretToT
     state.RtfFlushNow = true;
     if (!tagged) {
         WriteColoredText(frame, text, textWord, false);
-        keepDocument = false;
-        return;
+        return {std::move(text), KeepDocument::No};
     }
     // The colour word travels inside the last piece. An unclosed "<" left last at 0: then that is the whole
     // text.
@@ -112,11 +114,7 @@ void ColorizeText(Frame& frame, QString& text, bool& keepDocument, bool caretToT
     tail += textWord;
     tail += QStringView(text).mid(last);
     WriteColoredText(frame, tail, {}, false);
-    if (caretToTop)
+    if (caretToTop == CaretToTop::Yes)
         txtInput.SetSelStart(0);
-}
-
-void ColorizeText(Frame& frame, const QString& text, bool keepDocument, bool caretToTop) {
-    QString copy = text;
-    ColorizeText(frame, copy, keepDocument, caretToTop);
+    return {std::move(text), keepDocument};
 }

@@ -3,6 +3,7 @@
 #include "editor/ActiveText.h"
 #include "editor/ColoredTags.h"
 #include "editor/ColorizeText.h"
+#include "editor/Document.h"
 #include "editor/Frame.h"
 #include "editor/TagCase.h"
 #include "editor/WriteColoredText.h"
@@ -11,20 +12,22 @@
 #include "platform/Settings.h"
 #include "platform/UndoAction.h"
 
-void InsertTag(Frame& frame, QString& open, QString& close, bool keepCase) {
-    if (!keepCase) {
+#include <utility>
+
+WrittenTag InsertTag(Frame& frame, QString open, QString close, KeepCase keepCase) {
+    if (keepCase == KeepCase::No) {
         const TagCase tagCase = TagCaseOf(frame.Store());
         open = InCase(open, tagCase);
         close = InCase(close, tagCase);
     }
-    RichTextBox* active = ActiveText(frame);
-    if (!active)
-        return;
-    RichTextBox& txtInput = *active;
+    Document* document = frame.ActiveForm();
+    if (!document)
+        return {open, close};
+    RichTextBox& txtInput = document->txtInput();
     const UndoAction step(txtInput);
-    const QString selected = txtInput.SelText();
+    QString selected = txtInput.SelText();
     WriteColoredText(frame, open, TagColorCode(open), false);
-    ColorizeText(frame, selected, true, false);
+    ColorizeText(frame, std::move(selected), KeepDocument::Yes, CaretToTop::No);
     WriteColoredText(frame, close, TagColorCode(close), false);
     // The length as it is now: with colouring on, each CR LF in close counts the five characters of "\par ".
     txtInput.SetSelStart(txtInput.SelStart() - static_cast<int>(close.size()));
@@ -32,12 +35,7 @@ void InsertTag(Frame& frame, QString& open, QString& close, bool keepCase) {
     // tag.
     if (WritesColored(frame.Store()))
         txtInput.SetSelColor(frame.Store().ReadNumber(Keys::TextColor[0]));
-}
-
-void InsertTag(Frame& frame, const QString& open, const QString& close, bool keepCase) {
-    QString openCopy = open;
-    QString closeCopy = close;
-    InsertTag(frame, openCopy, closeCopy, keepCase);
+    return {open, close};
 }
 
 QString ReplaceInSelection(Frame& frame, const QString& text, const QString& find, const QString& replacement,

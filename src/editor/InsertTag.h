@@ -5,14 +5,19 @@
 
 class Frame;
 
-/// Wraps the selection of the active document in two strings, coloured, and leaves the caret before close,
-/// where what comes next has the text colour.
-/// Without keepCase both are lowered first when LowerCaseTags is 1. Both may come back changed: lowered,
-/// "\par " for CR LF.
-void InsertTag(Frame& frame, QString& open, QString& close, bool keepCase);
+/// Whether a tag is written as it is, or in lower case where LowerCaseTags is 1.
+enum class KeepCase { No, Yes };
 
-/// The same for callers that need nothing back.
-void InsertTag(Frame& frame, const QString& open, const QString& close, bool keepCase);
+/// The two strings as they went out: lowered, and "\par " for each CR LF where it was coloured.
+struct WrittenTag {
+    QString open;
+    QString close;
+    bool operator==(const WrittenTag&) const = default;
+};
+
+/// Wraps the selection of the active document in two strings, coloured, and leaves the caret before close,
+/// where what comes next has the text colour. Without a document nothing is written.
+WrittenTag InsertTag(Frame& frame, QString open, QString close, KeepCase keepCase);
 
 enum class Compare { Exact = 0, IgnoreCase = 1 };
 

@@ -99,10 +99,7 @@ void TypingEngine::txtInput_KeyDown(int& KeyCode, int Shift) {
 void TypingEngine::RunUserButton(int digit) {
     const auto button = static_cast<size_t>(digit == 0 ? 9 : digit - 1);
     const auto& state = frame_.State<EditorState>();
-    // Copies: the case rule must not change what the button holds.
-    QString open = state.FirstBut[button];
-    QString close = state.SecondBut[button];
-    InsertTag(frame_, open, close, false);
+    InsertTag(frame_, state.FirstBut[button], state.SecondBut[button], KeepCase::No);
 }
 
 void TypingEngine::TypePlain() {

@@ -24,9 +24,8 @@ class StreamTest : public testing::TestWithParam<StreamRow> {};
 TEST_P(StreamTest, OneAssignment) {
     TestFrame frame;
     frame.SetText(QStringLiteral("old"));
-    QString text = QString::fromLatin1(GetParam().text);
-    bool keepDocument = false;
-    ColorizeText(frame, text, keepDocument, false);
+    const QString text = QString::fromLatin1(GetParam().text);
+    ColorizeText(frame, text, KeepDocument::No, CaretToTop::No);
     EXPECT_EQ(frame.Box().streams, QStringList{header + QString::fromLatin1(GetParam().stream)});
     EXPECT_EQ(frame.Box().Text(), QString::fromLatin1(GetParam().document));
     EXPECT_EQ(frame.Box().SelStart(), frame.Box().TextLength());
@@ -72,11 +71,10 @@ class ColorizeTextTest : public testing::Test {
 TEST_F(ColorizeTextTest, WithoutATagTheKeptDocumentGetsOnePieceAndKeepDocumentComesBackFalse) {
     frame.SetText(QStringLiteral("[]"));
     frame.Box().SetSelStart(1);
-    QString text = QStringLiteral("a{b\r\n");
-    bool keepDocument = true;
-    ColorizeText(frame, text, keepDocument, true);
-    EXPECT_FALSE(keepDocument);
-    EXPECT_EQ(text, QStringLiteral("a\\{b\\par "));
+    const QString text = QStringLiteral("a{b\r\n");
+    const ColorizedText written = ColorizeText(frame, text, KeepDocument::Yes, CaretToTop::Yes);
+    EXPECT_EQ(written.keepDocument, KeepDocument::No);
+    EXPECT_EQ(written.text, QStringLiteral("a\\{b\\par "));
     EXPECT_EQ(frame.Box().streams, QStringList{header + QStringLiteral("\\cf1 a\\{b\\par }")});
     EXPECT_EQ(frame.Box().Text(), QStringLiteral("[a{b\r\n]"));
     EXPECT_EQ(frame.Box().SelStart(), 6) << "caretToTop has no effect without a tag";
@@ -89,11 +87,10 @@ TEST_F(ColorizeTextTest, WithoutATagTheKeptDocumentGetsOnePieceAndKeepDocumentCo
 TEST_F(ColorizeTextTest, AnUnclosedTagAloneIsNoTextWithoutATag) {
     frame.SetText(QStringLiteral("[]"));
     frame.Box().SetSelStart(1);
-    QString text = QStringLiteral("1 < 2\r\n");
-    bool keepDocument = true;
-    ColorizeText(frame, text, keepDocument, true);
-    EXPECT_TRUE(keepDocument);
-    EXPECT_EQ(text, QStringLiteral("1 < 2\r\n")) << "only what is handed on gets its paragraphs";
+    const QString text = QStringLiteral("1 < 2\r\n");
+    const ColorizedText written = ColorizeText(frame, text, KeepDocument::Yes, CaretToTop::Yes);
+    EXPECT_EQ(written.keepDocument, KeepDocument::Yes);
+    EXPECT_EQ(written.text, QStringLiteral("1 < 2\r\n")) << "only what is handed on gets its paragraphs";
     EXPECT_EQ(frame.Box().streams, QStringList{header + QStringLiteral("\\cf1 1 < 2\\par }")});
     EXPECT_EQ(frame.Box().Text(), QStringLiteral("[1 < 2\r\n]"));
     EXPECT_EQ(frame.Box().SelStart(), 0) << "caretToTop holds";
@@ -101,13 +98,13 @@ TEST_F(ColorizeTextTest, AnUnclosedTagAloneIsNoTextWithoutATag) {
 
 TEST_F(ColorizeTextTest, APassDropsNothingThatWaitsInTheBuffer) {
     frame.State<EditorState>().RtfBuffer = QStringLiteral("\\cf2 <I>");
-    ColorizeText(frame, QStringLiteral("x<B>"), true, false);
+    ColorizeText(frame, QStringLiteral("x<B>"), KeepDocument::Yes, CaretToTop::No);
     EXPECT_EQ(frame.Box().streams, QStringList{header + QStringLiteral("\\cf2 <I>\\cf1 x\\cf2 <B>\\cf1 }")});
 }
 
 TEST_F(ColorizeTextTest, WhatIsTypedAfterAPassHasTheTextColor) {
     frame.Store().Write(Keys::TextColor[0], QStringLiteral("12345"));
-    ColorizeText(frame, QStringLiteral("<B>"), false, false);
+    ColorizeText(frame, QStringLiteral("<B>"), KeepDocument::No, CaretToTop::No);
     frame.Box().SetSelText(QStringLiteral("x"));
     EXPECT_EQ(frame.Box().ColorAt(2), 16711680);
     EXPECT_EQ(frame.Box().ColorAt(3), 12345);
@@ -119,14 +116,14 @@ TEST_F(ColorizeTextTest, NoKeysGetInWithColoringOffEither) {
     QList<bool> enabled;
     QObject::connect(frame.active->input, &RichTextBox::Change, frame.active,
                      [&] { enabled << frame.Box().Enabled(); });
-    ColorizeText(frame, QStringLiteral("<B>"), false, false);
+    ColorizeText(frame, QStringLiteral("<B>"), KeepDocument::No, CaretToTop::No);
     EXPECT_EQ(enabled, QList<bool>({true, false})) << "emptying the document comes before";
     EXPECT_TRUE(frame.Box().Enabled());
 }
 
 TEST_F(ColorizeTextTest, CaretToTopWithColoringOff) {
     frame.Store().Write(Keys::ColoredTags, QStringLiteral("0"));
-    ColorizeText(frame, QStringLiteral("<B>"), false, true);
+    ColorizeText(frame, QStringLiteral("<B>"), KeepDocument::No, CaretToTop::Yes);
     EXPECT_EQ(frame.Box().SelStart(), 0);
 }
 
@@ -134,11 +131,10 @@ TEST_F(ColorizeTextTest, WithColoringOffATextWithoutATagIsTheSameOnePiece) {
     frame.Store().Write(Keys::ColoredTags, QStringLiteral("0"));
     frame.SetText(QStringLiteral("[]"));
     frame.Box().SetSelStart(1);
-    QString text = QStringLiteral("a{\r\n");
-    bool keepDocument = true;
-    ColorizeText(frame, text, keepDocument, true);
-    EXPECT_FALSE(keepDocument);
-    EXPECT_EQ(text, QStringLiteral("a\\{\r\n")) << "line ends stay as they are";
+    const QString text = QStringLiteral("a{\r\n");
+    const ColorizedText written = ColorizeText(frame, text, KeepDocument::Yes, CaretToTop::Yes);
+    EXPECT_EQ(written.keepDocument, KeepDocument::No);
+    EXPECT_EQ(written.text, QStringLiteral("a\\{\r\n")) << "line ends stay as they are";
     EXPECT_EQ(frame.Box().Text(), QStringLiteral("[a\\{\r\n]"));
     EXPECT_EQ(frame.Box().SelStart(), 6);
 }
@@ -149,12 +145,12 @@ TEST_F(ColorizeTextTest, TheCaretGoesToTheTopBeforeTheKeysAreLetIn) {
         if (frame.Box().SelStart() == 0)
             enabled << frame.Box().Enabled();
     });
-    ColorizeText(frame, QStringLiteral("<B>"), true, true);
+    ColorizeText(frame, QStringLiteral("<B>"), KeepDocument::Yes, CaretToTop::Yes);
     EXPECT_EQ(enabled, QList<bool>{false});
 }
 
 TEST_F(ColorizeTextTest, AnEmptyKeptTextWritesTheWordAlone) {
-    ColorizeText(frame, QString(), true, false);
+    ColorizeText(frame, QString(), KeepDocument::Yes, CaretToTop::No);
     EXPECT_EQ(frame.Box().streams, QStringList{header + QStringLiteral("\\cf1 }")});
 }
 
@@ -162,23 +158,23 @@ TEST_F(ColorizeTextTest, AKeptDocumentIsWrittenAtItsSelection) {
     frame.SetText(QStringLiteral("abcd"));
     frame.Box().SetSelStart(1);
     frame.Box().SetSelLength(2);
-    QString text = QStringLiteral("<B>");
-    bool keepDocument = true;
-    ColorizeText(frame, text, keepDocument, false);
-    EXPECT_TRUE(keepDocument);
+    const QString text = QStringLiteral("<B>");
+    const ColorizedText written = ColorizeText(frame, text, KeepDocument::Yes, CaretToTop::No);
+    EXPECT_EQ(written.keepDocument, KeepDocument::Yes);
     EXPECT_EQ(frame.Box().Text(), QStringLiteral("a<B>d"));
     EXPECT_EQ(frame.Box().SelStart(), 4) << "behind the inserted text";
 }
 
 TEST_F(ColorizeTextTest, CaretToTop) {
     for (const char* text : {"<B>x", "abc", "x<p>1 < 2"}) {
-        ColorizeText(frame, QString::fromLatin1(text), false, true);
+        ColorizeText(frame, QString::fromLatin1(text), KeepDocument::No, CaretToTop::Yes);
         EXPECT_EQ(frame.Box().SelStart(), 0) << text;
     }
 }
 
 TEST_F(ColorizeTextTest, TagsStandInTheirColors) {
-    ColorizeText(frame, QStringLiteral("t<B><A HREF=x><IMG><EMBED><!-- c -->"), false, false);
+    ColorizeText(frame, QStringLiteral("t<B><A HREF=x><IMG><EMBED><!-- c -->"), KeepDocument::No,
+                 CaretToTop::No);
     const std::vector<std::pair<QString, int>> expected = {{QStringLiteral("t"), 0},
                                                            {QStringLiteral("<B>"), 16711680},
                                                            {QStringLiteral("<A HREF=x>"), 32768},
@@ -192,17 +188,16 @@ TEST_F(ColorizeTextTest, OneUndoStepBringsTheReplacedTextBack) {
     frame.SetText(QStringLiteral("abc"));
     frame.Box().SetSelStart(0);
     frame.Box().SetSelLength(3);
-    ColorizeText(frame, QStringLiteral("<B>x</B>"), true, false);
+    ColorizeText(frame, QStringLiteral("<B>x</B>"), KeepDocument::Yes, CaretToTop::No);
     frame.Box().Send(RichTextBox::Message::Undo);
     EXPECT_EQ(frame.Box().Text(), QStringLiteral("abc"));
 }
 
 TEST_F(ColorizeTextTest, WithoutADocumentOnlyTheTextIsEscaped) {
     frame.CloseDocument();
-    QString text = QStringLiteral("{<B>");
-    bool keepDocument = false;
-    ColorizeText(frame, text, keepDocument, true);
-    EXPECT_EQ(text, QStringLiteral("\\{<B>"));
+    const QString text = QStringLiteral("{<B>");
+    const ColorizedText written = ColorizeText(frame, text, KeepDocument::No, CaretToTop::Yes);
+    EXPECT_EQ(written.text, QStringLiteral("\\{<B>"));
     EXPECT_FALSE(frame.State<EditorState>().RtfFlushNow);
 }
 
@@ -210,12 +205,10 @@ TEST_F(ColorizeTextTest, WithoutADocumentAPassThatKeepsItComesToItsEnd) {
     frame.CloseDocument();
     for (const bool tagged : {true, false}) {
         frame.State<EditorState>().RtfFlushNow = false;
-        QString text = tagged ? QStringLiteral("a<B>\r\n") : QStringLiteral("a\r\n");
-        const QString before = text;
-        bool keepDocument = true;
-        ColorizeText(frame, text, keepDocument, true);
-        EXPECT_EQ(text, before);
-        EXPECT_EQ(keepDocument, tagged);
+        const QString text = tagged ? QStringLiteral("a<B>\r\n") : QStringLiteral("a\r\n");
+        const ColorizedText written = ColorizeText(frame, text, KeepDocument::Yes, CaretToTop::Yes);
+        EXPECT_EQ(written.text, text);
+        EXPECT_EQ(written.keepDocument, tagged ? KeepDocument::Yes : KeepDocument::No);
         EXPECT_TRUE(frame.State<EditorState>().RtfFlushNow);
         EXPECT_TRUE(frame.State<EditorState>().RtfBuffer.isEmpty());
     }
@@ -233,7 +226,8 @@ class OffStateTest : public testing::TestWithParam<OffRow> {};
 TEST_P(OffStateTest, EscapesAndTheLastWordAreTyped) {
     TestFrame frame;
     frame.Store().Write(Keys::ColoredTags, QStringLiteral("0"));
-    ColorizeText(frame, QString::fromLatin1(GetParam().text), GetParam().keepDocument, false);
+    ColorizeText(frame, QString::fromLatin1(GetParam().text),
+                 GetParam().keepDocument ? KeepDocument::Yes : KeepDocument::No, CaretToTop::No);
     EXPECT_EQ(frame.Box().Text(), QString::fromLatin1(GetParam().document));
     EXPECT_TRUE(frame.Box().streams.isEmpty());
     EXPECT_TRUE(frame.Box().Enabled());

@@ -30,7 +30,8 @@ TEST_P(InsertTagTest, TextAndCaret) {
         frame.Store().WriteFlag(Keys::ColoredTags, row.colored);
         frame.State<EditorState>().RtfFlushNow = !firstInsertionOfTheRun;
         frame.SetMarked(row.before);
-        InsertTag(frame, QString::fromLatin1(row.open), QString::fromLatin1(row.close), row.keepCase);
+        InsertTag(frame, QString::fromLatin1(row.open), QString::fromLatin1(row.close),
+                  row.keepCase ? KeepCase::Yes : KeepCase::No);
         EXPECT_EQ(frame.Marked(), QString::fromLatin1(row.after));
     }
 }
@@ -79,13 +80,13 @@ TEST(InsertTag, SendsEachPartByItselfOnceAPassHasRun) {
     TestFrame frame;
     frame.SetMarked("[x]");
     frame.Box().streams.clear();
-    InsertTag(frame, QStringLiteral("<B>\r\n"), QStringLiteral("</B>"), false);
+    InsertTag(frame, QStringLiteral("<B>\r\n"), QStringLiteral("</B>"), KeepCase::No);
     // The first insertion of a run holds the opening string back until the selection goes out.
     EXPECT_EQ(frame.Box().streams,
               (QStringList{header + open + QStringLiteral("\\cf1 x}"), header + close + u'}'}));
     frame.SetMarked("|");
     frame.Box().streams.clear();
-    InsertTag(frame, QStringLiteral("<B>\r\n"), QStringLiteral("</B>"), false);
+    InsertTag(frame, QStringLiteral("<B>\r\n"), QStringLiteral("</B>"), KeepCase::No);
     EXPECT_EQ(frame.Box().streams,
               (QStringList{header + open + u'}', header + QStringLiteral("\\cf1 }"), header + close + u'}'}));
 }
@@ -95,7 +96,7 @@ TEST(InsertTag, TypingGoesOnInTheTextColor) {
     frame.Store().WriteNumber(Keys::TextColor[0], 4711);
     for (const char* close : {"</B>", ""}) {
         frame.SetMarked("|");
-        InsertTag(frame, QStringLiteral("<B>"), QString::fromLatin1(close), false);
+        InsertTag(frame, QStringLiteral("<B>"), QString::fromLatin1(close), KeepCase::No);
         EXPECT_EQ(frame.Box().SelColor(), 4711) << close;
         frame.Box().SetSelText(QStringLiteral("x"));
         EXPECT_EQ(frame.Box().ColorAt(3), 4711) << close;
@@ -108,7 +109,7 @@ TEST(InsertTag, WithColoringOffTheColorAtTheCaretStays) {
     frame.SetMarked("[ab]");
     frame.Box().SetSelColor(255);
     frame.Box().SetSelStart(1);
-    InsertTag(frame, QStringLiteral("<B>"), QStringLiteral("</B>"), false);
+    InsertTag(frame, QStringLiteral("<B>"), QStringLiteral("</B>"), KeepCase::No);
     EXPECT_EQ(frame.Box().SelColor(), 255);
 }
 
@@ -120,7 +121,7 @@ TEST(InsertTag, LowersAtExactlyOneAndAsTheSettingStands) {
     for (const auto& [value, written] : rows) {
         frame.Store().Write(Keys::LowerCaseTags, QString::fromLatin1(value));
         frame.SetText(QString());
-        InsertTag(frame, QStringLiteral("<B>"), QStringLiteral("</B>"), false);
+        InsertTag(frame, QStringLiteral("<B>"), QStringLiteral("</B>"), KeepCase::No);
         EXPECT_EQ(frame.Box().Text(), QString::fromLatin1(written)) << value;
     }
 }
@@ -128,7 +129,7 @@ TEST(InsertTag, LowersAtExactlyOneAndAsTheSettingStands) {
 TEST(InsertTag, ColorsEachPartByItsKind) {
     TestFrame frame;
     frame.SetMarked("[a<IMG>b]");
-    InsertTag(frame, QStringLiteral("<A HREF=\"x\"><B>"), QStringLiteral("</B></A>"), false);
+    InsertTag(frame, QStringLiteral("<A HREF=\"x\"><B>"), QStringLiteral("</B></A>"), KeepCase::No);
     const std::vector<std::pair<QString, int>> expected = {{QStringLiteral("<A HREF=\"x\"><B>"), 32768},
                                                            {QStringLiteral("a"), 0},
                                                            {QStringLiteral("<IMG>"), 255},
@@ -138,34 +139,29 @@ TEST(InsertTag, ColorsEachPartByItsKind) {
     EXPECT_EQ(frame.Box().SelColor(), 0);
     // The opening string says nothing of the closing one.
     frame.SetMarked("|");
-    InsertTag(frame, QStringLiteral("<IMG>"), QStringLiteral("<!-- -->"), false);
+    InsertTag(frame, QStringLiteral("<IMG>"), QStringLiteral("<!-- -->"), KeepCase::No);
     EXPECT_EQ(frame.Colors(), (std::vector<std::pair<QString, int>>{{QStringLiteral("<IMG>"), 255},
                                                                     {QStringLiteral("<!-- -->"), 8421504}}));
 }
 
-TEST(InsertTag, ChangesTheCallersStrings) {
+TEST(InsertTag, GivesBackTheStringsAsTheyWentOut) {
     TestFrame frame;
     frame.Store().WriteFlag(Keys::LowerCaseTags, true);
-    QString open = QStringLiteral("<B>\r\n"), close = QStringLiteral("\r\n</B>");
-    InsertTag(frame, open, close, false);
-    EXPECT_EQ(open, QStringLiteral("<b>\\par "));
-    EXPECT_EQ(close, QStringLiteral("\\par </b>"));
+    const QString open = QStringLiteral("<B>\r\n"), close = QStringLiteral("\r\n</B>");
+    EXPECT_EQ(InsertTag(frame, open, close, KeepCase::No),
+              (WrittenTag{QStringLiteral("<b>\\par "), QStringLiteral("\\par </b>")}));
     // With the case kept or the colouring off there is that much less to change.
-    open = QStringLiteral("<B>\r\n"), close = QStringLiteral("\r\n</B>");
-    InsertTag(frame, open, close, true);
-    EXPECT_EQ(open, QStringLiteral("<B>\\par "));
-    EXPECT_EQ(close, QStringLiteral("\\par </B>"));
+    EXPECT_EQ(InsertTag(frame, open, close, KeepCase::Yes),
+              (WrittenTag{QStringLiteral("<B>\\par "), QStringLiteral("\\par </B>")}));
     frame.Store().WriteFlag(Keys::ColoredTags, false);
-    open = QStringLiteral("<B>\r\n"), close = QStringLiteral("\r\n</B>");
-    InsertTag(frame, open, close, false);
-    EXPECT_EQ(open, QStringLiteral("<b>\r\n"));
-    EXPECT_EQ(close, QStringLiteral("\r\n</b>"));
+    EXPECT_EQ(InsertTag(frame, open, close, KeepCase::No),
+              (WrittenTag{QStringLiteral("<b>\r\n"), QStringLiteral("\r\n</b>")}));
 }
 
 TEST(InsertTag, WithoutADocumentChangesNothing) {
     TestFrame frame;
     frame.CloseDocument();
-    InsertTag(frame, QStringLiteral("<B>"), QStringLiteral("</B>"), false);
+    InsertTag(frame, QStringLiteral("<B>"), QStringLiteral("</B>"), KeepCase::No);
     EXPECT_TRUE(frame.prompts.asked.isEmpty());
     EXPECT_TRUE(frame.State<EditorState>().RtfBuffer.isEmpty());
 }

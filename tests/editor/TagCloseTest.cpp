@@ -80,7 +80,7 @@ TEST(TagClosed, TypingGoesOnInTheTextColor) {
 TEST(TagClosed, ColorsEvenOutsideTheTag) {
     // The colours of what is typed do not depend on the colours around it.
     TypingFrame frame;
-    ColorizeText(frame, QStringLiteral("<B></B>"), false, false);
+    ColorizeText(frame, QStringLiteral("<B></B>"), KeepDocument::No, CaretToTop::No);
     frame.Box().SetSelStart(2);
     frame.Type("x");
     EXPECT_EQ(frame.Marked(), QStringLiteral("<Bx|></B>"));
