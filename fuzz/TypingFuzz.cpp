@@ -173,8 +173,12 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
     if (size == 0)
         return 0;
     const bool lists = data[0] % 2 != 0;
-    frame.Flags() = EditorState();
-    frame.Flags().UseAutoFill = lists;
+    frame.Stream() = ColorStream();
+    frame.Flags().DocumentOpened();
+    frame.Flags().StopFollowing();
+    frame.Flags().TakePick();
+    frame.Flags().RememberCaret(0);
+    frame.State<EditorOptions>().UseAutoFill = lists;
     if (lists)
         TypeWithLists(frame, data + 1, size - 1);
     else

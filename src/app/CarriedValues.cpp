@@ -6,8 +6,9 @@
 #include "app/RecentFiles.h"
 #include "app/UserButtons.h"
 #include "dialogs/DialogState.h"
-#include "editor/EditorState.h"
+#include "editor/EditorOptions.h"
 #include "editor/SpellChecker.h"
+#include "editor/UserButtonTexts.h"
 #include "platform/Path.h"
 #include "platform/Settings.h"
 #include "platform/Values.h"
@@ -86,7 +87,7 @@ CarriedValue RunCountRow() {
 // spoil every page that is coloured with it.
 CarriedValue TextColorRow(int slot) {
     const SettingsKey& key = Keys::EdTextColor[slot];
-    const auto place = In(&EditorState::ColorTable, slot);
+    const auto place = In(&EditorOptions::ColorTable, slot);
     CarriedValue row = Row(key, ReadAt::EditorValues, WrittenAt::TextColors, place);
     row.read = [key, place](MainFrame& frame) {
         static const QRegularExpression entry(QStringLiteral("\\A\\\\red\\d+\\\\green\\d+\\\\blue\\d+\\z"));
@@ -116,7 +117,7 @@ CarriedValue LastDirRow() {
 // The button's face holds the caption that is written.
 CarriedValue ButtonCaptionRow(int n) {
     CarriedValue row =
-        Row(Keys::ButCap(n), ReadAt::Lists, WrittenAt::UserButtons, In(&EditorState::ButCap, n));
+        Row(Keys::ButCap(n), ReadAt::Lists, WrittenAt::UserButtons, In(&UserButtonTexts::ButCap, n));
     row.write = [key = row.key, n](MainFrame& frame) {
         frame.Store().Write(key, frame.Picture2().Caption(n));
     };
@@ -129,9 +130,9 @@ void AddLists(std::vector<CarriedValue>& rows) {
             Row(Keys::MenuArray(n), ReadAt::Lists, WrittenAt::RecentFiles, In(&ProgramState::MenuArray, n)));
     for (int n = 0; n < UserButtons::Count; ++n) {
         rows.push_back(
-            Row(Keys::FirstBut(n), ReadAt::Lists, WrittenAt::UserButtons, In(&EditorState::FirstBut, n)));
-        rows.push_back(
-            Row(Keys::SecondBut(n), ReadAt::Lists, WrittenAt::UserButtons, In(&EditorState::SecondBut, n)));
+            Row(Keys::FirstBut(n), ReadAt::Lists, WrittenAt::UserButtons, In(&UserButtonTexts::FirstBut, n)));
+        rows.push_back(Row(Keys::SecondBut(n), ReadAt::Lists, WrittenAt::UserButtons,
+                           In(&UserButtonTexts::SecondBut, n)));
         rows.push_back(ButtonCaptionRow(n));
     }
 }
@@ -140,7 +141,7 @@ std::vector<CarriedValue> Table() {
     using enum ReadAt;
     using To = WrittenAt;
     std::vector<CarriedValue> rows = {
-        Row(Keys::UseAutoFill, UseAutoFill, To::Never, In(&EditorState::UseAutoFill)),
+        Row(Keys::UseAutoFill, UseAutoFill, To::Never, In(&EditorOptions::UseAutoFill)),
         Row(Keys::MainFormHeight, Geometry, To::Geometry, In(&ProgramState::MainFormHeight)),
         Row(Keys::MainFormWidth, Geometry, To::Geometry, In(&ProgramState::MainFormWidth)),
         Row(Keys::MainFormLeft, Geometry, To::Geometry, In(&ProgramState::MainFormLeft)),
@@ -158,7 +159,7 @@ std::vector<CarriedValue> Table() {
         Row(Keys::LinkColor, EditorValues, To::LinkColor, In(&ProgramState::LinkColor)),
         Row(Keys::TemplateWindowState, EditorValues, To::EditorValues,
             In(&ProgramState::TemplateWindowState)),
-        Row(Keys::Background2, EditorValues, To::EditorValues, In(&EditorState::Background2)),
+        Row(Keys::Background2, EditorValues, To::EditorValues, In(&EditorOptions::Background2)),
         Row(Keys::ReloadFlag, EditorValues, To::EditorValues, In(&ProgramState::ReloadFlag)),
         Row(Keys::TheOpenFile, EditorValues, To::EditorValues, In(&ProgramState::TheOpenFile)),
         LastDirRow(),

@@ -10,7 +10,7 @@
 #include "app/Version.h"
 #include "app/WindowPlace.h"
 #include "editor/Commands.h"
-#include "editor/EditorState.h"
+#include "editor/UserButtonTexts.h"
 #include "platform/Settings.h"
 #include "platform/Twips.h"
 #include "platform/Values.h"
@@ -183,7 +183,7 @@ void Startup::OpenCommandLine() {
 }
 
 void Startup::CaptionUserButtons() {
-    const auto& editor = frame_.State<EditorState>();
+    const auto& editor = frame_.State<UserButtonTexts>();
     // The strip has thirty buttons and passes over what lies beyond.
     for (int n = 0; n < captionedButtons; ++n)
         if (const QString& caption = editor.ButCap[static_cast<size_t>(n)]; !caption.isEmpty())

@@ -3,10 +3,10 @@
 
 #include "app/frmTools.h"
 #include "app/LeaveByEscape.h"
-#include "editor/EditorState.h"
 #include "editor/Forms.h"
 #include "editor/Frame.h"
 #include "editor/InsertTag.h"
+#include "editor/UserButtonTexts.h"
 
 #include <algorithm>
 #include <QContextMenuEvent>
@@ -105,13 +105,13 @@ void UserButtons::TabStrip1_Click() {
 }
 
 UserButton UserButtons::Button(int index) const {
-    const EditorState& state = frame_.State<EditorState>();
+    const UserButtonTexts& state = frame_.State<UserButtonTexts>();
     const auto n = static_cast<size_t>(index);
     return {Caption(index), state.FirstBut[n], state.SecondBut[n]};
 }
 
 void UserButtons::TakeEdited(const UserButton& button) {
-    EditorState& state = frame_.State<EditorState>();
+    UserButtonTexts& state = frame_.State<UserButtonTexts>();
     const auto n = static_cast<size_t>(tag_);
     SetCaption(tag_, button.caption);
     state.FirstBut[n] = button.first;

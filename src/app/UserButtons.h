@@ -10,7 +10,7 @@ class Frame;
 class QPushButton;
 class QTabBar;
 
-/// The strip Picture2. The tags are EditorState's FirstBut and SecondBut; the captions are the buttons' own.
+/// The strip Picture2. The tags are UserButtonTexts'; the captions are the buttons' own.
 /// A right press on a button brings up the dialog that edits it; the store is written when the program stops.
 class UserButtons final : public QWidget {
     Q_OBJECT

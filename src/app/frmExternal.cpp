@@ -12,7 +12,7 @@
 #include "editor/Commands.h"
 #include "editor/Document.h"
 #include "editor/EditorFont.h"
-#include "editor/EditorState.h"
+#include "editor/EditorOptions.h"
 #include "editor/Forms.h"
 #include "editor/Frame.h"
 #include "editor/Modes.h"
@@ -143,7 +143,7 @@ void frmExternal::LoadFonts() {
 }
 
 void frmExternal::LoadColors() {
-    ui_->lblTagBG->SetBackNumber(frame_.State<EditorState>().Background2);
+    ui_->lblTagBG->SetBackNumber(frame_.State<EditorOptions>().Background2);
     for (size_t index = 0; index < lblTag_.size(); ++index)
         lblTag_[index]->SetForeNumber(StoredColor(frame_.Store(), Keys::TextColor[index]));
 }
@@ -177,7 +177,7 @@ void frmExternal::ShowPrograms() {
 
 void frmExternal::chkAutoFill_Click(bool on) {
     frame_.Store().WriteFlag(Keys::UseAutoFill, on);
-    frame_.State<EditorState>().UseAutoFill = on;
+    frame_.State<EditorOptions>().UseAutoFill = on;
 }
 
 void frmExternal::chkWordWrap_Click(bool on) {
@@ -270,7 +270,7 @@ bool frmExternal::ExtProgs() {
 
 bool frmExternal::SelectTagColor() {
     Settings& store = frame_.Store();
-    EditorState& editor = frame_.State<EditorState>();
+    EditorOptions& editor = frame_.State<EditorOptions>();
     editor.Background2 = ui_->lblTagBG->BackNumber();
     for (size_t index = 0; index < lblTag_.size(); ++index) {
         const ColorNumber color = lblTag_[index]->ForeNumber();

@@ -8,7 +8,7 @@
 #include "app/WordWrap.h"
 #include "editor/Commands.h"
 #include "editor/EditorFont.h"
-#include "editor/EditorState.h"
+#include "editor/EditorOptions.h"
 #include "editor/Forms.h"
 #include "editor/Frame.h"
 #include "editor/frmDropDown.h"
@@ -67,13 +67,10 @@ frmTemplate::frmTemplate(Frame& frame)
 frmTemplate::~frmTemplate() = default;
 
 void frmTemplate::Form_Load() {
-    auto& editor = frame_.State<EditorState>();
-    editor.DropDownOpen = false;
     QString nothing;
     // Through its own control: with colouring off the call empties a selection, and the active one is still
     // another document's.
     WriteColoredText(frame_, *this, nothing, {}, true);
-    editor.DropDownFollowsCaret = true;
     ReadSettings();
     ++frame_.State<ProgramState>().DocumentCount;
     ShowInItsState();
@@ -96,13 +93,13 @@ void frmTemplate::ReadSettings() {
     if (store.ReadFlag(Keys::UseWebTimer))
         frame_.Commands().Run(QString::fromLatin1(WebTimerForm));
     Form_Resize();
-    if (const int background = frame_.State<EditorState>().Background2; background > 0)
+    if (const int background = frame_.State<EditorOptions>().Background2; background > 0)
         txtInput_->SetBackColor(background);
     txtInput_->SetFont(StoredEditorFont(store));
 }
 
 void frmTemplate::TakeBackground() {
-    txtInput_->SetBackColor(frame_.State<EditorState>().Background2);
+    txtInput_->SetBackColor(frame_.State<EditorOptions>().Background2);
 }
 
 void frmTemplate::Form_Activate() {

@@ -1,8 +1,8 @@
 // Offers the attributes of the tag at the caret, and writes the one that is taken.
 #include "editor/AutoFill.h"
 
+#include "editor/AutoFillList.h"
 #include "editor/Document.h"
-#include "editor/EditorState.h"
 #include "editor/Forms.h"
 #include "editor/Frame.h"
 #include "editor/frmDropDown.h"
@@ -25,14 +25,13 @@ constexpr int longestName = 64;
 } // namespace
 
 AutoFill::AutoFill(Frame& frame, Document& document, QTimer& Timer1, QObject* parent)
-    : QObject(parent), frame_(frame), document_(document), Timer1_(Timer1) {
+    : QObject(parent), frame_(frame), shared_(frame.State<AutoFillList>()), document_(document),
+      Timer1_(Timer1) {
     Timer1_.stop();
     Timer1_.setSingleShot(true);
     Timer1_.setInterval(Delay);
     connect(&Timer1_, &QTimer::timeout, this, &AutoFill::Timer1_Timer);
-    auto& state = frame_.State<EditorState>();
-    state.DropDownOpen = false;
-    state.DropDownFollowsCaret = true;
+    shared_.DocumentOpened();
 }
 
 frmDropDown* AutoFill::List() const {
@@ -53,7 +52,7 @@ void AutoFill::WhatChar(const QString& typed) {
     if (!bracket)
         return;
     if (bracket->kind == Bracket::Close) {
-        frame_.State<EditorState>().DropDownOpen = false;
+        shared_.Close();
         return;
     }
     int position = bracket->place + 1;
@@ -80,7 +79,7 @@ void AutoFill::OpenDD(bool /*quoted*/) {
     document_.txtInput().SetFocus();
     TypedWord_.Clear();
     WordStart_ = document_.txtInput().SelStart() + 1;
-    frame_.State<EditorState>().DropDownOpen = true;
+    shared_.Open();
 }
 
 void AutoFill::Fill(const AutoFillRows& rows, const QString& called) {
@@ -91,39 +90,35 @@ void AutoFill::Timer1_Timer() {
     // The Right key, or a key in another document, may have taken the list away within the pause: it is then
     // loaded anew, without rows, and stays hidden.
     frame_.LoadedForms().Load<frmDropDown>(frame_).Open();
-    frame_.State<EditorState>().DropDownOpen = true;
+    shared_.Open();
     document_.txtInput().SetFocus();
     Timer1_.stop();
 }
 
 void AutoFill::FollowChange() {
-    const auto& state = frame_.State<EditorState>();
     frmDropDown* list = List();
-    if (list && state.DropDownFollowsCaret)
+    if (list && shared_.DropDownFollowsCaret())
         list->MoveToCaret();
     WordStart_ = std::max(WordStart_, 1);
     TypedWord_.Take(document_.txtInput(), WordStart_ - 1, document_.txtInput().SelStart());
-    if (list && state.DropDownOpen && !TypedWord_.IsEmpty())
+    if (list && shared_.DropDownOpen() && !TypedWord_.IsEmpty())
         SelectMatchingRow();
 }
 
 void AutoFill::SelectMatchingRow() {
-    auto& state = frame_.State<EditorState>();
     frmDropDown& list = *List();
     for (int row = 0; row < list.RowCount(); ++row) {
         if (!TypedWord_.Begins(list.RowText(row)))
             continue;
         // The text that a pick from the list itself writes must not move the selection there.
-        if (!state.ListPickPending)
+        if (!shared_.TakePick())
             list.SelectRow(row);
-        state.ListPickPending = false;
         list.ScrollToSelected();
         return;
     }
 }
 
-bool AutoFill::TakeRow(int& KeyAscii) {
-    auto& state = frame_.State<EditorState>();
+AutoFill::Taken AutoFill::TakeRow() {
     RichTextBox& text = document_.txtInput();
     const frmDropDown* list = List();
     const std::optional<QString> key = list ? list->SelectedKey() : std::nullopt;
@@ -131,23 +126,21 @@ bool AutoFill::TakeRow(int& KeyAscii) {
         // An empty list has nothing to give: the typed word stays, and the Enter is an ordinary one.
         ClearValueList();
         UnloadList();
-        state.DropDownOpen = false;
-        return false;
+        shared_.Close();
+        return Taken::Nothing;
     }
     // The word of an attribute begins behind the blank that opened the list, that of a value at once.
     text.SetSelStart(ValueList_ ? WordStart_ - 1 : WordStart_);
     ClearValueList();
     text.SetSelLength(TypedWord_.Length());
     const QChar last = WriteKey(*key);
-    if (!last.isNull())
-        KeyAscii = 0;
     UnloadList();
-    state.DropDownOpen = false;
+    shared_.Close();
     if (last != u'"')
-        return false;
+        return last.isNull() ? Taken::Nothing : Taken::Word;
     text.SetSelStart(text.SelStart() - 1);
     DoQuote();
-    return true;
+    return Taken::InQuotes;
 }
 
 QChar AutoFill::WriteKey(const QString& key) {

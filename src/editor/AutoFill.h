@@ -7,12 +7,13 @@
 #include <QObject>
 #include <QString>
 
+class AutoFillList;
 class Document;
 class Frame;
 class frmDropDown;
 class QTimer;
 
-/// One for each document. The list itself is one for the whole program, and so are the flags in EditorState.
+/// One for each document. The list itself is one for the whole program, and so is AutoFillList.
 class AutoFill : public QObject {
     Q_OBJECT
 
@@ -33,9 +34,10 @@ class AutoFill : public QObject {
     void OpenDD(bool quoted);
     /// Opens the list of values of the attribute just written, if it has one.
     void DoQuote();
-    /// Writes the selected row in place of the typed word. KeyAscii becomes 0 when something was written.
-    /// Returns true when the key is dealt with, false when the rest of the key's handling goes on.
-    bool TakeRow(int& KeyAscii);
+    /// What TakeRow wrote: something with a quote at its end leaves the caret before that quote.
+    enum class Taken { Nothing, Word, InQuotes };
+    /// Writes the selected row in place of the typed word.
+    Taken TakeRow();
 
     /// Lets the list follow the caret and the typed word, after each change of the text.
     void FollowChange();
@@ -62,6 +64,7 @@ class AutoFill : public QObject {
     QChar WriteKey(const QString& key);
 
     Frame& frame_;
+    AutoFillList& shared_;
     Document& document_;
     QTimer& Timer1_;
     TrimmedWord TypedWord_;

@@ -2,8 +2,8 @@
 #include "editor/ColorizeText.h"
 
 #include "editor/ColoredTags.h"
+#include "editor/ColorStream.h"
 #include "editor/Document.h"
-#include "editor/EditorState.h"
 #include "editor/Frame.h"
 #include "editor/WriteColoredText.h"
 #include "platform/RichTextBox.h"
@@ -31,16 +31,25 @@ class InputOff {
 /// What a pass gathers before its one write. With colouring off the pieces are the plain text itself.
 class Pieces {
   public:
-    Pieces(QString& buffer, bool colored) : buffer_(buffer), colored_(colored) {}
+    Pieces(ColorStream& stream, bool colored) : stream_(stream), colored_(colored) {}
     void Add(QStringView piece, QStringView colorWord) {
         if (colored_)
-            GatherPiece(buffer_, piece, colorWord);
+            stream_.Gather(piece, colorWord);
         else
-            buffer_ += piece;
+            plain_ += piece;
     }
+    void Reserve(qsizetype more) {
+        if (colored_)
+            stream_.Reserve(more);
+        else
+            plain_.reserve(more);
+    }
+    /// What was gathered with colouring off.
+    const QString& Plain() const { return plain_; }
 
   private:
-    QString& buffer_;
+    ColorStream& stream_;
+    QString plain_;
     bool colored_;
 };
 
@@ -77,13 +86,14 @@ ColorizedText ColorizeText(Frame& frame, QString text, KeepDocument keepDocument
     EscapeBackslashes(text);
     EscapeOpenBraces(text);
     EscapeCloseBraces(text);
-    auto& state = frame.State<EditorState>();
-    state.RtfFlushNow = false;
+    auto& stream = frame.State<ColorStream>();
+    stream.Hold();
     Document* document = frame.ActiveForm();
     if (!document) {
         // A pass that is to empty the document first ends there; any other goes on to its end and writes
         // nothing.
-        state.RtfFlushNow = keepDocument == KeepDocument::Yes;
+        if (keepDocument == KeepDocument::Yes)
+            stream.LetThrough();
         if (!text.contains(u'<'))
             keepDocument = KeepDocument::No;
         return {std::move(text), keepDocument};
@@ -95,22 +105,19 @@ ColorizedText ColorizeText(Frame& frame, QString text, KeepDocument keepDocument
         txtInput.SetText(QString());
     const InputOff off(txtInput);
     // Nothing else runs during a pass, so one look at the setting answers for every piece of it.
-    const bool colored = WritesColored(frame.Store());
-    QString plain;
-    QString& buffer = colored ? state.RtfBuffer : plain;
-    buffer.reserve(buffer.size() + text.size() + text.size() / 4);
-    Pieces pieces(buffer, colored);
+    Pieces pieces(stream, WritesColored(frame.Store()));
+    pieces.Reserve(text.size() + text.size() / 4);
 
     qsizetype last = 0;
     const bool tagged = GatherTags(pieces, text, keepDocument, last);
-    state.RtfFlushNow = true;
+    stream.LetThrough();
     if (!tagged) {
         WriteColoredText(frame, text, textWord, false);
         return {std::move(text), KeepDocument::No};
     }
     // The colour word travels inside the last piece. An unclosed "<" left last at 0: then that is the whole
     // text.
-    QString tail = plain;
+    QString tail = pieces.Plain();
     tail += textWord;
     tail += QStringView(text).mid(last);
     WriteColoredText(frame, tail, {}, false);

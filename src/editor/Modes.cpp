@@ -1,8 +1,8 @@
 // Edit, Design and View: which of its three controls a document window shows, and the click that switches.
 #include "editor/Modes.h"
 
+#include "editor/DesignVisit.h"
 #include "editor/Document.h"
-#include "editor/EditorState.h"
 #include "editor/Frame.h"
 #include "editor/WebControls.h"
 #include "platform/Prompts.h"
@@ -11,7 +11,6 @@
 
 #include <QApplication>
 #include <QMdiSubWindow>
-#include <utility>
 
 namespace {
 
@@ -168,7 +167,7 @@ void ShowDesign(Frame& frame) {
     frame.SaveActiveDocument();
     if (DocumentModes* modes = ActiveModes(frame))
         modes->DesignClicked();
-    frame.State<EditorState>().ComingFromDesign = true;
+    frame.State<DesignVisit>().Begin();
 }
 
 } // namespace
@@ -178,7 +177,7 @@ void ModeStrip_Click(Frame& frame, const QString& selected) {
         return;
     // Cleared before the question: the answer decides for this visit to the design view, and a further click
     // is a further question.
-    const bool fromDesign = std::exchange(frame.State<EditorState>().ComingFromDesign, false);
+    const bool fromDesign = frame.State<DesignVisit>().End();
     if (selected == editTab && fromDesign && WantsChangesSaved(frame))
         Reopen(frame, &DocumentModes::EditAnsPos);
     if (selected == viewTab && fromDesign && WantsChangesSaved(frame)) {

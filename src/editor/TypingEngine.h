@@ -2,6 +2,11 @@
 #pragma once
 
 #include "editor/AutoFill.h"
+#include "editor/AutoFillKeys.h"
+#include "editor/EntityTyping.h"
+#include "editor/TagCloser.h"
+#include "editor/TypingColor.h"
+#include "editor/UserButtonKeys.h"
 
 #include <QObject>
 
@@ -10,10 +15,9 @@ class Frame;
 class QPoint;
 class QTimer;
 
-/// Keeps the typing colour plain, colours a tag when its ">" is typed, turns accented letters into entities,
-/// runs the user buttons from the keyboard, opens and closes the auto-fill lists, and shows the line in the
-/// status bar. It stands on the events of the document's text control and never fetches the whole text: a key
-/// costs the same in any text.
+/// Hands the events of the document's text control to its behaviours, in their order, marks the document as
+/// changed and shows the line in the status bar. Nothing in it fetches the whole text: a key costs the same
+/// in any text.
 class TypingEngine : public QObject {
     Q_OBJECT
 
@@ -21,11 +25,7 @@ class TypingEngine : public QObject {
     /// parent is the document's window, or something in it.
     TypingEngine(Frame& frame, Document& document, QTimer& Timer1, QObject* parent);
 
-    /// The engine of a document, or null for a document that has none.
-    static TypingEngine* Of(Document& document);
-
-    /// A key that yields a character, by its code; 0 comes back when nothing is left to be typed. The
-    /// auto-fill list calls it too, with 13.
+    /// A key that yields a character, by its code; 0 comes back when nothing is left to be typed.
     void txtinput_KeyPress(int& KeyAscii);
 
     AutoFill& Lists() { return autoFill_; }
@@ -37,15 +37,16 @@ class TypingEngine : public QObject {
     void txtInput_KeyDown(int& KeyCode, int Shift);
     void txtInput_MouseUp(int Button, QPoint at);
 
+    /// A row was picked in the auto-fill list: it is the active document's.
+    void TakePickedRow();
     void ShowLinePosition();
-    void RunUserButton(int digit);
-    /// Typed text takes the text colour.
-    void TypePlain();
-    /// Writes the tag that a typed ">" closes, coloured, that ">" included. Returns false where there is none
-    /// to colour.
-    bool CloseTag();
 
     Frame& frame_;
     Document& document_;
     AutoFill autoFill_;
+    TypingColor color_;
+    AutoFillKeys listKeys_;
+    TagCloser tagCloser_;
+    EntityTyping entities_;
+    UserButtonKeys buttonKeys_;
 };

@@ -2,8 +2,9 @@
 #include "editor/WriteColoredText.h"
 
 #include "editor/ColoredTags.h"
+#include "editor/ColorStream.h"
 #include "editor/Document.h"
-#include "editor/EditorState.h"
+#include "editor/EditorOptions.h"
 #include "editor/Frame.h"
 #include "platform/RichTextBox.h"
 #include "platform/Settings.h"
@@ -12,7 +13,6 @@
 #include <array>
 #include <iterator>
 #include <string_view>
-#include <utility>
 
 namespace {
 
@@ -70,21 +70,8 @@ void Escape(QString& text, QChar character) {
     }
 }
 
-/// The gathered pieces as one RTF document, in the buffer's own memory: a page of many megabytes stands in
-/// it.
-QString TakeDocument(Frame& frame, EditorState& state) {
-    const QString header = RtfHeader(frame);
-    QString rtf = std::exchange(state.RtfBuffer, QString());
-    const qsizetype size = rtf.size();
-    rtf.resize(header.size() + size + 1);
-    std::copy_backward(rtf.cbegin(), rtf.cbegin() + size, rtf.end() - 1);
-    std::copy(header.begin(), header.end(), rtf.begin());
-    rtf.back() = u'}';
-    return rtf;
-}
-
-void Flush(Frame& frame, EditorState& state, RichTextBox& txtInput) {
-    const QString rtf = TakeDocument(frame, state);
+void Flush(Frame& frame, ColorStream& stream, RichTextBox& txtInput) {
+    const QString rtf = stream.TakeDocument(RtfHeader(frame));
     {
         const RichTextBox::PaintHold hold(txtInput);
         txtInput.SetSelRTF(rtf);
@@ -98,7 +85,7 @@ void Flush(Frame& frame, EditorState& state, RichTextBox& txtInput) {
 
 QString RtfHeader(Frame& frame) {
     QString header = QStringLiteral("{{\\colortbl ;");
-    for (const QString& entry : frame.State<EditorState>().ColorTable) {
+    for (const QString& entry : frame.State<EditorOptions>().ColorTable) {
         header += entry;
         header += QLatin1Char(';');
     }
@@ -131,24 +118,6 @@ void EscapeCloseBraces(QString& text) {
     Escape(text, u'}');
 }
 
-void GatherPiece(QString& buffer, QStringView text, QStringView colorWord) {
-    const QStringView lineEnd = u"\\par ";
-    // Room for the worst, a text of nothing but line ends: a page is thousands of pieces, and one step of
-    // growing and shrinking for each is cheaper than to grow by every part of it.
-    const qsizetype start = buffer.size();
-    buffer.resize(start + colorWord.size() + text.size() / 2 * lineEnd.size() + 1);
-    QChar* to = std::copy(colorWord.begin(), colorWord.end(), buffer.data() + start);
-    for (auto at = text.begin(); at != text.end(); ++at) {
-        if (*at == u'\r' && at + 1 != text.end() && at[1] == u'\n') {
-            to = std::copy(lineEnd.begin(), lineEnd.end(), to);
-            ++at;
-        } else {
-            *to++ = *at;
-        }
-    }
-    buffer.truncate(to - buffer.constData());
-}
-
 void WriteColoredText(Frame& frame, QString& text, QStringView colorWord, bool resetOnly) {
     Document* document = frame.ActiveForm();
     if (!document)
@@ -162,16 +131,13 @@ void WriteColoredText(Frame& frame, Document& document, QString& text, QStringVi
         document.txtInput().SetSelText(text);
         return;
     }
-    auto& state = frame.State<EditorState>();
+    auto& stream = frame.State<ColorStream>();
     if (resetOnly) {
-        state.RtfBuffer = QString();
+        stream.Reset();
         return;
     }
-    QString rtf;
-    GatherPiece(rtf, text, {});
-    text = std::move(rtf);
-    state.RtfBuffer += colorWord;
-    state.RtfBuffer += text;
-    if (state.RtfFlushNow)
-        Flush(frame, state, document.txtInput());
+    text = WithParagraphs(text);
+    stream.Add(text, colorWord);
+    if (stream.RtfFlushNow())
+        Flush(frame, stream, document.txtInput());
 }

@@ -16,9 +16,6 @@ void WriteColoredText(Frame& frame, QString& text, QStringView colorWord, bool r
 /// before it is the active one.
 void WriteColoredText(Frame& frame, Document& document, QString& text, QStringView colorWord, bool resetOnly);
 
-/// Puts a piece at the buffer's end: its colour word, then the text with "\par " for each CR LF.
-void GatherPiece(QString& buffer, QStringView text, QStringView colorWord);
-
 /// The colour word, "\cf2 " to "\cf6 ", of a piece of tag text: by substring of the whole text, in a fixed
 /// order.
 QStringView TagColorCode(QStringView tag);

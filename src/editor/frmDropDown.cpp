@@ -2,13 +2,13 @@
 #include "editor/frmDropDown.h"
 
 #include "editor/ActiveText.h"
+#include "editor/AutoFillList.h"
 #include "editor/Document.h"
 #include "editor/DropDownIcons.h"
 #include "editor/DropDownPlace.h"
-#include "editor/EditorState.h"
 #include "editor/Forms.h"
 #include "editor/Frame.h"
-#include "editor/TypingEngine.h"
+#include "editor/KeyCodes.h"
 #include "platform/RichTextBox.h"
 #include "platform/Twips.h"
 #include "ui_frmDropDown.h"
@@ -23,15 +23,15 @@ constexpr int keyRole = Qt::UserRole;
 constexpr int rowsShown = 10;
 
 /// The character code of a key that a text control would type, 0 for the others.
-int KeyAsciiOf(const QKeyEvent& key) {
+int CharacterOf(const QKeyEvent& key) {
     switch (key.key()) {
     case Qt::Key_Return:
     case Qt::Key_Enter:
-        return 13;
+        return KeyAsciiOf::Enter;
     case Qt::Key_Backspace:
-        return 8;
+        return KeyAsciiOf::Backspace;
     case Qt::Key_Space:
-        return 32;
+        return KeyAsciiOf::Blank;
     default:
         return 0;
     }
@@ -137,10 +137,10 @@ bool frmDropDown::eventFilter(QObject* watched, QEvent* event) {
         return QFrame::eventFilter(watched, event);
     const auto& key = *static_cast<QKeyEvent*>(event);
     if (key.key() == Qt::Key_Escape) {
-        ListView1_KeyDown(27);
+        ListView1_KeyDown(KeyCodeOf::Escape);
         return true;
     }
-    int KeyAscii = KeyAsciiOf(key);
+    int KeyAscii = CharacterOf(key);
     if (KeyAscii == 0)
         return QFrame::eventFilter(watched, event);
     ListView1_KeyPress(KeyAscii);
@@ -153,16 +153,16 @@ void frmDropDown::ListView1_DblClick() {
 
 void frmDropDown::ListView1_KeyPress(int& KeyAscii) {
     switch (KeyAscii) {
-    case 13:
+    case KeyAsciiOf::Enter:
         PickRow();
         break;
-    case 8:
+    case KeyAsciiOf::Backspace:
         Unload();
         if (RichTextBox* txtInput = ActiveText(frame_))
-            txtInput->SetSelStart(frame_.State<EditorState>().ListReturnCaret);
+            txtInput->SetSelStart(frame_.State<AutoFillList>().ListReturnCaret());
         KeyAscii = 0;
         break;
-    case 32:
+    case KeyAsciiOf::Blank:
         Unload();
         break;
     default:
@@ -171,7 +171,7 @@ void frmDropDown::ListView1_KeyPress(int& KeyAscii) {
 }
 
 void frmDropDown::ListView1_KeyDown(int KeyCode) {
-    if (KeyCode == 27)
+    if (KeyCode == KeyCodeOf::Escape)
         Unload();
 }
 
@@ -179,13 +179,11 @@ void frmDropDown::PickRow() {
     Document* document = frame_.ActiveForm();
     if (!document)
         return;
-    auto& state = frame_.State<EditorState>();
-    document->txtInput().SetSelStart(state.ListReturnCaret);
-    state.ListPickPending = true;
+    auto& list = frame_.State<AutoFillList>();
+    document->txtInput().SetSelStart(list.ListReturnCaret());
+    list.MarkPick();
     document->txtInput().SetFocus();
-    int KeyAscii = 13;
-    if (TypingEngine* engine = TypingEngine::Of(*document))
-        engine->txtinput_KeyPress(KeyAscii);
+    Q_EMIT list.RowPicked();
 }
 
 void frmDropDown::Unload() {
@@ -193,7 +191,7 @@ void frmDropDown::Unload() {
 }
 
 void frmDropDown::Form_Unload() {
-    frame_.State<EditorState>().DropDownOpen = false;
+    frame_.State<AutoFillList>().Close();
     // A list that goes while it has the focus leaves it to the text, not to whatever stands next in the tab
     // order.
     RichTextBox* txtInput = ActiveText(frame_);

@@ -12,7 +12,7 @@
 #include "app/UserButtons.h"
 #include "builders/frmFont.h"
 #include "editor/Document.h"
-#include "editor/EditorState.h"
+#include "editor/UserButtonTexts.h"
 #include "platform/RichTextBox.h"
 #include "platform/Settings.h"
 #include "support/FreshUser.h"
@@ -283,8 +283,8 @@ TEST_F(CommandSurfaceTest, MenuToolbarAndUserButtonWriteIntoTheActiveDocument) {
     RichTextBox& text = NewDocument();
     frame->MenuEntry(Text("mnuBold"))->trigger();
     Button("h1")->trigger();
-    frame->State<EditorState>().FirstBut[0] = Text("<DIV>");
-    frame->State<EditorState>().SecondBut[0] = Text("</DIV>");
+    frame->State<UserButtonTexts>().FirstBut[0] = Text("<DIV>");
+    frame->State<UserButtonTexts>().SecondBut[0] = Text("</DIV>");
     frame->findChild<QPushButton*>(Text("Command1_0"))->click();
     EXPECT_EQ(text.Text(), Text("<B><H1><DIV></DIV></H1></B>"));
 }
@@ -404,7 +404,7 @@ TEST_F(CommandSurfaceTest, TheUserStripShowsOnlyWhenItsSettingIsOne) {
         const auto* strip = started.findChild<UserButtons*>(Text("Picture2"));
         EXPECT_EQ(strip->isVisibleTo(&started), Text(value) == Text("1")) << value;
         EXPECT_EQ(strip->Caption(17), Text("Box"));
-        EXPECT_EQ(started.State<EditorState>().FirstBut[17], Text("<DIV>"));
+        EXPECT_EQ(started.State<UserButtonTexts>().FirstBut[17], Text("<DIV>"));
     }
 }
 

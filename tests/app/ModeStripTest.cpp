@@ -105,7 +105,7 @@ TEST_F(ModeStripOf, ViewAndDesignSaveTheTextFirst) {
         Click(tab);
         EXPECT_EQ(Content(), "<p>mode " + QByteArray::number(tab) + "\r\n");
         EXPECT_FALSE(run->Active().Modified());
-        run->Editor().ComingFromDesign = false;
+        run->Design().End();
         Click(edit);
     }
 }
@@ -130,7 +130,7 @@ TEST_F(ModeStripOf, WhatDesignSavedComesBackInANewWindow) {
     EXPECT_EQ(run->Active().txtInput().Text(), QStringLiteral("<p>designed</p>"));
     EXPECT_EQ(run->Active().txtInput().SelStart(), 0);
     EXPECT_TRUE(run->Active().txtInput().isVisible());
-    EXPECT_FALSE(run->Editor().ComingFromDesign);
+    EXPECT_FALSE(run->Design().ComingFromDesign());
     EXPECT_EQ(run->Program().DocumentCount, 1);
     EXPECT_EQ(run->frame->TabStrip2().count(), 1);
 }
@@ -145,7 +145,7 @@ TEST_F(ModeStripOf, FromDesignToViewTheNewWindowStandsInView) {
     EXPECT_NE(&run->Active(), before.data());
     EXPECT_EQ(Browser()->pages, QStringList(path)) << "the tab that the program selects is no second click";
     EXPECT_TRUE(Browser()->isVisible());
-    EXPECT_FALSE(run->Editor().ComingFromDesign);
+    EXPECT_FALSE(run->Design().ComingFromDesign());
     EXPECT_EQ(run->prompts.Messages().size(), 1);
 }
 
@@ -153,7 +153,7 @@ TEST_F(ModeStripOf, ClicksWithoutADocumentDoNothing) {
     Start();
     for (const int tab : {design, view, edit, edit})
         Click(tab);
-    EXPECT_FALSE(run->Editor().ComingFromDesign);
+    EXPECT_FALSE(run->Design().ComingFromDesign());
     EXPECT_TRUE(run->prompts.asked.isEmpty());
     EXPECT_EQ(factory.made, 0);
 }

@@ -186,8 +186,8 @@ TEST_F(OneUndoStep, EditTagAndTheOKOfItsDialog) {
 
 TEST_F(OneUndoStep, UserButtonsByMouseAndKey) {
     for (const QString& marked : {withCaret, withSelection}) {
-        run.Editor().FirstBut[1] = u"<U>\r\n"_s;
-        run.Editor().SecondBut[1] = u"</U>"_s;
+        run.Buttons().FirstBut[1] = u"<U>\r\n"_s;
+        run.Buttons().SecondBut[1] = u"</U>"_s;
         Put(marked);
         ExpectOneStep("key", [&] { Key(Qt::Key_2, Qt::ControlModifier); });
         Put(marked);

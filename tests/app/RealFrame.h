@@ -6,7 +6,11 @@
 #include "app/ProgramState.h"
 #include "app/Shutdown.h"
 #include "app/Startup.h"
-#include "editor/EditorState.h"
+#include "editor/AutoFillList.h"
+#include "editor/ColorStream.h"
+#include "editor/DesignVisit.h"
+#include "editor/EditorOptions.h"
+#include "editor/UserButtonTexts.h"
 #include "platform/RichTextBox.h"
 #include "platform/Settings.h"
 #include "support/FreshUser.h"
@@ -66,7 +70,11 @@ class ProgramRun {
     }
     QObject& VSSpell1() { return *frame->findChild<QObject*>(QStringLiteral("VSSpell1")); }
     ProgramState& Program() { return frame->State<ProgramState>(); }
-    EditorState& Editor() { return frame->State<EditorState>(); }
+    EditorOptions& Editor() { return frame->State<EditorOptions>(); }
+    UserButtonTexts& Buttons() { return frame->State<UserButtonTexts>(); }
+    AutoFillList& Lists() { return frame->State<AutoFillList>(); }
+    ColorStream& Stream() { return frame->State<ColorStream>(); }
+    DesignVisit& Design() { return frame->State<DesignVisit>(); }
 
     Settings store;
     ScriptedPrompts prompts;

@@ -108,10 +108,10 @@ class Program : public FrameTest {
     }
     static void ExpectDefaults(frmTarnwick& frame, const char* what) {
         EXPECT_EQ(frame.windowTitle().left(20), QStringLiteral("The Tarnwick Pro 3.0")) << what;
-        EXPECT_EQ(frame.State<EditorState>().ColorTable[4], QStringLiteral("\\red255\\green127\\blue0"))
+        EXPECT_EQ(frame.State<EditorOptions>().ColorTable[4], QStringLiteral("\\red255\\green127\\blue0"))
             << what;
-        EXPECT_EQ(frame.State<EditorState>().Background2, 16777215) << what;
-        EXPECT_TRUE(frame.State<EditorState>().UseAutoFill) << what;
+        EXPECT_EQ(frame.State<EditorOptions>().Background2, 16777215) << what;
+        EXPECT_TRUE(frame.State<EditorOptions>().UseAutoFill) << what;
         EXPECT_TRUE(frame.State<ProgramState>().LocalPreview) << what;
         EXPECT_TRUE(frame.Store().ReadFlag(Keys::ColoredTags)) << what;
         EXPECT_TRUE(frame.ActiveForm()->Window().isMaximized()) << what;

@@ -105,8 +105,8 @@ TEST_F(ShutdownOf, ValuesGoToTheStore) {
     run.VSSpell1().setProperty("StandardDic", QStringLiteral("/s.dic"));
     run.VSSpell1().setProperty("CustomDic", QStringLiteral("/c.dic"));
     run.frame->State<DialogState>().LastDir = QStringLiteral("/site");
-    run.Editor().FirstBut[29] = QStringLiteral("<X>");
-    run.Editor().SecondBut[29] = QStringLiteral("</X>");
+    run.Buttons().FirstBut[29] = QStringLiteral("<X>");
+    run.Buttons().SecondBut[29] = QStringLiteral("</X>");
     run.frame->Picture2().SetCaption(29, QStringLiteral("X"));
     EXPECT_TRUE(run.Stop());
     EXPECT_EQ(Read(Keys::FirstTimeAgain), QStringLiteral("2"));
@@ -165,8 +165,8 @@ TEST_F(ShutdownOf, EveryPlaceOfAListComesInAndGoesOut) {
         RecentFiles::SetCaption(*run.frame, n, QString::fromLatin1(entry("/out", n)));
     }
     for (int n = 0; n < 30; ++n) {
-        QString& first = run.Editor().FirstBut[static_cast<size_t>(n)];
-        QString& second = run.Editor().SecondBut[static_cast<size_t>(n)];
+        QString& first = run.Buttons().FirstBut[static_cast<size_t>(n)];
+        QString& second = run.Buttons().SecondBut[static_cast<size_t>(n)];
         EXPECT_EQ(first.toLatin1(), entry("<in", n));
         EXPECT_EQ(second.toLatin1(), entry("</in", n));
         EXPECT_EQ(run.frame->Picture2().Caption(n).toLatin1(), entry("in", n));

@@ -282,8 +282,8 @@ TEST_F(StartupOf, UserButtonsGetTheirCaptionsAndTags) {
     ASSERT_TRUE(run.Start());
     EXPECT_EQ(run.frame->Picture2().Caption(17), QStringLiteral("Big"));
     EXPECT_EQ(run.frame->Picture2().Caption(16), QString());
-    EXPECT_EQ(run.Editor().FirstBut[17], QStringLiteral("<BIG>"));
-    EXPECT_EQ(run.Editor().SecondBut[17], QStringLiteral("</BIG>"));
+    EXPECT_EQ(run.Buttons().FirstBut[17], QStringLiteral("<BIG>"));
+    EXPECT_EQ(run.Buttons().SecondBut[17], QStringLiteral("</BIG>"));
 }
 
 TEST_F(StartupOf, OptionsComeOnTheFirstRunOnly) {

@@ -2,7 +2,7 @@
 #include "app/UserButtons.h"
 
 #include "app/frmTools.h"
-#include "editor/EditorState.h"
+#include "editor/UserButtonTexts.h"
 #include "support/TestFrame.h"
 
 #include <gtest/gtest.h>
@@ -80,7 +80,7 @@ TEST_F(UserButtonsTest, TheTabShowsItsPage) {
 }
 
 TEST_F(UserButtonsTest, AClickInsertsTheButtonsTwoTags) {
-    auto& state = frame.State<EditorState>();
+    auto& state = frame.State<UserButtonTexts>();
     state.FirstBut[17] = Text("<DIV ID=\"X\">");
     state.SecondBut[17] = Text("</DIV>\r\n");
     struct Row {
@@ -120,7 +120,7 @@ TEST_F(UserButtonsTest, AButtonWithoutTagsChangesNothing) {
 }
 
 TEST_F(UserButtonsTest, WithoutADocumentAClickDoesNothing) {
-    frame.State<EditorState>().FirstBut[0] = Text("<B>");
+    frame.State<UserButtonTexts>().FirstBut[0] = Text("<B>");
     frame.CloseDocument();
     Button(0)->click();
     EXPECT_FALSE(frame.ActiveForm());
@@ -128,7 +128,7 @@ TEST_F(UserButtonsTest, WithoutADocumentAClickDoesNothing) {
 }
 
 TEST_F(UserButtonsTest, ARightPressEditsThatButton) {
-    auto& state = frame.State<EditorState>();
+    auto& state = frame.State<UserButtonTexts>();
     Tabs()->setCurrentIndex(1);
     strip->SetCaption(17, Text("Old"));
     state.FirstBut[17] = Text("<X>");
@@ -209,8 +209,8 @@ TEST_F(UserButtonsTest, TheKeyboardsWayToAContextMenuEditsToo) {
 
 TEST_F(UserButtonsTest, AFieldSelectsItsTextAsItGetsTheFocus) {
     strip->SetCaption(8, Text("Title"));
-    frame.State<EditorState>().FirstBut[8] = Text("<FIRST>");
-    frame.State<EditorState>().SecondBut[8] = Text("</SECOND>");
+    frame.State<UserButtonTexts>().FirstBut[8] = Text("<FIRST>");
+    frame.State<UserButtonTexts>().SecondBut[8] = Text("</SECOND>");
     frmTools* editor = Editor(8);
     editor->activateWindow();
     ASSERT_TRUE(QTest::qWaitFor([&] { return editor->isActiveWindow(); }));

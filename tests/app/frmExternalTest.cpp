@@ -5,7 +5,7 @@
 #include "app/BrowserLookup.h"
 #include "app/ProgramState.h"
 #include "dialogs/ColorSample.h"
-#include "editor/EditorState.h"
+#include "editor/EditorOptions.h"
 #include "editor/WebControls.h"
 #include "support/FreshUser.h"
 #include "support/TestFrame.h"
@@ -72,7 +72,7 @@ class Options : public testing::Test {
 
     TestFrame frame;
     ProgramState& state = frame.State<ProgramState>();
-    EditorState& editor = frame.State<EditorState>();
+    EditorOptions& editor = frame.State<EditorOptions>();
     frmExternal* form = nullptr;
 
   private:

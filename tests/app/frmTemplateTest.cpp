@@ -108,22 +108,22 @@ TEST_F(frmTemplateOf, NewStartsTheModeStripOnEdit) {
 
 TEST_F(frmTemplateOf, LoadResetsTheListsAndTheBuffer) {
     Fresh();
-    run->Editor().DropDownOpen = true;
-    run->Editor().DropDownFollowsCaret = false;
-    run->Editor().RtfBuffer = QStringLiteral("left over");
+    run->Lists().Open();
+    run->Lists().StopFollowing();
+    run->Stream().Add(u"left over", {});
     run->New();
-    EXPECT_FALSE(run->Editor().DropDownOpen);
-    EXPECT_TRUE(run->Editor().DropDownFollowsCaret);
-    EXPECT_EQ(run->Editor().RtfBuffer, QString());
+    EXPECT_FALSE(run->Lists().DropDownOpen());
+    EXPECT_TRUE(run->Lists().DropDownFollowsCaret());
+    EXPECT_EQ(run->Stream().RtfBuffer(), QString());
 }
 
 TEST_F(frmTemplateOf, LoadOfTheOnlyWindowEmptiesTheBufferToo) {
     run = std::make_unique<ProgramRun>();
     EXPECT_TRUE(run->Start());
     ASSERT_EQ(run->frame->ActiveForm(), nullptr);
-    run->Editor().RtfBuffer = QStringLiteral("left over");
+    run->Stream().Add(u"left over", {});
     run->New();
-    EXPECT_EQ(run->Editor().RtfBuffer, QString());
+    EXPECT_EQ(run->Stream().RtfBuffer(), QString());
 }
 
 TEST_F(frmTemplateOf, LoadTouchesNoOtherWindowWithColouringOff) {

@@ -24,7 +24,7 @@ TEST_P(AutoFillOpens, AtABlank) {
     frame.SetMarked(row.before);
     frame.Type(" ");
     EXPECT_EQ(frame.PausePending(), row.rows > 0);
-    EXPECT_EQ(frame.Flags().DropDownOpen, row.rows > 0);
+    EXPECT_EQ(frame.Flags().DropDownOpen(), row.rows > 0);
     EXPECT_EQ(frame.Rows().size(), row.rows);
     EXPECT_FALSE(frame.ListShown());
     EXPECT_EQ(frame.Marked(),
@@ -62,9 +62,9 @@ TEST(AutoFill, ReachesBack150Characters) {
 TEST(AutoFill, ClosesTheFlagAtABracket) {
     TypingFrame frame;
     frame.SetText(QStringLiteral("<table>"));
-    frame.Flags().DropDownOpen = true;
+    frame.Flags().Open();
     frame.Lists().WhatChar(QStringLiteral(" "));
-    EXPECT_FALSE(frame.Flags().DropDownOpen);
+    EXPECT_FALSE(frame.Flags().DropDownOpen());
 }
 
 TEST(AutoFill, OpenFuncRaisesThePosition) {
@@ -78,7 +78,7 @@ TEST(AutoFill, OpenFuncRaisesThePosition) {
 
 TEST(AutoFill, OnlyWhenItIsOn) {
     TypingFrame frame;
-    frame.Flags().UseAutoFill = false;
+    frame.State<EditorOptions>().UseAutoFill = false;
     frame.Type("<img ");
     EXPECT_FALSE(frame.PausePending());
     EXPECT_EQ(frame.List(), nullptr);
@@ -93,7 +93,7 @@ TEST(AutoFill, ComesUpAfterThePause) {
     frame.Pause();
     EXPECT_TRUE(frame.ListShown());
     EXPECT_FALSE(frame.PausePending());
-    EXPECT_TRUE(frame.Flags().DropDownOpen);
+    EXPECT_TRUE(frame.Flags().DropDownOpen());
     EXPECT_EQ(frame.SelectedRow(), QStringLiteral("HEIGHT"));
     // The keyboard stays in the text.
     EXPECT_EQ(QApplication::focusWidget(), &frame.Box());
@@ -107,7 +107,7 @@ TEST(AutoFill, AKeyWithinThePauseCancelsTheShowing) {
     EXPECT_FALSE(frame.PausePending());
     EXPECT_FALSE(frame.ListShown());
     // The hidden list is open all the same: Enter takes its row.
-    EXPECT_TRUE(frame.Flags().DropDownOpen);
+    EXPECT_TRUE(frame.Flags().DropDownOpen());
     frame.Type("\r");
     EXPECT_EQ(frame.Marked(), QStringLiteral("<img HEIGHT=\"|\""));
 }
@@ -135,7 +135,7 @@ TEST(AutoFill, EnterWritesTheAttribute) {
     frame.Pause();
     frame.Type("h\r");
     EXPECT_EQ(frame.Marked(), QStringLiteral("<img HEIGHT=\"|\""));
-    EXPECT_FALSE(frame.Flags().DropDownOpen);
+    EXPECT_FALSE(frame.Flags().DropDownOpen());
     EXPECT_EQ(frame.List(), nullptr);
     EXPECT_FALSE(frame.PausePending());
 }
@@ -174,7 +174,7 @@ TEST(AutoFill, OddQuotesAndBareAttributes) {
         frame.Type("\r");
         EXPECT_EQ(frame.Marked(), QString::fromLatin1(after));
         EXPECT_FALSE(frame.PausePending()) << after;
-        EXPECT_FALSE(frame.Flags().DropDownOpen) << after;
+        EXPECT_FALSE(frame.Flags().DropDownOpen()) << after;
     }
 }
 
@@ -195,7 +195,7 @@ TEST(AutoFill, AlignmentsFollow) {
     frame.Type("\r");
     EXPECT_EQ(frame.Marked(), QStringLiteral("<IMG ALIGN=\"LEFT|\""));
     EXPECT_FALSE(frame.Lists().ValueList());
-    EXPECT_FALSE(frame.Flags().DropDownOpen);
+    EXPECT_FALSE(frame.Flags().DropDownOpen());
     EXPECT_EQ(frame.List(), nullptr);
 }
 
@@ -247,7 +247,7 @@ TEST(AutoFill, CustomColor) {
     ASSERT_EQ(frame.prompts.asked.size(), 1);
     EXPECT_EQ(frame.prompts.asked.front().kind, Asked::Color);
     EXPECT_EQ(frame.prompts.asked.front().owner, frame.Window());
-    EXPECT_FALSE(frame.Flags().DropDownOpen);
+    EXPECT_FALSE(frame.Flags().DropDownOpen());
     EXPECT_EQ(frame.List(), nullptr);
 }
 
@@ -273,7 +273,7 @@ TEST(AutoFill, ACancelledColorLetsTheEnterThrough) {
         frame.Type("<font col\r");
         frame.Type(typed);
         EXPECT_EQ(frame.Marked(), QStringLiteral("<font COLOR=\"\r\n|\""));
-        EXPECT_FALSE(frame.Flags().DropDownOpen);
+        EXPECT_FALSE(frame.Flags().DropDownOpen());
         EXPECT_EQ(frame.List(), nullptr);
     }
 }
@@ -292,8 +292,8 @@ TEST(AutoFill, ABlankInAnOpenListUnloadsItAndStopsFollowing) {
     frame.Pause();
     frame.Type("h ");
     EXPECT_EQ(frame.List(), nullptr);
-    EXPECT_FALSE(frame.Flags().DropDownOpen);
-    EXPECT_FALSE(frame.Flags().DropDownFollowsCaret);
+    EXPECT_FALSE(frame.Flags().DropDownOpen());
+    EXPECT_FALSE(frame.Flags().DropDownFollowsCaret());
     EXPECT_EQ(frame.Marked(), QStringLiteral("<img h |"));
     EXPECT_FALSE(frame.PausePending());
     // A further blank opens the list again; it is placed when loaded and stays there.
@@ -302,7 +302,7 @@ TEST(AutoFill, ABlankInAnOpenListUnloadsItAndStopsFollowing) {
     const QPoint place = frame.List()->Place();
     frame.Type("wid");
     EXPECT_EQ(frame.List()->Place(), place);
-    EXPECT_FALSE(frame.Flags().DropDownFollowsCaret);
+    EXPECT_FALSE(frame.Flags().DropDownFollowsCaret());
 }
 
 TEST(AutoFill, FollowsTheCaret) {
@@ -340,7 +340,7 @@ TEST(AutoFill, BackspaceUnloadsWithNothingTyped) {
     EXPECT_TRUE(frame.ListShown());
     frame.Type("\b");
     EXPECT_EQ(frame.List(), nullptr);
-    EXPECT_FALSE(frame.Flags().DropDownOpen);
+    EXPECT_FALSE(frame.Flags().DropDownOpen());
     EXPECT_EQ(frame.Marked(), QStringLiteral("<img|"));
 }
 
@@ -350,7 +350,7 @@ TEST(AutoFill, BackspaceForgetsThatItIsAValueList) {
     frame.Pause();
     frame.Type("lx\b");
     EXPECT_FALSE(frame.Lists().ValueList());
-    EXPECT_TRUE(frame.Flags().DropDownOpen);
+    EXPECT_TRUE(frame.Flags().DropDownOpen());
     // From then on the pick counts from one character further right, as for an attribute.
     frame.Type("\r");
     EXPECT_EQ(frame.Box().Text(), QStringLiteral("<img ALIGN=\"lLEFT"));
@@ -362,7 +362,7 @@ TEST(AutoFill, AnEqualSignUnloads) {
     frame.Pause();
     frame.Type("=");
     EXPECT_EQ(frame.List(), nullptr);
-    EXPECT_FALSE(frame.Flags().DropDownOpen);
+    EXPECT_FALSE(frame.Flags().DropDownOpen());
     EXPECT_FALSE(frame.Lists().ValueList());
     EXPECT_EQ(frame.Marked(), QStringLiteral("<img ALIGN=\"=|\""));
 }
@@ -374,7 +374,7 @@ TEST(AutoFill, EscAndRightUnload) {
         frame.Pause();
         frame.Key(key);
         EXPECT_EQ(frame.List(), nullptr);
-        EXPECT_FALSE(frame.Flags().DropDownOpen);
+        EXPECT_FALSE(frame.Flags().DropDownOpen());
         EXPECT_FALSE(frame.Lists().ValueList());
         frame.Type("\r");
         EXPECT_EQ(frame.Box().Text().count(QStringLiteral("\r\n")), 1);
@@ -390,7 +390,7 @@ TEST(AutoFill, EscWithinThePauseCallsTheListOff) {
         frame.Key(Qt::Key_Escape);
         EXPECT_FALSE(frame.PausePending()) << typed;
         EXPECT_EQ(frame.List(), nullptr) << typed;
-        EXPECT_FALSE(frame.Flags().DropDownOpen) << typed;
+        EXPECT_FALSE(frame.Flags().DropDownOpen()) << typed;
         EXPECT_EQ(frame.Marked(), text);
         // The next blank asks anew.
         frame.Type(" ");
@@ -408,7 +408,7 @@ TEST(AutoFill, RightWithinThePauseLeavesItAndNoListComesUp) {
     frame.Pause();
     EXPECT_FALSE(frame.ListShown());
     EXPECT_EQ(frame.Rows(), QStringList());
-    EXPECT_TRUE(frame.Flags().DropDownOpen);
+    EXPECT_TRUE(frame.Flags().DropDownOpen());
     EXPECT_EQ(QApplication::focusWidget(), &frame.Box());
     // There is no row to take: an Enter is an ordinary one, and what was typed stays.
     frame.Type("al\r");
@@ -454,7 +454,7 @@ TEST(AutoFill, OpenDDCountsTheWordFromTheCaretWhateverItsArgument) {
         EXPECT_EQ(QApplication::focusWidget(), &frame.Box());
         EXPECT_TRUE(frame.Lists().TypedWord().IsEmpty());
         EXPECT_EQ(frame.Lists().WordStart(), 7);
-        EXPECT_TRUE(frame.Flags().DropDownOpen);
+        EXPECT_TRUE(frame.Flags().DropDownOpen());
         EXPECT_EQ(frame.List(), nullptr);
     }
 }
@@ -509,7 +509,7 @@ TEST(AutoFill, ClosingTheDocumentEndsThePause) {
     TypingFrame frame;
     frame.Type("<img ");
     frame.LoadedForms().Unload<frmDropDown>();
-    EXPECT_FALSE(frame.Flags().DropDownOpen);
+    EXPECT_FALSE(frame.Flags().DropDownOpen());
     frame.CloseDocument();
     EXPECT_EQ(frame.ActiveForm(), nullptr);
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);

@@ -1,7 +1,7 @@
 // The colouring pass: the exact streams, every oddity of the scan, and the off state.
 #include "editor/ColorizeText.h"
 
-#include "editor/EditorState.h"
+#include "editor/ColorStream.h"
 #include "support/TestFrame.h"
 
 #include <gtest/gtest.h>
@@ -29,8 +29,8 @@ TEST_P(StreamTest, OneAssignment) {
     EXPECT_EQ(frame.Box().streams, QStringList{header + QString::fromLatin1(GetParam().stream)});
     EXPECT_EQ(frame.Box().Text(), QString::fromLatin1(GetParam().document));
     EXPECT_EQ(frame.Box().SelStart(), frame.Box().TextLength());
-    EXPECT_TRUE(frame.State<EditorState>().RtfFlushNow);
-    EXPECT_TRUE(frame.State<EditorState>().RtfBuffer.isEmpty());
+    EXPECT_TRUE(frame.State<ColorStream>().RtfFlushNow());
+    EXPECT_TRUE(frame.State<ColorStream>().RtfBuffer().isEmpty());
     EXPECT_FALSE(frame.Box().enabledDuringWrite);
     EXPECT_TRUE(frame.Box().Enabled());
     EXPECT_TRUE(frame.statuses.isEmpty()) << "the status bar is the caller's";
@@ -78,8 +78,8 @@ TEST_F(ColorizeTextTest, WithoutATagTheKeptDocumentGetsOnePieceAndKeepDocumentCo
     EXPECT_EQ(frame.Box().streams, QStringList{header + QStringLiteral("\\cf1 a\\{b\\par }")});
     EXPECT_EQ(frame.Box().Text(), QStringLiteral("[a{b\r\n]"));
     EXPECT_EQ(frame.Box().SelStart(), 6) << "caretToTop has no effect without a tag";
-    EXPECT_TRUE(frame.State<EditorState>().RtfFlushNow);
-    EXPECT_TRUE(frame.State<EditorState>().RtfBuffer.isEmpty());
+    EXPECT_TRUE(frame.State<ColorStream>().RtfFlushNow());
+    EXPECT_TRUE(frame.State<ColorStream>().RtfBuffer().isEmpty());
     EXPECT_FALSE(frame.Box().enabledDuringWrite);
     EXPECT_TRUE(frame.Box().Enabled());
 }
@@ -97,7 +97,7 @@ TEST_F(ColorizeTextTest, AnUnclosedTagAloneIsNoTextWithoutATag) {
 }
 
 TEST_F(ColorizeTextTest, APassDropsNothingThatWaitsInTheBuffer) {
-    frame.State<EditorState>().RtfBuffer = QStringLiteral("\\cf2 <I>");
+    frame.State<ColorStream>().Add(u"<I>", u"\\cf2 ");
     ColorizeText(frame, QStringLiteral("x<B>"), KeepDocument::Yes, CaretToTop::No);
     EXPECT_EQ(frame.Box().streams, QStringList{header + QStringLiteral("\\cf2 <I>\\cf1 x\\cf2 <B>\\cf1 }")});
 }
@@ -198,19 +198,19 @@ TEST_F(ColorizeTextTest, WithoutADocumentOnlyTheTextIsEscaped) {
     const QString text = QStringLiteral("{<B>");
     const ColorizedText written = ColorizeText(frame, text, KeepDocument::No, CaretToTop::Yes);
     EXPECT_EQ(written.text, QStringLiteral("\\{<B>"));
-    EXPECT_FALSE(frame.State<EditorState>().RtfFlushNow);
+    EXPECT_FALSE(frame.State<ColorStream>().RtfFlushNow());
 }
 
 TEST_F(ColorizeTextTest, WithoutADocumentAPassThatKeepsItComesToItsEnd) {
     frame.CloseDocument();
     for (const bool tagged : {true, false}) {
-        frame.State<EditorState>().RtfFlushNow = false;
+        frame.State<ColorStream>().Hold();
         const QString text = tagged ? QStringLiteral("a<B>\r\n") : QStringLiteral("a\r\n");
         const ColorizedText written = ColorizeText(frame, text, KeepDocument::Yes, CaretToTop::Yes);
         EXPECT_EQ(written.text, text);
         EXPECT_EQ(written.keepDocument, tagged ? KeepDocument::Yes : KeepDocument::No);
-        EXPECT_TRUE(frame.State<EditorState>().RtfFlushNow);
-        EXPECT_TRUE(frame.State<EditorState>().RtfBuffer.isEmpty());
+        EXPECT_TRUE(frame.State<ColorStream>().RtfFlushNow());
+        EXPECT_TRUE(frame.State<ColorStream>().RtfBuffer().isEmpty());
     }
 }
 

@@ -2,7 +2,7 @@
 // stands.
 #include "editor/InsertTag.h"
 
-#include "editor/EditorState.h"
+#include "editor/ColorStream.h"
 #include "support/TestFrame.h"
 
 #include <gtest/gtest.h>
@@ -28,7 +28,8 @@ TEST_P(InsertTagTest, TextAndCaret) {
         TestFrame frame;
         frame.Store().WriteFlag(Keys::LowerCaseTags, row.lower);
         frame.Store().WriteFlag(Keys::ColoredTags, row.colored);
-        frame.State<EditorState>().RtfFlushNow = !firstInsertionOfTheRun;
+        if (!firstInsertionOfTheRun)
+            frame.State<ColorStream>().LetThrough();
         frame.SetMarked(row.before);
         InsertTag(frame, QString::fromLatin1(row.open), QString::fromLatin1(row.close),
                   row.keepCase ? KeepCase::Yes : KeepCase::No);
@@ -163,7 +164,7 @@ TEST(InsertTag, WithoutADocumentChangesNothing) {
     frame.CloseDocument();
     InsertTag(frame, QStringLiteral("<B>"), QStringLiteral("</B>"), KeepCase::No);
     EXPECT_TRUE(frame.prompts.asked.isEmpty());
-    EXPECT_TRUE(frame.State<EditorState>().RtfBuffer.isEmpty());
+    EXPECT_TRUE(frame.State<ColorStream>().RtfBuffer().isEmpty());
 }
 
 struct ReplaceRow {

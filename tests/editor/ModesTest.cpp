@@ -1,7 +1,7 @@
 // Edit, Design and View: what is shown, what is saved, what is asked.
 #include "editor/Modes.h"
 
-#include "editor/EditorState.h"
+#include "editor/DesignVisit.h"
 #include "support/FakeWebControls.h"
 #include "support/TestFrame.h"
 
@@ -46,7 +46,7 @@ class ModesFrame final : public TestFrame {
     FakeBrowser* Browser() {
         return static_cast<FakeBrowser*>(active->findChild<QWidget*>(QStringLiteral("WebBrowser1")));
     }
-    bool& ComingFromDesign() { return State<EditorState>().ComingFromDesign; }
+    bool ComingFromDesign() { return State<DesignVisit>().ComingFromDesign(); }
     /// The controls that can be seen, by name.
     QStringList Shown() {
         QStringList names;
@@ -98,7 +98,7 @@ TEST(Modes, EachModeShowsItsOwnControl) {
                                                     {view, "WebBrowser1"},
                                                     {design, "DHTMLEdit"}};
     for (const auto& [tab, shown] : rows) {
-        frame.ComingFromDesign() = false;
+        frame.State<DesignVisit>().End();
         frame.Click(tab);
         EXPECT_THAT(frame.Shown(), ElementsAre(QString::fromLatin1(shown))) << tab.toStdString();
     }
@@ -207,7 +207,7 @@ TEST(Modes, FromDesignToViewNoShowsTheFileAsItStands) {
 
 TEST(Modes, WithoutADocumentAClickDoesNothingAndForgetsNothing) {
     ModesFrame frame;
-    frame.ComingFromDesign() = true;
+    frame.State<DesignVisit>().Begin();
     frame.CloseDocument();
     for (const QString& tab : {edit, design, view})
         frame.Click(tab);

@@ -92,10 +92,10 @@ TEST(TagClosed, ColorsEvenOutsideTheTag) {
 TEST(TagClosed, FlushesWhatComesNextPieceByPiece) {
     TypingFrame frame;
     frame.SetMarked("<B|<I>");
-    frame.Flags().RtfFlushNow = false;
+    frame.Stream().Hold();
     frame.Type(">");
-    EXPECT_TRUE(frame.Flags().RtfFlushNow);
-    EXPECT_EQ(frame.Flags().RtfBuffer, QString());
+    EXPECT_TRUE(frame.Stream().RtfFlushNow());
+    EXPECT_EQ(frame.Stream().RtfBuffer(), QString());
 }
 
 TEST(TagClosed, WithColoringOffItIsPlainTyping) {

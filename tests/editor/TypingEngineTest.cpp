@@ -84,22 +84,15 @@ TEST(TypingEngine, ASelectionIsNotRecolored) {
 
 TEST(TypingEngine, OpeningADocumentSetsTheFlags) {
     TypingFrame frame;
-    frame.Flags().DropDownOpen = true;
-    frame.Flags().DropDownFollowsCaret = false;
+    frame.Flags().Open();
+    frame.Flags().StopFollowing();
     frame.NewDocument();
     const TypingEngine second(frame, *frame.active, frame.active->Timer1, nullptr);
-    EXPECT_FALSE(frame.Flags().DropDownOpen);
-    EXPECT_TRUE(frame.Flags().DropDownFollowsCaret);
+    EXPECT_FALSE(frame.Flags().DropDownOpen());
+    EXPECT_TRUE(frame.Flags().DropDownFollowsCaret());
     EXPECT_EQ(frame.active->Timer1.interval(), 1150);
     EXPECT_TRUE(frame.active->Timer1.isSingleShot());
     EXPECT_FALSE(frame.active->Timer1.isActive());
-}
-
-TEST(TypingEngine, IsFoundByItsDocument) {
-    TypingFrame frame;
-    EXPECT_EQ(TypingEngine::Of(*frame.active), frame.engine);
-    frame.NewDocument();
-    EXPECT_EQ(TypingEngine::Of(*frame.active), nullptr);
 }
 
 TEST(TypingEngine, EveryChangeMarksTheDocument) {
@@ -208,8 +201,8 @@ struct ButtonRow {
 TEST(TypingEngine, CtrlAndDigitRunUserButtons) {
     TypingFrame frame;
     for (size_t i = 0; i < 65; ++i) {
-        frame.Flags().FirstBut[i] = QStringLiteral("<B%1>").arg(i);
-        frame.Flags().SecondBut[i] = QStringLiteral("</B%1>").arg(i);
+        frame.Buttons().FirstBut[i] = QStringLiteral("<B%1>").arg(i);
+        frame.Buttons().SecondBut[i] = QStringLiteral("</B%1>").arg(i);
     }
     for (const auto& [key, index] :
          {ButtonRow{Qt::Key_1, 0}, ButtonRow{Qt::Key_2, 1}, ButtonRow{Qt::Key_3, 2}, ButtonRow{Qt::Key_4, 3},
@@ -224,17 +217,17 @@ TEST(TypingEngine, CtrlAndDigitRunUserButtons) {
 TEST(TypingEngine, UserButtonsKeepTheirTextsInLowerCaseToo) {
     TypingFrame frame;
     frame.Store().WriteFlag(Keys::LowerCaseTags, true);
-    frame.Flags().FirstBut[0] = QStringLiteral("<DIV>\r\n");
-    frame.Flags().SecondBut[0] = QStringLiteral("\r\n</DIV>");
+    frame.Buttons().FirstBut[0] = QStringLiteral("<DIV>\r\n");
+    frame.Buttons().SecondBut[0] = QStringLiteral("\r\n</DIV>");
     frame.Key(Qt::Key_1, Qt::ControlModifier);
     EXPECT_EQ(frame.Box().Text(), QStringLiteral("<div>\r\n\r\n</div>"));
-    EXPECT_EQ(frame.Flags().FirstBut[0], QStringLiteral("<DIV>\r\n"));
-    EXPECT_EQ(frame.Flags().SecondBut[0], QStringLiteral("\r\n</DIV>"));
+    EXPECT_EQ(frame.Buttons().FirstBut[0], QStringLiteral("<DIV>\r\n"));
+    EXPECT_EQ(frame.Buttons().SecondBut[0], QStringLiteral("\r\n</DIV>"));
 }
 
 TEST(TypingEngine, OnlyCtrlAloneRunsUserButtons) {
     TypingFrame frame;
-    frame.Flags().FirstBut.fill(QStringLiteral("<B>"));
+    frame.Buttons().FirstBut.fill(QStringLiteral("<B>"));
     frame.Key(Qt::Key_1, Qt::ControlModifier | Qt::ShiftModifier);
     frame.Key(Qt::Key_1, Qt::AltModifier);
     frame.Key(Qt::Key_1, Qt::ControlModifier | Qt::AltModifier);
@@ -246,15 +239,15 @@ TEST(TypingEngine, OnlyCtrlAloneRunsUserButtons) {
 
 TEST(TypingEngine, TheKeypadsDigitsAreNoDigitKeys) {
     TypingFrame frame;
-    frame.Flags().FirstBut.fill(QStringLiteral("<B>"));
+    frame.Buttons().FirstBut.fill(QStringLiteral("<B>"));
     frame.Key(Qt::Key_1, Qt::ControlModifier | Qt::KeypadModifier);
     EXPECT_EQ(frame.Box().Text(), QString());
 }
 
 TEST(TypingEngine, AUserButtonOnTheKeyboardWrapsTheSelection) {
     TypingFrame frame;
-    frame.Flags().FirstBut[2] = QStringLiteral("<A HREF=\"X\">");
-    frame.Flags().SecondBut[2] = QStringLiteral("</A>");
+    frame.Buttons().FirstBut[2] = QStringLiteral("<A HREF=\"X\">");
+    frame.Buttons().SecondBut[2] = QStringLiteral("</A>");
     frame.SetMarked("a[b<I>]c");
     frame.Key(Qt::Key_3, Qt::ControlModifier);
     EXPECT_EQ(frame.Marked(), QStringLiteral("a<A HREF=\"X\">b<I>|</A>c"));
@@ -306,11 +299,11 @@ TEST(TypingEngine, TheDownKeyRemembersTheCaret) {
     TypingFrame frame;
     frame.SetMarked("ab|c");
     frame.Key(Qt::Key_Down);
-    EXPECT_EQ(frame.Flags().ListReturnCaret, 2);
+    EXPECT_EQ(frame.Flags().ListReturnCaret(), 2);
     EXPECT_EQ(QApplication::focusWidget(), &frame.Box());
     frame.Box().SetSelStart(1);
     frame.Key(Qt::Key_Up);
-    EXPECT_EQ(frame.Flags().ListReturnCaret, 2);
+    EXPECT_EQ(frame.Flags().ListReturnCaret(), 2);
     EXPECT_EQ(QApplication::focusWidget(), &frame.Box());
 }
 
@@ -336,7 +329,7 @@ TEST(TypingEngine, PunctuationIsNoArrowKey) {
         EXPECT_NE(frame.List(), nullptr) << character;
     }
     EXPECT_EQ(frame.Box().Text(), QStringLiteral("<IMG %&'("));
-    EXPECT_EQ(frame.Flags().ListReturnCaret, 0);
+    EXPECT_EQ(frame.Flags().ListReturnCaret(), 0);
 }
 
 } // namespace

@@ -1,7 +1,8 @@
 // The colour words of tags, the escapes, and the exact stream that each write sends.
 #include "editor/WriteColoredText.h"
 
-#include "editor/EditorState.h"
+#include "editor/ColorStream.h"
+#include "editor/EditorOptions.h"
 #include "platform/RtfReader.h"
 #include "support/TestFrame.h"
 
@@ -53,27 +54,27 @@ class WriteColoredTextTest : public testing::Test {
         WriteColoredText(frame, text, QString::fromLatin1(word), false);
     }
     TestFrame frame;
-    EditorState& state = frame.State<EditorState>();
+    ColorStream& state = frame.State<ColorStream>();
 };
 
 TEST_F(WriteColoredTextTest, GathersUntilThePieceThatFlushes) {
     Write(QStringLiteral("x"), "\\cf1 ");
-    EXPECT_EQ(state.RtfBuffer, QStringLiteral("\\cf1 x"));
+    EXPECT_EQ(state.RtfBuffer(), QStringLiteral("\\cf1 x"));
     EXPECT_EQ(frame.Box().Text(), QString());
-    EXPECT_FALSE(state.RtfFlushNow);
-    state.RtfFlushNow = true;
+    EXPECT_FALSE(state.RtfFlushNow());
+    state.LetThrough();
     Write(QStringLiteral("<B>"), "\\cf2 ");
     EXPECT_EQ(frame.Box().streams, QStringList{header + QStringLiteral("\\cf1 x\\cf2 <B>}")});
     EXPECT_EQ(frame.Box().Text(), QStringLiteral("x<B>"));
-    EXPECT_TRUE(state.RtfBuffer.isEmpty());
-    EXPECT_TRUE(state.RtfFlushNow) << "the flush leaves it on";
+    EXPECT_TRUE(state.RtfBuffer().isEmpty());
+    EXPECT_TRUE(state.RtfFlushNow()) << "the flush leaves it on";
 }
 
 TEST_F(WriteColoredTextTest, AllDocumentsShareTheBufferAndTheFlag) {
     Write(QStringLiteral("x"), "\\cf1 ");
     RecordingBox& first = frame.Box();
     frame.NewDocument();
-    state.RtfFlushNow = true;
+    state.LetThrough();
     Write(QStringLiteral("<B>"), "\\cf2 ");
     EXPECT_EQ(frame.Box().Text(), QStringLiteral("x<B>"));
     EXPECT_EQ(first.Text(), QString());
@@ -92,7 +93,7 @@ TEST_F(WriteColoredTextTest, PairsOfCrLfBecomeParagraphsInTheCallersHands) {
 }
 
 TEST_F(WriteColoredTextTest, ALoneLfVanishesWhereRawLineEndsAreSkippedAndStaysWhereTheyAreKept) {
-    state.RtfFlushNow = true;
+    state.LetThrough();
     const std::pair<RawLineEnds, const char*> rows[] = {{RawLineEnds::Skip, "ab\r\nc"},
                                                         {RawLineEnds::Keep, "a\nb\r\nc"}};
     for (const auto& [mode, expected] : rows) {
@@ -107,12 +108,12 @@ TEST_F(WriteColoredTextTest, ResetEmptiesTheBufferAndWritesNothing) {
     frame.SetText(QStringLiteral("abc"));
     frame.Box().SetSelStart(0);
     frame.Box().SetSelLength(2);
-    state.RtfBuffer = QStringLiteral("rest");
-    state.RtfFlushNow = true;
+    state.Add(u"rest", {});
+    state.LetThrough();
     QString text = QStringLiteral("x\r\n");
     WriteColoredText(frame, text, QStringLiteral("\\cf2 "), true);
     EXPECT_EQ(text, QStringLiteral("x\r\n"));
-    EXPECT_TRUE(state.RtfBuffer.isEmpty());
+    EXPECT_TRUE(state.RtfBuffer().isEmpty());
     EXPECT_EQ(frame.Box().Text(), QStringLiteral("abc"));
     EXPECT_TRUE(frame.Box().streams.isEmpty());
 }
@@ -122,11 +123,11 @@ TEST_F(WriteColoredTextTest, ResetWithColoringOffDeletesTheSelection) {
     frame.SetText(QStringLiteral("abc"));
     frame.Box().SetSelStart(0);
     frame.Box().SetSelLength(2);
-    state.RtfBuffer = QStringLiteral("rest");
+    state.Add(u"rest", {});
     QString text;
     WriteColoredText(frame, text, QString(), true);
     EXPECT_EQ(frame.Box().Text(), QStringLiteral("c"));
-    EXPECT_EQ(state.RtfBuffer, QStringLiteral("rest"));
+    EXPECT_EQ(state.RtfBuffer(), QStringLiteral("rest"));
 }
 
 TEST_F(WriteColoredTextTest, OffWritesTheTextPlainAndUnchanged) {
@@ -139,7 +140,7 @@ TEST_F(WriteColoredTextTest, OffWritesTheTextPlainAndUnchanged) {
 }
 
 TEST_F(WriteColoredTextTest, AnyNumberButZeroColors) {
-    state.RtfFlushNow = true;
+    state.LetThrough();
     const std::pair<const char*, bool> rows[] = {{"2", true},  {"1", true},  {"-1", true},
                                                  {"0", false}, {"x", false}, {"", false}};
     for (const auto& [stored, colored] : rows) {
@@ -152,7 +153,7 @@ TEST_F(WriteColoredTextTest, AnyNumberButZeroColors) {
 
 TEST_F(WriteColoredTextTest, WhatIsTypedNextHasTheTextColor) {
     frame.Store().Write(Keys::TextColor[0], QStringLiteral("12345"));
-    state.RtfFlushNow = true;
+    state.LetThrough();
     Write(QStringLiteral("<B>"), "\\cf2 ");
     EXPECT_EQ(frame.Box().SelColor(), 12345);
     EXPECT_EQ(frame.Box().ColorAt(0), 16711680);
@@ -161,7 +162,7 @@ TEST_F(WriteColoredTextTest, WhatIsTypedNextHasTheTextColor) {
 }
 
 TEST_F(WriteColoredTextTest, WithoutAUsableTextColorWhatIsTypedNextIsBlack) {
-    state.RtfFlushNow = true;
+    state.LetThrough();
     Write(QStringLiteral("<B>"), "\\cf2 ");
     EXPECT_EQ(frame.Box().SelColor(), 0) << "never stored";
     frame.Store().Write(Keys::TextColor[0], QStringLiteral("no number"));
@@ -170,16 +171,16 @@ TEST_F(WriteColoredTextTest, WithoutAUsableTextColorWhatIsTypedNextIsBlack) {
 }
 
 TEST_F(WriteColoredTextTest, TheTableIsReadAtEachWriteAndTextAlreadyThereKeepsItsColor) {
-    state.RtfFlushNow = true;
+    state.LetThrough();
     Write(QStringLiteral("<B>"), "\\cf2 ");
-    state.ColorTable[1] = QStringLiteral("\\red1\\green2\\blue3");
+    frame.State<EditorOptions>().ColorTable[1] = QStringLiteral("\\red1\\green2\\blue3");
     Write(QStringLiteral("<I>"), "\\cf2 ");
     EXPECT_EQ(frame.Box().ColorAt(0), 16711680);
     EXPECT_EQ(frame.Box().ColorAt(3), 1 + 2 * 256 + 3 * 65536);
 }
 
 TEST_F(WriteColoredTextTest, CharactersAbove127StandAsTheyAre) {
-    state.RtfFlushNow = true;
+    state.LetThrough();
     Write(QStringLiteral("\u00e4\u20ac\u2019"), "\\cf1 ");
     EXPECT_EQ(frame.Box().streams.last(), header + QStringLiteral("\\cf1 \u00e4\u20ac\u2019}"));
     EXPECT_EQ(frame.Box().Text(), QStringLiteral("\u00e4\u20ac\u2019"));
@@ -187,10 +188,10 @@ TEST_F(WriteColoredTextTest, CharactersAbove127StandAsTheyAre) {
 
 TEST_F(WriteColoredTextTest, WithoutADocumentNothingHappens) {
     frame.CloseDocument();
-    state.RtfFlushNow = true;
+    state.LetThrough();
     QString text = QStringLiteral("a\r\n");
     WriteColoredText(frame, text, QStringLiteral("\\cf1 "), false);
-    EXPECT_TRUE(state.RtfBuffer.isEmpty());
+    EXPECT_TRUE(state.RtfBuffer().isEmpty());
     EXPECT_TRUE(frame.prompts.asked.isEmpty());
 }
 
@@ -198,7 +199,7 @@ TEST_F(WriteColoredTextTest, NothingIsPaintedWhileItIsWritten) {
     QList<bool> painting;
     QObject::connect(frame.active->input, &RichTextBox::Change, frame.active,
                      [&] { painting << frame.Box().updatesEnabled(); });
-    state.RtfFlushNow = true;
+    state.LetThrough();
     Write(QStringLiteral("a"), "\\cf1 ");
     EXPECT_EQ(painting, QList<bool>{false});
     EXPECT_TRUE(frame.Box().updatesEnabled());
@@ -208,7 +209,7 @@ TEST_F(WriteColoredTextTest, NothingIsPaintedWhileItIsWritten) {
 TEST_F(WriteColoredTextTest, TheControlHasTheFocusAfterAFlush) {
     frame.Box().clearFocus();
     ASSERT_NE(frame.Window()->focusWidget(), &frame.Box());
-    state.RtfFlushNow = true;
+    state.LetThrough();
     Write(QStringLiteral("a"), "\\cf1 ");
     EXPECT_EQ(frame.Window()->focusWidget(), &frame.Box());
 }

@@ -28,10 +28,10 @@ class ListTest : public testing::Test {
 
 TEST_F(ListTest, DownGivesItTheFocus) {
     Enter("<img ");
-    EXPECT_EQ(frame.Flags().ListReturnCaret, 5);
+    EXPECT_EQ(frame.Flags().ListReturnCaret(), 5);
     frame.Key(Qt::Key_Down);
     EXPECT_EQ(frame.SelectedRow(), QStringLiteral("WIDTH"));
-    EXPECT_EQ(frame.Flags().ListReturnCaret, 5);
+    EXPECT_EQ(frame.Flags().ListReturnCaret(), 5);
 }
 
 TEST_F(ListTest, UpGivesItTheFocusToo) {
@@ -47,7 +47,7 @@ TEST_F(ListTest, UpGivesItTheFocusToo) {
     frame.Type("id");
     frame.Key(Qt::Key_Up);
     ASSERT_EQ(QApplication::focusWidget(), frame.ListView1());
-    EXPECT_EQ(frame.Flags().ListReturnCaret, 0);
+    EXPECT_EQ(frame.Flags().ListReturnCaret(), 0);
     EXPECT_EQ(frame.Marked(), QStringLiteral("<img id|"));
     const QRect row = frame.ListView1()->visualItemRect(frame.ListView1()->currentItem());
     EXPECT_TRUE(frame.ListView1()->viewport()->rect().contains(row));
@@ -60,7 +60,7 @@ TEST_F(ListTest, EnterTakesTheRow) {
     EXPECT_EQ(frame.Marked(), QStringLiteral("<img WIDTH=\"|\""));
     EXPECT_EQ(QApplication::focusWidget(), &frame.Box());
     EXPECT_EQ(frame.List(), nullptr);
-    EXPECT_FALSE(frame.Flags().DropDownOpen);
+    EXPECT_FALSE(frame.Flags().DropDownOpen());
 }
 
 TEST_F(ListTest, EnterReplacesTheTypedWord) {
@@ -103,12 +103,12 @@ TEST_F(ListTest, APickOfAnAttributeIsStillPendingInTheNextList) {
     frame.Key(Qt::Key_Down);
     frame.Type("\r");
     EXPECT_EQ(frame.Marked(), QStringLiteral("<img ALIGN=\"|\""));
-    EXPECT_TRUE(frame.Flags().ListPickPending);
+    EXPECT_TRUE(frame.Flags().ListPickPending());
     frame.Pause();
     // The first change that finds a row clears it, and leaves the selection.
     frame.Type("r");
     EXPECT_EQ(frame.SelectedRow(), QStringLiteral("ABSBOTTOM"));
-    EXPECT_FALSE(frame.Flags().ListPickPending);
+    EXPECT_FALSE(frame.Flags().ListPickPending());
     frame.Type("i");
     EXPECT_EQ(frame.SelectedRow(), QStringLiteral("RIGHT"));
 }
@@ -118,10 +118,10 @@ TEST_F(ListTest, APickOfAValueFindsItsRow) {
     frame.Pause();
     frame.Key(Qt::Key_Down);
     frame.Key(Qt::Key_Down);
-    EXPECT_FALSE(frame.Flags().ListPickPending);
+    EXPECT_FALSE(frame.Flags().ListPickPending());
     frame.Type("\r");
     EXPECT_EQ(frame.Marked(), QStringLiteral("<img ALIGN=\"ABSMIDDLE|\""));
-    EXPECT_FALSE(frame.Flags().ListPickPending);
+    EXPECT_FALSE(frame.Flags().ListPickPending());
 }
 
 TEST_F(ListTest, BackspaceGoesBackToTheText) {
@@ -130,7 +130,7 @@ TEST_F(ListTest, BackspaceGoesBackToTheText) {
     frame.Type("\b");
     EXPECT_EQ(frame.List(), nullptr);
     EXPECT_EQ(frame.Marked(), QStringLiteral("<img |"));
-    EXPECT_FALSE(frame.Flags().DropDownOpen);
+    EXPECT_FALSE(frame.Flags().DropDownOpen());
     EXPECT_EQ(QApplication::focusWidget(), &frame.Box());
 }
 
@@ -138,14 +138,14 @@ TEST_F(ListTest, BlankAndEscUnload) {
     Enter("<img ");
     frame.Type(" ");
     EXPECT_EQ(frame.List(), nullptr);
-    EXPECT_FALSE(frame.Flags().DropDownOpen);
+    EXPECT_FALSE(frame.Flags().DropDownOpen());
     EXPECT_EQ(frame.Box().Text(), QStringLiteral("<img "));
     EXPECT_EQ(QApplication::focusWidget(), &frame.Box());
     frame.Key(Qt::Key_End, Qt::ControlModifier);
     Enter(" ");
     frame.Key(Qt::Key_Escape);
     EXPECT_EQ(frame.List(), nullptr);
-    EXPECT_FALSE(frame.Flags().DropDownOpen);
+    EXPECT_FALSE(frame.Flags().DropDownOpen());
     EXPECT_EQ(QApplication::focusWidget(), &frame.Box());
 }
 
@@ -221,9 +221,9 @@ TEST_F(ListTest, MarksAreDrawnInTheTextsColour) {
 
 TEST_F(ListTest, UnloadingByNameClearsTheFlag) {
     frame.Type("<img ");
-    EXPECT_TRUE(frame.Flags().DropDownOpen);
+    EXPECT_TRUE(frame.Flags().DropDownOpen());
     frame.LoadedForms().Unload<frmDropDown>();
-    EXPECT_FALSE(frame.Flags().DropDownOpen);
+    EXPECT_FALSE(frame.Flags().DropDownOpen());
     EXPECT_EQ(frame.List(), nullptr);
 }
 

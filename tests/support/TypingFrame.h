@@ -1,8 +1,11 @@
 // A test frame whose document has a typing engine, and a person at its keyboard.
 #pragma once
 
-#include "editor/EditorState.h"
+#include "editor/AutoFillList.h"
+#include "editor/ColorStream.h"
+#include "editor/EditorOptions.h"
 #include "editor/TypingEngine.h"
+#include "editor/UserButtonTexts.h"
 #include "support/TestFrame.h"
 
 #include <Qt>
@@ -24,7 +27,9 @@ class TypingFrame : public TestFrame {
     void Pause();
     bool PausePending() const { return active->Timer1.isActive(); }
 
-    EditorState& Flags() { return State<EditorState>(); }
+    AutoFillList& Flags() { return State<AutoFillList>(); }
+    ColorStream& Stream() { return State<ColorStream>(); }
+    UserButtonTexts& Buttons() { return State<UserButtonTexts>(); }
     AutoFill& Lists() { return engine->Lists(); }
     /// The auto-fill list, loaded or null.
     frmDropDown* List();

@@ -1,0 +1,15 @@
+#include "editor/UserButtonKeys.h"
+
+#include "editor/Frame.h"
+#include "editor/InsertTag.h"
+#include "editor/KeyCodes.h"
+#include "editor/UserButtonTexts.h"
+
+void UserButtonKeys::KeyDown(int KeyCode, int Shift) {
+    if (Shift != CtrlAlone || KeyCode < KeyCodeOf::Digit0 || KeyCode > KeyCodeOf::Digit9)
+        return;
+    const int digit = KeyCode - KeyCodeOf::Digit0;
+    const auto button = static_cast<size_t>(digit == 0 ? 9 : digit - 1);
+    const auto& texts = frame_.State<UserButtonTexts>();
+    InsertTag(frame_, texts.FirstBut[button], texts.SecondBut[button], KeepCase::No);
+}
