@@ -67,10 +67,9 @@ frmTemplate::frmTemplate(Frame& frame)
 frmTemplate::~frmTemplate() = default;
 
 void frmTemplate::Form_Load() {
-    QString nothing;
     // Through its own control: with colouring off the call empties a selection, and the active one is still
     // another document's.
-    WriteColoredText(frame_, *this, nothing, {}, true);
+    ResetColoredText(frame_, *this);
     ReadSettings();
     ++frame_.State<ProgramState>().DocumentCount;
     ShowInItsState();

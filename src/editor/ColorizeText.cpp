@@ -80,6 +80,38 @@ bool GatherTags(Pieces& pieces, const QString& text, KeepDocument keepDocument, 
     }
 }
 
+/// A pass that is to empty the document first ends there; any other goes on to its end and writes nothing.
+ColorizedText PassWithoutDocument(ColorStream& stream, QString text, KeepDocument keepDocument) {
+    if (keepDocument == KeepDocument::Yes)
+        stream.LetThrough();
+    if (!text.contains(u'<'))
+        keepDocument = KeepDocument::No;
+    return {std::move(text), keepDocument};
+}
+
+/// Writes the text in one step. Returns false where the text holds no "<" at all and the caller kept the
+/// document: text is then as it went out.
+bool WritePass(Frame& frame, Document& document, QString& text, KeepDocument keepDocument) {
+    auto& stream = frame.State<ColorStream>();
+    // Nothing else runs during a pass, so one look at the setting answers for every piece of it.
+    Pieces pieces(stream, WritesColored(frame.Store()));
+    pieces.Reserve(text.size() + text.size() / 4);
+    qsizetype last = 0;
+    const bool tagged = GatherTags(pieces, text, keepDocument, last);
+    stream.LetThrough();
+    if (!tagged) {
+        text = WriteColoredText(frame, &document, std::move(text), textWord);
+        return false;
+    }
+    // The colour word travels inside the last piece. An unclosed "<" left last at 0: then that is the whole
+    // text.
+    QString tail = pieces.Plain();
+    tail += textWord;
+    tail += QStringView(text).mid(last);
+    WriteColoredText(frame, &document, std::move(tail), {});
+    return true;
+}
+
 } // namespace
 
 ColorizedText ColorizeText(Frame& frame, QString text, KeepDocument keepDocument, CaretToTop caretToTop) {
@@ -89,38 +121,16 @@ ColorizedText ColorizeText(Frame& frame, QString text, KeepDocument keepDocument
     auto& stream = frame.State<ColorStream>();
     stream.Hold();
     Document* document = frame.ActiveForm();
-    if (!document) {
-        // A pass that is to empty the document first ends there; any other goes on to its end and writes
-        // nothing.
-        if (keepDocument == KeepDocument::Yes)
-            stream.LetThrough();
-        if (!text.contains(u'<'))
-            keepDocument = KeepDocument::No;
-        return {std::move(text), keepDocument};
-    }
+    if (!document)
+        return PassWithoutDocument(stream, std::move(text), keepDocument);
     RichTextBox& txtInput = document->txtInput();
     const RichTextBox::PaintHold hold(txtInput);
     const UndoAction step(txtInput);
     if (keepDocument == KeepDocument::No)
         txtInput.SetText(QString());
     const InputOff off(txtInput);
-    // Nothing else runs during a pass, so one look at the setting answers for every piece of it.
-    Pieces pieces(stream, WritesColored(frame.Store()));
-    pieces.Reserve(text.size() + text.size() / 4);
-
-    qsizetype last = 0;
-    const bool tagged = GatherTags(pieces, text, keepDocument, last);
-    stream.LetThrough();
-    if (!tagged) {
-        WriteColoredText(frame, text, textWord, false);
+    if (!WritePass(frame, *document, text, keepDocument))
         return {std::move(text), KeepDocument::No};
-    }
-    // The colour word travels inside the last piece. An unclosed "<" left last at 0: then that is the whole
-    // text.
-    QString tail = pieces.Plain();
-    tail += textWord;
-    tail += QStringView(text).mid(last);
-    WriteColoredText(frame, tail, {}, false);
     if (caretToTop == CaretToTop::Yes)
         txtInput.SetSelStart(0);
     return {std::move(text), keepDocument};

@@ -26,9 +26,9 @@ WrittenTag InsertTag(Frame& frame, QString open, QString close, KeepCase keepCas
     RichTextBox& txtInput = document->txtInput();
     const UndoAction step(txtInput);
     QString selected = txtInput.SelText();
-    WriteColoredText(frame, open, TagColorCode(open), false);
+    open = WriteColoredText(frame, document, open, TagColorCode(open));
     ColorizeText(frame, std::move(selected), KeepDocument::Yes, CaretToTop::No);
-    WriteColoredText(frame, close, TagColorCode(close), false);
+    close = WriteColoredText(frame, document, close, TagColorCode(close));
     // The length as it is now: with colouring on, each CR LF in close counts the five characters of "\par ".
     txtInput.SetSelStart(txtInput.SelStart() - static_cast<int>(close.size()));
     // The caret left the place for which the flush had set the colour of what comes next, and stands at a

@@ -25,13 +25,13 @@ bool TagCloser::CloseTag() {
         return false;
     const int open = around->start;
     // Not escaped: a backslash or a brace in a typed tag goes into the stream as it stands.
-    QString tag = text.TextRange(open, caret - open) + u'>';
+    const QString tag = text.TextRange(open, caret - open) + u'>';
     const QStringView color = TagColorCode(tag);
     const RichTextBox::PaintHold hold(text);
     text.SetSelStart(open);
     // A selection is replaced, as any typed character replaces it.
     text.SetSelLength(caret - open + selected);
     frame_.State<ColorStream>().LetThrough();
-    WriteColoredText(frame_, document_, tag, color, false);
+    WriteColoredText(frame_, &document_, tag, color);
     return true;
 }

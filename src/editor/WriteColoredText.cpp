@@ -118,26 +118,24 @@ void EscapeCloseBraces(QString& text) {
     Escape(text, u'}');
 }
 
-void WriteColoredText(Frame& frame, QString& text, QStringView colorWord, bool resetOnly) {
-    Document* document = frame.ActiveForm();
+QString WriteColoredText(Frame& frame, Document* document, QString text, QStringView colorWord) {
     if (!document)
-        return;
-    WriteColoredText(frame, *document, text, colorWord, resetOnly);
-}
-
-void WriteColoredText(Frame& frame, Document& document, QString& text, QStringView colorWord,
-                      bool resetOnly) {
+        return text;
     if (!WritesColored(frame.Store())) {
-        document.txtInput().SetSelText(text);
-        return;
+        document->txtInput().SetSelText(text);
+        return text;
     }
     auto& stream = frame.State<ColorStream>();
-    if (resetOnly) {
-        stream.Reset();
-        return;
-    }
     text = WithParagraphs(text);
     stream.Add(text, colorWord);
     if (stream.RtfFlushNow())
-        Flush(frame, stream, document.txtInput());
+        Flush(frame, stream, document->txtInput());
+    return text;
+}
+
+void ResetColoredText(Frame& frame, Document& document) {
+    if (WritesColored(frame.Store()))
+        frame.State<ColorStream>().Reset();
+    else
+        document.txtInput().SetSelText(QString());
 }

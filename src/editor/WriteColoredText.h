@@ -6,15 +6,14 @@
 class Document;
 class Frame;
 
-/// Gathers a piece in the buffer, or flushes the buffer into the active document's selection as one RTF
-/// document. With ColoredTags at 0 it assigns the text to SelText instead, and changes nothing of it. Else
-/// every CR LF in text has become "\par " after the call. resetOnly empties the buffer and writes nothing.
-/// Without an active document it does nothing.
-void WriteColoredText(Frame& frame, QString& text, QStringView colorWord, bool resetOnly);
+/// Gathers a piece, or sends all that is gathered into the document's selection as one RTF document. With
+/// ColoredTags at 0 it assigns the text to SelText instead. Returns the text as it went out: with "\par " for
+/// each CR LF where it was coloured. Without a document it does nothing.
+QString WriteColoredText(Frame& frame, Document* document, QString text, QStringView colorWord);
 
-/// The same on a given document: a window that is being loaded resets the buffer through its own control,
-/// before it is the active one.
-void WriteColoredText(Frame& frame, Document& document, QString& text, QStringView colorWord, bool resetOnly);
+/// Drops what is gathered, for a document that opens. With ColoredTags at 0 it deletes the document's
+/// selection instead.
+void ResetColoredText(Frame& frame, Document& document);
 
 /// The colour word, "\cf2 " to "\cf6 ", of a piece of tag text: by substring of the whole text, in a fixed
 /// order.

@@ -50,8 +50,8 @@ TEST(Escapes, EachTouchesItsOwnCharacterOnly) {
 
 class WriteColoredTextTest : public testing::Test {
   protected:
-    void Write(QString text, const char* word) {
-        WriteColoredText(frame, text, QString::fromLatin1(word), false);
+    void Write(const QString& text, const char* word) {
+        WriteColoredText(frame, frame.active, text, QString::fromLatin1(word));
     }
     TestFrame frame;
     ColorStream& state = frame.State<ColorStream>();
@@ -80,15 +80,14 @@ TEST_F(WriteColoredTextTest, AllDocumentsShareTheBufferAndTheFlag) {
     EXPECT_EQ(first.Text(), QString());
 }
 
-TEST_F(WriteColoredTextTest, PairsOfCrLfBecomeParagraphsInTheCallersHands) {
+TEST_F(WriteColoredTextTest, PairsOfCrLfComeBackAsParagraphs) {
     const std::pair<const char*, const char*> rows[] = {{"a\r\nb\rc\nd\r\n", "a\\par b\rc\nd\\par "},
                                                         {"\r\r\n\n\r", "\r\\par \n\r"},
                                                         {"\r\n\r\n", "\\par \\par "},
                                                         {"\n\r", "\n\r"}};
     for (const auto& [given, left] : rows) {
-        QString text = QString::fromLatin1(given);
-        WriteColoredText(frame, text, QStringLiteral("\\cf1 "), false);
-        EXPECT_EQ(text, QString::fromLatin1(left));
+        EXPECT_EQ(WriteColoredText(frame, frame.active, QString::fromLatin1(given), u"\\cf1 "),
+                  QString::fromLatin1(left));
     }
 }
 
@@ -110,9 +109,7 @@ TEST_F(WriteColoredTextTest, ResetEmptiesTheBufferAndWritesNothing) {
     frame.Box().SetSelLength(2);
     state.Add(u"rest", {});
     state.LetThrough();
-    QString text = QStringLiteral("x\r\n");
-    WriteColoredText(frame, text, QStringLiteral("\\cf2 "), true);
-    EXPECT_EQ(text, QStringLiteral("x\r\n"));
+    ResetColoredText(frame, *frame.active);
     EXPECT_TRUE(state.RtfBuffer().isEmpty());
     EXPECT_EQ(frame.Box().Text(), QStringLiteral("abc"));
     EXPECT_TRUE(frame.Box().streams.isEmpty());
@@ -124,17 +121,15 @@ TEST_F(WriteColoredTextTest, ResetWithColoringOffDeletesTheSelection) {
     frame.Box().SetSelStart(0);
     frame.Box().SetSelLength(2);
     state.Add(u"rest", {});
-    QString text;
-    WriteColoredText(frame, text, QString(), true);
+    ResetColoredText(frame, *frame.active);
     EXPECT_EQ(frame.Box().Text(), QStringLiteral("c"));
     EXPECT_EQ(state.RtfBuffer(), QStringLiteral("rest"));
 }
 
 TEST_F(WriteColoredTextTest, OffWritesTheTextPlainAndUnchanged) {
     frame.Store().Write(Keys::ColoredTags, QStringLiteral("0"));
-    QString text = QStringLiteral("a\r\n{b}");
-    WriteColoredText(frame, text, QStringLiteral("\\cf4 "), false);
-    EXPECT_EQ(text, QStringLiteral("a\r\n{b}"));
+    EXPECT_EQ(WriteColoredText(frame, frame.active, QStringLiteral("a\r\n{b}"), u"\\cf4 "),
+              QStringLiteral("a\r\n{b}"));
     EXPECT_EQ(frame.Box().Text(), QStringLiteral("a\r\n{b}"));
     EXPECT_TRUE(frame.Box().streams.isEmpty());
 }
@@ -189,8 +184,8 @@ TEST_F(WriteColoredTextTest, CharactersAbove127StandAsTheyAre) {
 TEST_F(WriteColoredTextTest, WithoutADocumentNothingHappens) {
     frame.CloseDocument();
     state.LetThrough();
-    QString text = QStringLiteral("a\r\n");
-    WriteColoredText(frame, text, QStringLiteral("\\cf1 "), false);
+    EXPECT_EQ(WriteColoredText(frame, frame.ActiveForm(), QStringLiteral("a\r\n"), u"\\cf1 "),
+              QStringLiteral("a\r\n"));
     EXPECT_TRUE(state.RtfBuffer().isEmpty());
     EXPECT_TRUE(frame.prompts.asked.isEmpty());
 }
