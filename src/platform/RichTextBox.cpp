@@ -59,7 +59,7 @@ void RichTextBox::SetUp() {
     // A pressed button holds the mouse by itself; to grab it besides is refused by some desktops.
     Sci(SCI_SETMOUSEDOWNCAPTURES, 0);
     Sci(SCI_SETMARGINS, 0);
-    Sci(SCI_SETWRAPMODE, SC_WRAP_WORD);
+    Sci(SCI_SETWRAPMODE, SC_WRAP_WHITESPACE);
     Sci(SCI_SETSCROLLWIDTHTRACKING, 1);
     Sci(SCI_SETENDATLASTLINE, 1);
     Sci(SCI_SETTABWIDTH, 8);
@@ -215,7 +215,7 @@ int RichTextBox::RightMargin() const {
 
 void RichTextBox::SetRightMargin(int twips) {
     rightMargin_ = twips;
-    Sci(SCI_SETWRAPMODE, twips == 0 ? SC_WRAP_WORD : SC_WRAP_NONE);
+    Sci(SCI_SETWRAPMODE, twips == 0 ? SC_WRAP_WHITESPACE : SC_WRAP_NONE);
 }
 
 ColorNumber RichTextBox::BackColor() const {

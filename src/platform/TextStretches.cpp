@@ -14,22 +14,24 @@ bool MayCut(char left, char right) {
     return ((left | right) & firstBeyondAscii) == 0;
 }
 
-bool IsWordStart(char left, char right) {
-    return IsBlank(left) && !IsBlank(right) && MayCut(left, right);
+/// Behind these a piece of a tag ends that others share.
+bool IsMark(char byte) {
+    return byte == '"' || byte == '=' || byte == '/' || byte == '>';
 }
 
-/// Where in text the stretch ends that starts at `from` and may grow by `room` bytes.
-qsizetype StretchEnd(QByteArrayView text, qsizetype from, qsizetype room) {
-    qsizetype slash = 0;
+/// Whether a stretch of a length ends between two bytes.
+bool EndsBetween(char left, char right, qsizetype length) {
+    if (!MayCut(left, right))
+        return false;
+    return (IsBlank(left) && !IsBlank(right)) || (IsMark(left) && length >= StretchCutter::shortest) ||
+           length >= StretchCutter::longest;
+}
+
+/// Where in text the stretch ends that starts at `from` and is `length` bytes long before it.
+qsizetype StretchEnd(QByteArrayView text, qsizetype from, qsizetype length) {
     for (qsizetype at = from + 1; at < text.size(); ++at) {
-        const char left = text[at - 1];
-        const char right = text[at];
-        if (IsWordStart(left, right))
+        if (EndsBetween(text[at - 1], text[at], length + at - from))
             return at;
-        if (at - from >= room && MayCut(left, right))
-            return slash > 0 ? slash : at;
-        if (left == '/' && at - from >= StretchCutter::longest / 3 && MayCut(left, right))
-            slash = at;
     }
     return text.size();
 }
@@ -57,22 +59,18 @@ StretchCutter::StretchCutter(const CellText& before) {
         ++length_;
 }
 
-bool StretchCutter::EndsBefore(char next) const {
-    return IsWordStart(last_, next) || (length_ >= longest && MayCut(last_, next));
-}
-
 void StretchCutter::Append(QByteArrayView text, int style, QByteArray& cells) {
     if (text.isEmpty())
         return;
     if (length_ == 0 || StyleCells::StyleOf(cell_) != style) {
         cell_ = StyleCells::First(style);
         length_ = 0;
-    } else if (EndsBefore(text.front())) {
+    } else if (EndsBetween(last_, text.front(), length_)) {
         cell_ = StyleCells::Twin(cell_);
         length_ = 0;
     }
     for (qsizetype from = 0; from < text.size();) {
-        const qsizetype end = StretchEnd(text, from, longest - length_);
+        const qsizetype end = StretchEnd(text, from, length_);
         cells.append(end - from, cell_);
         length_ = static_cast<int>(std::min<qsizetype>(length_ + end - from, longest + 1));
         from = end;

@@ -29,14 +29,17 @@ struct CellText {
     QByteArray cells;
 };
 
-/// Hands out the cells of a text from left to right. A stretch ends behind blanks, where a line may be
-/// wrapped anyway: the control takes each change of cells for a place to wrap. A word is cut only if it is
-/// longer than a stretch may be, behind a slash if it has one. Only between two ASCII characters is there a
-/// cut: letters that join, combining marks and words from right to left stay whole.
+/// Hands out the cells of a text from left to right. A stretch ends behind blanks, behind a quote, "=", "/"
+/// or ">", and at the latest where it is long enough: what pages repeat is then measured once. Only between
+/// two ASCII characters is there a cut: letters that join, combining marks and words from right to left stay
+/// whole. Cuts inside words ask of the control that it wraps lines at blanks alone; in its other mode it
+/// takes each change of cells for a place to wrap.
 class StretchCutter {
   public:
-    /// In bytes; the control remembers measures of up to 29.
-    static constexpr int longest = 24;
+    /// In bytes. The longest is what costs least in pages of tables and of prose; the control remembers up
+    /// to 29.
+    static constexpr int longest = 8;
+    static constexpr int shortest = 2;
 
     /// The text goes on behind this one, of which no more than the last longest + 1 bytes are looked at.
     explicit StretchCutter(const CellText& before = {});
@@ -44,8 +47,6 @@ class StretchCutter {
     void Append(QByteArrayView text, int style, QByteArray& cells);
 
   private:
-    bool EndsBefore(char next) const;
-
     char cell_ = 0;
     char last_ = '\0'; ///< the byte that the stretch ends with so far
     int length_ = 0;   ///< of the stretch so far; 0 if nothing stands in front
