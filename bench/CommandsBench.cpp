@@ -1,7 +1,7 @@
 // What a command costs on a selection by its length: each goes over the text as a whole, never once for each
 // line or tag of it.
-#include "app/ToolbarCommands.h"
-#include "builders/MenuTagCommands.h"
+#include "app/surface/ToolbarCommands.h"
+#include "builders/commands/MenuTagCommands.h"
 #include "support/CommandTest.h"
 
 #include <benchmark/benchmark.h>

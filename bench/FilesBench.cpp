@@ -1,8 +1,8 @@
 // What opening, colouring and saving cost by the size of the page, and how much memory opening takes at its
 // peak. Ends with 1 where the cost of a byte grows with the page, or the memory is more than 16 bytes a byte.
-#include "app/FileCommands.h"
-#include "app/OpenDocument.h"
-#include "editor/ColorizeText.h"
+#include "app/documents/FileCommands.h"
+#include "app/documents/OpenDocument.h"
+#include "editor/color/ColorizeText.h"
 #include "RunBenchmarks.h"
 #include "support/FreshUser.h"
 #include "support/TestFrame.h"

@@ -1,6 +1,6 @@
 // What turning a picked file into a link target costs by the length of its path: it must be linear.
 #include "dialogs/Paths.h"
-#include "editor/TagEnds.h"
+#include "editor/color/TagEnds.h"
 
 #include <benchmark/benchmark.h>
 

@@ -1,7 +1,7 @@
 // What the text control costs by the length of its text, with lines wrapped and until it is idle: a key, a
 // search or a page the same in every text, a whole assignment and its undo linear, a key linear in the length
 // of its line.
-#include "platform/RichTextBox.h"
+#include "platform/text/RichTextBox.h"
 #include "UntilIdle.h"
 
 #include <benchmark/benchmark.h>

@@ -1,5 +1,5 @@
 // Reading RTF: linear in the text, plain or full of colour words. A byte costs the same in every text.
-#include "platform/RtfReader.h"
+#include "platform/text/RtfReader.h"
 
 #include <benchmark/benchmark.h>
 

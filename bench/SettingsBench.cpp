@@ -1,6 +1,6 @@
 // What reading a setting costs: some are read at every key press. Ends with 1 where a read gets dearer with
 // the number of keys, or with the length of another value, by more than the search for a name explains.
-#include "platform/Settings.h"
+#include "platform/store/Settings.h"
 #include "support/FreshUser.h"
 
 #include <algorithm>

@@ -1,9 +1,9 @@
 // The colouring pass on any text: what stands in the control is what the scan promises, and every character
 // has a colour.
-#include "editor/ColorizeText.h"
+#include "editor/color/ColorizeText.h"
 #include "FuzzApplication.h"
 
-#include "platform/Cp1252.h"
+#include "platform/values/Cp1252.h"
 #include "support/TestFrame.h"
 
 #include <cstdlib>

@@ -1,7 +1,7 @@
 // Random document and target paths, in both forms, over a file system that knows some names and not others.
 #include "dialogs/Paths.h"
-#include "platform/Cp1252.h"
-#include "platform/Path.h"
+#include "platform/values/Cp1252.h"
+#include "platform/values/Path.h"
 
 #include <cstddef>
 #include <cstdint>

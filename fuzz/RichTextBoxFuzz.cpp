@@ -1,8 +1,8 @@
 // Edits of every kind in any order: the control agrees with a plain string about its text, undo leads back to
 // the start and redo to the end, with the same colours.
 #include "FuzzApplication.h"
-#include "platform/RichTextBox.h"
-#include "platform/RtfReader.h"
+#include "platform/text/RichTextBox.h"
+#include "platform/text/RtfReader.h"
 
 #include <algorithm>
 #include <cstddef>

@@ -1,8 +1,8 @@
 // Reads any text as RTF, in both modes: the runs cover the text, and no character comes from outside the code
 // page.
-#include "platform/RtfReader.h"
+#include "platform/text/RtfReader.h"
 
-#include "platform/Cp1252.h"
+#include "platform/values/Cp1252.h"
 
 #include <cstddef>
 #include <cstdint>

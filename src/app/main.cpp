@@ -1,13 +1,13 @@
 // The program: one frame, one copy for each user, one event loop.
-#include "app/DisplayGuard.h"
-#include "app/frmTarnwick.h"
-#include "app/RunProgram.h"
-#include "app/SingleInstance.h"
-#include "app/TerminalAnswer.h"
-#include "app/WindowButtonStyle.h"
-#include "platform/CommandLine.h"
-#include "platform/DesktopPrompts.h"
-#include "platform/Settings.h"
+#include "app/run/DisplayGuard.h"
+#include "app/window/frmTarnwick.h"
+#include "app/run/RunProgram.h"
+#include "app/run/SingleInstance.h"
+#include "app/run/TerminalAnswer.h"
+#include "app/window/WindowButtonStyle.h"
+#include "platform/desktop/CommandLine.h"
+#include "platform/desktop/DesktopPrompts.h"
+#include "platform/store/Settings.h"
 
 #include <cstdio>
 #include <optional>

@@ -1,7 +1,7 @@
 // A start tag from a table: the opening word and one row an attribute.
 #pragma once
 
-#include "editor/BuildAttribute.h"
+#include "editor/color/BuildAttribute.h"
 
 #include <QVector>
 

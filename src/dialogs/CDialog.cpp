@@ -2,8 +2,8 @@
 #include "dialogs/CDialog.h"
 
 #include "dialogs/DialogState.h"
-#include "editor/Frame.h"
-#include "platform/Prompts.h"
+#include "editor/frame/Frame.h"
+#include "platform/desktop/Prompts.h"
 
 #include <algorithm>
 #include <numeric>

@@ -2,7 +2,7 @@
 // control.
 #pragma once
 
-#include "platform/FileRequest.h"
+#include "platform/desktop/FileRequest.h"
 
 #include <QString>
 #include <QStringList>

@@ -1,7 +1,7 @@
 // A label that shows a colour and can be clicked, by mouse and by keyboard.
 #include "dialogs/ColorSample.h"
 
-#include "platform/ColorNumber.h"
+#include "platform/text/ColorNumber.h"
 
 #include <QKeyEvent>
 #include <QLayout>

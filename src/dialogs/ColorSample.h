@@ -2,7 +2,7 @@
 #pragma once
 
 #include "dialogs/ClickLabel.h"
-#include "platform/ColorNumber.h"
+#include "platform/text/ColorNumber.h"
 
 /// ForeNumber is the colour of its text, BackNumber that of the ground, which is the parent's until it is
 /// set. Space and Enter do what the mouse does: they emit Click and DblClick alike.

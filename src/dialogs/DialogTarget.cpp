@@ -2,9 +2,9 @@
 #include "dialogs/CDialog.h"
 
 #include "dialogs/PictureFile.h"
-#include "platform/Cp1252.h"
-#include "platform/RichTextBox.h"
-#include "platform/WholeFile.h"
+#include "platform/values/Cp1252.h"
+#include "platform/text/RichTextBox.h"
+#include "platform/store/WholeFile.h"
 
 #include <QBuffer>
 #include <QComboBox>

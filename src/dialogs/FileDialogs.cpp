@@ -3,9 +3,9 @@
 
 #include "dialogs/DialogState.h"
 #include "dialogs/frmImage.h"
-#include "editor/Forms.h"
-#include "editor/Frame.h"
-#include "platform/Prompts.h"
+#include "editor/frame/Forms.h"
+#include "editor/frame/Frame.h"
+#include "platform/desktop/Prompts.h"
 
 std::optional<QString> PickFile(Frame& frame, QWidget* owner, FileRequest request) {
     request.folder = frame.State<DialogState>().LastDir;

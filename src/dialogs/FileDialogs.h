@@ -1,7 +1,7 @@
 // Picking a file in a tag dialog: the filters, the file dialog, the picture browse.
 #pragma once
 
-#include "platform/FileRequest.h"
+#include "platform/desktop/FileRequest.h"
 
 #include <optional>
 #include <QSize>

@@ -1,7 +1,7 @@
 // What the controls of all tag dialogs have in common.
 #include "dialogs/FormFields.h"
 
-#include "platform/Cp1252.h"
+#include "platform/values/Cp1252.h"
 
 #include <algorithm>
 #include <QAbstractButton>

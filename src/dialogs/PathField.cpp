@@ -2,9 +2,9 @@
 #include "dialogs/PathField.h"
 
 #include "dialogs/Paths.h"
-#include "editor/Document.h"
-#include "editor/Frame.h"
-#include "platform/Prompts.h"
+#include "editor/frame/Document.h"
+#include "editor/frame/Frame.h"
+#include "platform/desktop/Prompts.h"
 
 #include <QCheckBox>
 #include <QLineEdit>

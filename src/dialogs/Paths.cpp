@@ -1,7 +1,7 @@
 // From a picked file to a link target: exact case, paths relative to the document, slashes.
 #include "dialogs/Paths.h"
 
-#include "platform/Path.h"
+#include "platform/values/Path.h"
 
 #include <algorithm>
 #include <QDir>

@@ -1,7 +1,7 @@
 // Pictures read from files that the user names.
 #include "dialogs/PictureFile.h"
 
-#include "platform/WholeFile.h"
+#include "platform/store/WholeFile.h"
 
 #include <QImageReader>
 #include <QPixmap>

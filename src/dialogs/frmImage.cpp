@@ -3,8 +3,8 @@
 
 #include "dialogs/ImagePreview.h"
 #include "dialogs/PictureFile.h"
-#include "editor/Forms.h"
-#include "editor/Frame.h"
+#include "editor/frame/Forms.h"
+#include "editor/frame/Frame.h"
 #include "ui_frmImage.h"
 
 #include <QPixmap>

@@ -1,7 +1,7 @@
 // The browser control: shows a page's file and follows its links.
 #pragma once
 
-#include "editor/WebControls.h"
+#include "editor/views/WebControls.h"
 #include "web/WebPane.h"
 
 #include <functional>

@@ -1,7 +1,7 @@
 // The design control: edits a page as it looks, and writes it back to its file.
 #include "web/DesignPane.h"
 
-#include "platform/WholeFile.h"
+#include "platform/store/WholeFile.h"
 #include "web/DesignPage.h"
 
 #include <QEventLoop>

@@ -1,7 +1,7 @@
 // The design control: edits a page as it looks, and writes it back to its file.
 #pragma once
 
-#include "editor/WebControls.h"
+#include "editor/views/WebControls.h"
 #include "web/PageSource.h"
 #include "web/WebPane.h"
 

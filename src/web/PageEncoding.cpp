@@ -1,7 +1,7 @@
 // The encoding of a page's file: found, decoded, and encoded back with nothing lost.
 #include "web/PageEncoding.h"
 
-#include "platform/Cp1252.h"
+#include "platform/values/Cp1252.h"
 
 #include <QHash>
 #include <QRegularExpression>

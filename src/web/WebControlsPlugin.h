@@ -1,7 +1,7 @@
 // The plugin's entry point.
 #pragma once
 
-#include "editor/WebControls.h"
+#include "editor/views/WebControls.h"
 
 #include <QObject>
 

@@ -1,8 +1,8 @@
 // One act of the user on a document of the real frame, and what undo and redo make of it.
 #include "app/Acts.h"
 
-#include "editor/Commands.h"
-#include "editor/Forms.h"
+#include "editor/frame/Commands.h"
+#include "editor/frame/Forms.h"
 
 Written::Written(const RichTextBox& box) : text(box.Text()) {
     for (int i = 0; i < text.size(); ++i)

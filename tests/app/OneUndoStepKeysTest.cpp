@@ -1,7 +1,7 @@
 // One act of the user is one undo step: what keys, lists, the clipboard and the mouse write.
 #include "app/Acts.h"
 
-#include "editor/Forms.h"
+#include "editor/frame/Forms.h"
 
 #include <QClipboard>
 #include <QDropEvent>

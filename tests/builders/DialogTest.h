@@ -1,7 +1,7 @@
 // Opens a tag dialog by its command and uses it as a person does: fields by name, buttons by mouse, keys.
 #pragma once
 
-#include "builders/BuilderForms.h"
+#include "builders/commands/BuilderForms.h"
 #include "support/TestFrame.h"
 
 #include <gtest/gtest.h>

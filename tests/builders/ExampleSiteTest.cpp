@@ -1,8 +1,8 @@
 // The pages of the example site, read by the program's own dialogs: each field shows what its tag says.
 #include "builders/DialogTest.h"
-#include "builders/EditTag.h"
+#include "builders/commands/EditTag.h"
 #include "dialogs/TagRows.h"
-#include "platform/Cp1252.h"
+#include "platform/values/Cp1252.h"
 #include "support/SourceFolder.h"
 
 #include <map>

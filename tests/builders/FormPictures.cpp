@@ -1,6 +1,6 @@
 // Pictures of every tag dialog for the eye: set TARNWICK_PICTURES to a folder and run FormPictures.*.
 #include "builders/DialogTest.h"
-#include "builders/frmBulletList.h"
+#include "builders/lists/frmBulletList.h"
 #include "support/Site.h"
 #include <QDir>
 #include <QStyleFactory>

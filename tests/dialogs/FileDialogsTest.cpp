@@ -3,7 +3,7 @@
 
 #include "dialogs/DialogState.h"
 #include "dialogs/frmImage.h"
-#include "platform/DesktopPrompts.h"
+#include "platform/desktop/DesktopPrompts.h"
 #include "support/FreshUser.h"
 #include "support/NoPlainFile.h"
 #include "support/TestFrame.h"

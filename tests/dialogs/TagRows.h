@@ -2,7 +2,7 @@
 #pragma once
 
 #include "dialogs/TagPair.h"
-#include "editor/TagCase.h"
+#include "editor/color/TagCase.h"
 #include "support/Text.h"
 
 #include <functional>

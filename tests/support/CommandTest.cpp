@@ -2,7 +2,7 @@
 // text.
 #include "support/CommandTest.h"
 
-#include "platform/Cp1252.h"
+#include "platform/values/Cp1252.h"
 
 namespace {
 

@@ -1,7 +1,7 @@
 // The design and browser controls without an engine: they note what is asked of them.
 #pragma once
 
-#include "editor/WebControls.h"
+#include "editor/views/WebControls.h"
 
 #include <functional>
 #include <QString>

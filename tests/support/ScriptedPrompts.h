@@ -1,7 +1,7 @@
 // Prompts that follow a script and record what was asked.
 #pragma once
 
-#include "platform/Prompts.h"
+#include "platform/desktop/Prompts.h"
 
 #include <deque>
 #include <QVector>

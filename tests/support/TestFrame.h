@@ -1,13 +1,13 @@
 // A frame without menus and strips, for tests of everything below the application.
 #pragma once
 
-#include "editor/Commands.h"
-#include "editor/Document.h"
-#include "editor/Forms.h"
-#include "editor/Frame.h"
-#include "editor/Modes.h"
-#include "platform/RichTextBox.h"
-#include "platform/Settings.h"
+#include "editor/frame/Commands.h"
+#include "editor/frame/Document.h"
+#include "editor/frame/Forms.h"
+#include "editor/frame/Frame.h"
+#include "editor/views/Modes.h"
+#include "platform/text/RichTextBox.h"
+#include "platform/store/Settings.h"
 #include "support/ScriptedPrompts.h"
 #include "support/Text.h"
 

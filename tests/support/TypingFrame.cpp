@@ -1,7 +1,7 @@
 // A test frame whose document has a typing engine, and a person at its keyboard.
 #include "support/TypingFrame.h"
 
-#include "editor/frmDropDown.h"
+#include "editor/autofill/frmDropDown.h"
 
 #include <gtest/gtest.h>
 #include <QApplication>

@@ -1,11 +1,11 @@
 // A test frame whose document has a typing engine, and a person at its keyboard.
 #pragma once
 
-#include "editor/AutoFillList.h"
-#include "editor/ColorStream.h"
-#include "editor/EditorOptions.h"
-#include "editor/TypingEngine.h"
-#include "editor/UserButtonTexts.h"
+#include "editor/autofill/AutoFillList.h"
+#include "editor/color/ColorStream.h"
+#include "editor/frame/EditorOptions.h"
+#include "editor/typing/TypingEngine.h"
+#include "editor/typing/UserButtonTexts.h"
 #include "support/TestFrame.h"
 
 #include <Qt>

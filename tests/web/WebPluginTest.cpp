@@ -1,8 +1,8 @@
 // The plugin as the program loads it, and a document that goes from source to design and back.
-#include "app/WebPlugin.h"
+#include "app/run/WebPlugin.h"
 
-#include "editor/Modes.h"
-#include "editor/WebControls.h"
+#include "editor/views/Modes.h"
+#include "editor/views/WebControls.h"
 #include "support/TestFrame.h"
 #include "web/PageFiles.h"
 #include "web/PageProbe.h"

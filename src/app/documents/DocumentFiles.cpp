@@ -1,0 +1,45 @@
+// Text between files and documents: one byte of code page 1252 is one character.
+#include "app/documents/DocumentFiles.h"
+
+#include "platform/values/Cp1252.h"
+#include "platform/values/Values.h"
+#include "platform/store/WholeFile.h"
+
+#include <limits>
+
+namespace DocumentFiles {
+
+namespace {
+
+constexpr char endOfText = 26;
+
+} // namespace
+
+std::optional<QString> ReadUpToEndOfText(const QString& path) {
+    const std::optional<QByteArray> bytes = WholeFile::Read(path);
+    if (!bytes)
+        return std::nullopt;
+    const qsizetype end = bytes->indexOf(endOfText);
+    return Cp1252::FromBytes(QByteArrayView(*bytes).first(end < 0 ? bytes->size() : end));
+}
+
+std::optional<QString> ReadInOneGo(const QString& path) {
+    const std::optional<QByteArray> bytes = WholeFile::Read(path);
+    if (!bytes || bytes->contains(endOfText))
+        return std::nullopt;
+    return Cp1252::FromBytes(*bytes);
+}
+
+bool Save(const QString& path, const QString& text) {
+    QByteArray bytes = Cp1252::ToBytes(Values::Trim(text));
+    bytes += "\r\n";
+    return WholeFile::Write(path, bytes);
+}
+
+int SizeToAskAbout(const QString& path) {
+    const qint64 size = WholeFile::Size(path);
+    const bool fits = size >= 0 && size <= std::numeric_limits<qint16>::max();
+    return fits ? static_cast<int>(size) : 0;
+}
+
+} // namespace DocumentFiles

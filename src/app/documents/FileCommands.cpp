@@ -1,0 +1,115 @@
+// The File menu's commands on files, and Insert Contents.
+#include "app/documents/FileCommands.h"
+
+#include "app/documents/DocumentFiles.h"
+#include "app/documents/OpenDocument.h"
+#include "app/documents/RecentFiles.h"
+#include "dialogs/DialogState.h"
+#include "dialogs/FileDialogs.h"
+#include "editor/frame/ActiveText.h"
+#include "editor/frame/Commands.h"
+#include "editor/frame/Document.h"
+#include "editor/frame/Frame.h"
+#include "platform/values/Path.h"
+#include "platform/desktop/Prompts.h"
+#include "platform/text/RichTextBox.h"
+#include "platform/store/Settings.h"
+
+#include <QWidget>
+
+namespace {
+
+/// The HTML files of the filter are the ones shown at first.
+FileRequest DocumentRequest() {
+    return {.filter = FileFilter::Document, .filterIndex = 2};
+}
+
+bool MayOverwrite(Frame& frame, const QString& path) {
+    if (DocumentFiles::SizeToAskAbout(path) < 2)
+        return true;
+    return frame.Ask().MsgBox(frame.Window(), QStringLiteral("Overwrite File?"), MsgButtons::YesNo,
+                              MsgIcon::Question, QStringLiteral("Overwrite")) != MsgAnswer::No;
+}
+
+/// The file to save as; cancelled where the user wants none. A refused overwrite shows the dialog anew.
+FileAnswer AskWhereToSave(Frame& frame) {
+    while (true) {
+        FileRequest request = DocumentRequest();
+        request.defaultExtension =
+            frame.Store().ReadFlag(Keys::UseHTM) ? QStringLiteral("htm") : QStringLiteral("html");
+        request.folder = frame.State<DialogState>().LastDir;
+        FileAnswer answer = frame.Ask().SaveFile(frame.Window(), request);
+        if (answer.Cancelled() || MayOverwrite(frame, answer.Path()))
+            return answer;
+    }
+}
+
+void mnuClose_Click(Frame& frame) {
+    if (Document* document = frame.ActiveForm())
+        document->Unload();
+}
+
+} // namespace
+
+void FillFileCommands(Frame& frame) {
+    CommandSet& commands = frame.Commands();
+    commands.Set(QStringLiteral("mnuOpen"), [&frame] { mnuOpen_Click(frame); });
+    commands.Set(QStringLiteral("mnuSave"), [&frame] { mnuSave_Click(frame); });
+    commands.Set(QStringLiteral("mnuSaveAs"), [&frame] { mnuSaveAs_Click(frame); });
+    commands.Set(QStringLiteral("mnuClose"), [&frame] { mnuClose_Click(frame); });
+    commands.Set(QStringLiteral("mnuExit"), [&frame] { frame.Window()->close(); });
+    commands.Set(QStringLiteral("mnuInsertContents"), [&frame] { mnuInsertContents_Click(frame); });
+    for (int n = 0; n < RecentFiles::Count; ++n)
+        commands.Set(QStringLiteral("mnuFileArray_%1").arg(n), [&frame, n] { OpenRecentFile(frame, n); });
+}
+
+void mnuOpen_Click(Frame& frame) {
+    FileRequest request = DocumentRequest();
+    request.multiSelect = true;
+    request.folder = frame.State<DialogState>().LastDir;
+    const FileAnswer answer = frame.Ask().OpenFile(frame.Window(), request);
+    if (answer.Cancelled())
+        return;
+    for (const QString& path : answer.Paths())
+        frame.OpenDocumentFile(path);
+    frame.State<DialogState>().LastDir = answer.folder;
+}
+
+void mnuSave_Click(Frame& frame) {
+    Document* document = frame.ActiveForm();
+    if (!document)
+        return;
+    if (document->Caption().isEmpty())
+        mnuSaveAs_Click(frame);
+    else if (DocumentFiles::Save(document->Caption(), document->txtInput().Text()))
+        document->SetModified(false);
+}
+
+void mnuSaveAs_Click(Frame& frame) {
+    if (!frame.ActiveForm())
+        return;
+    const FileAnswer answer = AskWhereToSave(frame);
+    Document* document = frame.ActiveForm();
+    if (answer.Cancelled() || !document)
+        return;
+    const QString path = answer.Path();
+    // The document takes the new path either way; only what is safely in the file counts as saved.
+    if (DocumentFiles::Save(path, document->txtInput().Text()))
+        document->SetModified(false);
+    frame.State<DialogState>().LastDir = answer.folder;
+    frame.RemoveDocumentTab(document->Caption());
+    document->SetCaption(path);
+    AddToRecentFiles(frame);
+    frame.AddDocumentTab(path, Path::NameOnDisk(path));
+}
+
+void mnuInsertContents_Click(Frame& frame) {
+    if (!frame.ActiveForm())
+        return;
+    const FileAnswer answer = frame.Ask().OpenFile(frame.Window(), DocumentRequest());
+    RichTextBox* txtInput = ActiveText(frame);
+    if (answer.Cancelled() || !txtInput)
+        return;
+    if (const auto text = DocumentFiles::ReadInOneGo(answer.Path()))
+        txtInput->SetSelText(*text);
+}

@@ -1,0 +1,68 @@
+// A file's text, just read, becomes the content of a document window.
+#include "app/documents/TakeInText.h"
+
+#include "app/documents/RecentFiles.h"
+#include "editor/color/ColoredTags.h"
+#include "editor/color/ColorizeText.h"
+#include "editor/frame/Document.h"
+#include "editor/frame/Forms.h"
+#include "editor/frame/Frame.h"
+#include "platform/values/Path.h"
+#include "platform/text/RichTextBox.h"
+#include "platform/store/Settings.h"
+
+#include <utility>
+
+namespace {
+
+void WriteColored(Frame& frame, QString text) {
+    ColorizeText(frame, std::move(text), KeepDocument::Yes, CaretToTop::Yes);
+}
+
+void WriteAsSet(Frame& frame, Document& document, QString text) {
+    if (!ColoredTagsChecked(frame.Store())) {
+        document.txtInput().SetSelText(text);
+        return;
+    }
+    frame.SetStatusPanel(QStringLiteral("Coloring HTML tags, please wait . . . "), true);
+    WriteColored(frame, std::move(text));
+    frame.SetStatusPanel(QString());
+}
+
+/// What stands there now is unchanged, and where undo ends: undoing the load itself would empty the page.
+void CountAsLoaded(Document& document) {
+    document.txtInput().EmptyUndoBuffer();
+    document.SetModified(false);
+}
+
+} // namespace
+
+bool IsLoaded(Frame& frame, const QString& path) {
+    const Forms& forms = frame.LoadedForms();
+    for (int i = 0; i < forms.Count(); ++i) {
+        if (forms.CaptionAt(i) == path)
+            return true;
+    }
+    return false;
+}
+
+void TakeInText(Frame& frame, const QString& path, QString text) {
+    Document* document = frame.ActiveForm();
+    if (!document)
+        return;
+    document->SetCaption(path);
+    WriteAsSet(frame, *document, std::move(text));
+    CountAsLoaded(*document);
+    AddToRecentFiles(frame);
+    frame.AddDocumentTab(path, Path::NameOnDisk(path));
+}
+
+void TakeInRecentText(Frame& frame, const QString& path, QString text) {
+    Document* document = frame.ActiveForm();
+    if (!document)
+        return;
+    document->SetCaption(path);
+    WriteColored(frame, std::move(text));
+    CountAsLoaded(*document);
+    frame.AddDocumentTab(path, Path::NameOnDisk(path));
+}

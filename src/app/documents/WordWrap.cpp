@@ -1,0 +1,15 @@
+// Word wrap of a document's text.
+#include "app/documents/WordWrap.h"
+
+#include "platform/text/RichTextBox.h"
+
+namespace {
+
+constexpr int atTheWindow = 0;
+constexpr int noWrapTwips = 65000;
+
+} // namespace
+
+void SetWordWrap(RichTextBox& text, bool on) {
+    text.SetRightMargin(on ? atTheWindow : noWrapTwips);
+}

@@ -1,0 +1,32 @@
+#include "app/window/KnownForms.h"
+
+#include "app/options/frmExternal.h"
+#include "app/run/frmSplash.h"
+#include "app/surface/frmTools.h"
+#include "app/help/HelpCommands.h"
+#include "builders/commands/BuilderForms.h"
+
+#include <vector>
+
+std::span<const FormRow> AppForms() {
+    static const FormRow forms[] = {
+        FormOf<frmSplash>({.entry = {"mnuAbout"}, .show = mnuAbout_Click, .unload = 15}),
+        FormOf<frmExternal>({.entry = {"mnuWebBrowser"}, .show = mnuWebBrowser_Click, .unload = 17}),
+        FormOf<frmTools>({.unload = 22}),
+        // Still to come; their turn at the end is settled.
+        {"frmInfo", {.unload = 8}},
+        {WebTimerForm, {.unload = 13}},
+        {UploadForm, {.unload = 14}},
+    };
+    return forms;
+}
+
+std::span<const FormRow> KnownForms() {
+    static const std::vector<FormRow> forms = [] {
+        std::vector<FormRow> all;
+        for (const auto& folder : {AppForms(), BuilderForms()})
+            all.insert(all.end(), folder.begin(), folder.end());
+        return all;
+    }();
+    return forms;
+}

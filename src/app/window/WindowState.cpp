@@ -1,0 +1,10 @@
+// The state of a window, as the settings have it.
+#include "app/window/WindowState.h"
+
+#include <QWidget>
+
+QString WindowStateDigit(const QWidget& window) {
+    if (window.isMinimized())
+        return QStringLiteral("1");
+    return window.isMaximized() ? QStringLiteral("2") : QStringLiteral("0");
+}

@@ -1,0 +1,352 @@
+// The main frame: the one window that owns menus, strips and document windows, for the whole run.
+#include "app/window/frmTarnwick.h"
+
+#include "app/surface/CommandActions.h"
+#include "app/window/DocumentTabs.h"
+#include "app/surface/EditCommands.h"
+#include "app/documents/FileCommands.h"
+#include "app/window/FileDrop.h"
+#include "app/run/frmSplash.h"
+#include "app/documents/frmTemplate.h"
+#include "app/help/HelpCommands.h"
+#include "app/window/KnownForms.h"
+#include "app/window/LeaveByEscape.h"
+#include "app/surface/MenuTree.h"
+#include "app/documents/OpenDocument.h"
+#include "app/window/OpenDocuments.h"
+#include "app/documents/Preview.h"
+#include "app/run/ProgramState.h"
+#include "app/window/ReleaseButtons.h"
+#include "app/run/Shutdown.h"
+#include "app/documents/Skeletons.h"
+#include "app/window/StatusPanels.h"
+#include "app/surface/ToolbarCommands.h"
+#include "app/window/ToolbarHolder.h"
+#include "app/surface/UserButtons.h"
+#include "app/run/WebPlugin.h"
+#include "app/surface/WindowCommands.h"
+#include "builders/commands/EditTag.h"
+#include "builders/commands/MenuTagCommands.h"
+#include "editor/views/Modes.h"
+#include "editor/spelling/SpellChecker.h"
+#include "editor/views/WebControls.h"
+#include "platform/text/RichTextBox.h"
+
+#include <QApplication>
+#include <QCloseEvent>
+#include <QMdiArea>
+#include <QMenu>
+#include <QMenuBar>
+#include <QMouseEvent>
+#include <QScreen>
+#include <QSignalBlocker>
+#include <QStyle>
+#include <QTabBar>
+#include <QVBoxLayout>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+// What a frame that never ran takes on a screen with room for it, in pixels.
+constexpr QSize firstSize(960, 680);
+// New windows stand one step further than the last, and start over where they would leave the area.
+constexpr int cascadeStep = 26;
+constexpr int cascadeSteps = 6;
+
+/// What a window can take up at most. The desktop draws a title bar and edges around it, and as it is centred
+/// without them, as much room as above it must be left below.
+QSize RoomInside(const QWidget& window) {
+    const QStyle& style = *window.style();
+    const int edge = style.pixelMetric(QStyle::PM_MdiSubWindowFrameWidth);
+    const int title = style.pixelMetric(QStyle::PM_TitleBarHeight);
+    return window.screen()->availableSize() - 2 * QSize(edge, title + edge);
+}
+
+QWidget* Strip(const QString& name, QWidget* content) {
+    auto* strip = new QWidget;
+    strip->setObjectName(name);
+    auto* row = new QHBoxLayout(strip);
+    row->setContentsMargins(0, 0, 0, 0);
+    row->addWidget(content);
+    row->addStretch();
+    return strip;
+}
+
+} // namespace
+
+frmTarnwick::frmTarnwick(Settings& store, Prompts& ask)
+    : store_(store), ask_(ask), forms_(new Forms(this)), area_(new QMdiArea(this)),
+      documents_(new OpenDocuments(*area_, this)), tabStrip2_(new DocumentTabs(this)),
+      tabStrip3_(new QTabBar(this)), statusBar_(new StatusBar(this)), vsSpell1_(new SpellChecker(this)) {
+    setObjectName(u"frmTarnwick"_s);
+    vsSpell1_->setObjectName(u"VSSpell1"_s);
+    setContextMenuPolicy(Qt::NoContextMenu);
+    forms_->Add(this);
+    FillCommands();
+    BuildMenuBar();
+    BuildStrips();
+    EnableCommands(*this, commands_);
+    HookWindow();
+    resize(firstSize.boundedTo(RoomInside(*this)));
+}
+
+frmTarnwick::~frmTarnwick() {
+    // Documents and dialogs reach the frame as they go: they go first.
+    while (forms_->Count() > 1)
+        delete forms_->At(forms_->Count() - 1);
+}
+
+void frmTarnwick::FillCommands() {
+    commands_.Set(u"mnuNew"_s, [this] { NewDocument(); });
+    FillFileCommands(*this);
+    FillEditCommands(*this);
+    FillWindowCommands(commands_, *area_);
+    FillSkeletonCommands(*this);
+    FillPreviewCommands(*this);
+    FillMenuTagCommands(*this);
+    FillToolbarCommands(*this);
+    FillHelpCommands(*this);
+    FillFormCommands(*this, KnownForms());
+    FillEditTagCommand(*this);
+    UseWebPlugin(State<WebControls>());
+}
+
+void frmTarnwick::BuildMenuBar() {
+    BuildMenus(*menuBar(), *this);
+    auto* mMain = menuBar()->findChild<QMenu*>(u"mMain"_s);
+    connect(mMain, &QMenu::aboutToShow, this, [this] { UpdateEditMenu(*this); });
+    ListWindows(*menuBar()->findChild<QMenu*>(u"mnuWindow"_s), *this, *area_);
+}
+
+void frmTarnwick::BuildStrips() {
+    picture3_ = new ToolbarHolder(*this);
+    picture2_ = new UserButtons(*this);
+    BuildModeStrip();
+    area_->setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
+    area_->setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
+
+    auto* content = new QWidget;
+    auto* column = new QVBoxLayout(content);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(0);
+    column->addWidget(picture3_);
+    column->addWidget(picture2_);
+    column->addWidget(Strip(u"Picture1"_s, tabStrip2_));
+    column->addWidget(area_, 1);
+    column->addWidget(picture4_);
+    setCentralWidget(content);
+    setStatusBar(statusBar_);
+}
+
+void frmTarnwick::BuildModeStrip() {
+    tabStrip3_->setObjectName(u"TabStrip3"_s);
+    tabStrip3_->setAccessibleName(tr("Modes of the document"));
+    tabStrip3_->setShape(QTabBar::RoundedSouth);
+    tabStrip3_->setDrawBase(false);
+    for (const QString& mode : {u"Edit"_s, u"Design"_s, u"View"_s})
+        tabStrip3_->addTab(mode);
+    picture4_ = Strip(u"Picture4"_s, tabStrip3_);
+    LeaveByEscape(*tabStrip3_, *this);
+    connect(tabStrip3_, &QTabBar::currentChanged, this, &frmTarnwick::TabStrip3_Click);
+    // A press on another tab selects it, and comes that way.
+    connect(tabStrip3_, &QTabBar::tabBarClicked, this, [this](int index) {
+        if (index >= 0 && index == tabStrip3_->currentIndex())
+            TabStrip3_Click(index);
+    });
+}
+
+void frmTarnwick::TabStrip3_Click(int index) {
+    ModeStrip_Click(*this, tabStrip3_->tabText(index));
+}
+
+void frmTarnwick::HookWindow() {
+    area_->viewport()->installEventFilter(this);
+    BindHelpKey(*this, *this);
+    ReleaseButtonsWhenBlocked(*this);
+    connect(area_, &QMdiArea::subWindowActivated, this, &frmTarnwick::SubWindowActivated);
+    // The text tells it too, but only where it gets the focus by it.
+    connect(documents_, &OpenDocuments::Activated, tabStrip2_,
+            [this](const frmTemplate& document) { tabStrip2_->Select(document.Caption()); });
+    LeaveByEscape(*tabStrip2_, *this);
+    connect(tabStrip2_, &DocumentTabs::Click, this, &frmTarnwick::TabStrip2_Click);
+    connect(qApp, &QGuiApplication::applicationStateChanged, this, [this](Qt::ApplicationState state) {
+        if (activationHook_ && state == Qt::ApplicationActive)
+            FocusDocument();
+    });
+    fileDrop_ = new FileDrop(this);
+    fileDrop_->Watch(*this);
+    connect(fileDrop_, &FileDrop::Dropped, this, &frmTarnwick::OpenArrivals);
+}
+
+Document* frmTarnwick::ActiveForm() {
+    return documents_->Active();
+}
+
+void frmTarnwick::ActivateDocument(Document& document) {
+    documents_->Activate(document);
+}
+
+void frmTarnwick::NewDocument() {
+    SelectModeTab(u"Edit"_s);
+    auto* document = new frmTemplate(*this);
+    forms_->Add(document);
+    area_->addSubWindow(document);
+    const int step = State<ProgramState>().DocumentCount % cascadeSteps * cascadeStep;
+    document->move(step, step);
+    fileDrop_->Watch(*document->txtInput().viewport());
+    document->Form_Load();
+    documents_->Activate(*document);
+}
+
+void frmTarnwick::OpenDocumentFile(const QString& path) {
+    ::OpenDocumentFile(*this, path);
+}
+
+void frmTarnwick::SaveActiveDocument() {
+    commands_.Run(u"mnuSave"_s);
+}
+
+void frmTarnwick::PreviewInBrowser(const QString& path) {
+    ::PreviewInBrowser(*this, path);
+}
+
+void frmTarnwick::SetStatusPanel(const QString& text, bool now) {
+    statusBar_->SetPanel3(text, now);
+}
+
+QAction* frmTarnwick::MenuEntry(const QString& name) {
+    return findChild<QAction*>(name);
+}
+
+void frmTarnwick::AddDocumentTab(const QString& path, const QString& caption) {
+    tabStrip2_->Add(path, caption);
+    // The strip shows which document has the focus; that of a document just opened came before it had a path.
+    if (Document* document = ActiveForm(); document && document->Caption() == path)
+        tabStrip2_->Select(path);
+}
+
+void frmTarnwick::RemoveDocumentTab(const QString& path) {
+    tabStrip2_->Remove(path);
+}
+
+void frmTarnwick::SelectDocumentTab(const QString& path) {
+    tabStrip2_->Select(path);
+}
+
+void frmTarnwick::PopUpEditMenu(QPoint at) {
+    menuBar()->findChild<QMenu*>(u"mMain"_s)->popup(at);
+}
+
+void frmTarnwick::SelectModeTab(const QString& caption) {
+    // A tab that the program selects is no click.
+    const QSignalBlocker quiet(tabStrip3_);
+    for (int index = 0; index < tabStrip3_->count(); ++index)
+        if (tabStrip3_->tabText(index) == caption)
+            tabStrip3_->setCurrentIndex(index);
+}
+
+void frmTarnwick::TabStrip2_Click(int index) {
+    const QString tag = tabStrip2_->Tag(index);
+    for (int i = 0; i < forms_->Count(); ++i)
+        if (forms_->CaptionAt(i) == tag)
+            return FocusForm(*forms_->At(i));
+}
+
+void frmTarnwick::FocusForm(QWidget& form) {
+    auto* document = qobject_cast<frmTemplate*>(&form);
+    if (!document) {
+        form.raise();
+        form.activateWindow();
+        return;
+    }
+    if (document->isMinimized())
+        document->showNormal();
+    ActivateDocument(*document);
+    FocusDocument();
+}
+
+void frmTarnwick::FocusDocument() {
+    documents_->FocusText();
+}
+
+void frmTarnwick::SetHooks(bool activation, bool drops) {
+    activationHook_ = activation;
+    fileDrop_->SetActive(drops);
+}
+
+void frmTarnwick::SubWindowActivated(QMdiSubWindow* window) {
+    if (auto* document = qobject_cast<frmTemplate*>(window))
+        document->Form_Activate();
+}
+
+void frmTarnwick::OpenArrivals(const QStringList& paths) {
+    arrivals_ += paths;
+    if (!takingArrivals_)
+        TakeArrivals();
+}
+
+void frmTarnwick::TakeArrivals() {
+    takingArrivals_ = true;
+    while (!arrivals_.isEmpty() && !stopped_ && !QApplication::activeModalWidget()) {
+        OpenDocumentFile(arrivals_.takeFirst());
+        QCoreApplication::processEvents();
+    }
+    takingArrivals_ = false;
+}
+
+void frmTarnwick::ComeToFront() {
+    setWindowState((windowState() & ~Qt::WindowMinimized) | Qt::WindowActive);
+    raise();
+    activateWindow();
+}
+
+void frmTarnwick::resizeEvent(QResizeEvent* event) {
+    forms_->Unload<frmSplash>();
+    picture3_->TakeWidth(width());
+    QMainWindow::resizeEvent(event);
+}
+
+void frmTarnwick::closeEvent(QCloseEvent* event) {
+    if (!stopped_ && !closing_) {
+        closing_ = true;
+        stopped_ = Shutdown(*this).Run();
+        closing_ = false;
+        if (stopped_)
+            Q_EMIT Stopped();
+    }
+    event->setAccepted(stopped_);
+}
+
+bool frmTarnwick::event(QEvent* event) {
+    if (event->type() == QEvent::WindowActivate) {
+        // Who comes back from a dialog comes back to the document: it takes the background just chosen.
+        if (frmTemplate* document = documents_->Active())
+            document->TakeBackground();
+        FocusDocument();
+        // A document that was opened before the frame was on the screen is none of the area's active ones
+        // yet, and the area wakes up behind this event.
+        QMetaObject::invokeMethod(documents_, &OpenDocuments::Wake, Qt::QueuedConnection);
+    }
+    // Whatever came while a modal dialog was up.
+    if (event->type() == QEvent::WindowUnblocked && !takingArrivals_)
+        QMetaObject::invokeMethod(
+            this, [this] { OpenArrivals({}); }, Qt::QueuedConnection);
+    return QMainWindow::event(event);
+}
+
+bool frmTarnwick::eventFilter(QObject* watched, QEvent* event) {
+    if (watched == area_->viewport() && event->type() == QEvent::MouseButtonPress)
+        FocusDocument();
+    if (watched == area_->viewport() && event->type() == QEvent::MouseButtonRelease) {
+        const auto* release = static_cast<QMouseEvent*>(event);
+        if (release->button() == Qt::RightButton)
+            menuBar()->findChild<QMenu*>(u"mnuFile"_s)->popup(release->globalPosition().toPoint());
+    }
+    return QMainWindow::eventFilter(watched, event);
+}
+
+void frmTarnwick::mousePressEvent(QMouseEvent* event) {
+    FocusDocument();
+    QMainWindow::mousePressEvent(event);
+}

@@ -1,0 +1,108 @@
+// The main frame: the one window that owns menus, strips and document windows, for the whole run.
+#pragma once
+
+#include "app/window/MainFrame.h"
+#include "editor/frame/Commands.h"
+#include "editor/frame/Forms.h"
+
+#include <QMainWindow>
+#include <QStringList>
+
+class FileDrop;
+class frmTemplate;
+class OpenDocuments;
+class Prompts;
+class QMdiArea;
+class QMdiSubWindow;
+class QTabBar;
+class Settings;
+class StatusBar;
+class ToolbarHolder;
+
+class frmTarnwick final : public QMainWindow, public MainFrame {
+    Q_OBJECT
+
+  public:
+    frmTarnwick(Settings& store, Prompts& ask);
+    ~frmTarnwick() override;
+
+    Document* ActiveForm() override;
+    void ActivateDocument(Document& document) override;
+    QWidget* Window() override { return this; }
+    Forms& LoadedForms() override { return *forms_; }
+    Settings& Store() override { return store_; }
+    Prompts& Ask() override { return ask_; }
+    CommandSet& Commands() override { return commands_; }
+
+    void NewDocument() override;
+    void OpenDocumentFile(const QString& path) override;
+    void SaveActiveDocument() override;
+    void PreviewInBrowser(const QString& path = QString()) override;
+
+    void SetStatusPanel(const QString& text, bool now = false) override;
+    QAction* MenuEntry(const QString& name) override;
+    void AddDocumentTab(const QString& path, const QString& caption) override;
+    void RemoveDocumentTab(const QString& path) override;
+    void SelectDocumentTab(const QString& path) override;
+    void PopUpEditMenu(QPoint at) override;
+    void SelectModeTab(const QString& caption) override;
+
+    QMdiArea& Area() { return *area_; }
+    DocumentTabs& TabStrip2() override { return *tabStrip2_; }
+    UserButtons& Picture2() override { return *picture2_; }
+    QWidget& Picture4() override { return *picture4_; }
+    StatusBar& Panels() override { return *statusBar_; }
+    SpellChecker& VSSpell1() override { return *vsSpell1_; }
+    void SetHooks(bool activation, bool drops) override;
+
+    /// What another copy of the program, or a drop, brings: opens each path in turn, pending events between.
+    /// While a modal dialog is up they wait for its end.
+    void OpenArrivals(const QStringList& paths);
+    /// Comes to the front of the desktop, out of the minimised state if need be.
+    void ComeToFront();
+    /// Gives the focus to the text of the active document.
+    void FocusDocument();
+
+  Q_SIGNALS:
+    /// The frame is unloaded and its settings are written: the process ends.
+    void Stopped();
+
+  protected:
+    void resizeEvent(QResizeEvent* event) override;
+    void closeEvent(QCloseEvent* event) override;
+    bool event(QEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+
+  private:
+    void FillCommands();
+    void BuildMenuBar();
+    void BuildStrips();
+    void BuildModeStrip();
+    void HookWindow();
+    void TabStrip2_Click(int index);
+    void TabStrip3_Click(int index);
+    void SubWindowActivated(QMdiSubWindow* window);
+    void FocusForm(QWidget& form);
+    void TakeArrivals();
+
+    Settings& store_;
+    Prompts& ask_;
+    CommandSet commands_;
+    Forms* forms_;
+    QMdiArea* area_;
+    OpenDocuments* documents_;
+    DocumentTabs* tabStrip2_;
+    QTabBar* tabStrip3_;
+    ToolbarHolder* picture3_ = nullptr;
+    UserButtons* picture2_ = nullptr;
+    QWidget* picture4_ = nullptr;
+    StatusBar* statusBar_;
+    SpellChecker* vsSpell1_;
+    QStringList arrivals_;
+    FileDrop* fileDrop_ = nullptr;
+    bool activationHook_ = false;
+    bool takingArrivals_ = false;
+    bool closing_ = false;
+    bool stopped_ = false;
+};

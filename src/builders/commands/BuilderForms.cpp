@@ -1,0 +1,38 @@
+#include "builders/commands/BuilderForms.h"
+
+#include "builders/page/frmBody.h"
+#include "builders/lists/frmBulletList.h"
+#include "builders/applets/frmEmbed.h"
+#include "builders/page/frmFont.h"
+#include "builders/links/frmGraphicLink.h"
+#include "builders/page/frmHRInput.h"
+#include "builders/applets/frmJava.h"
+#include "builders/links/frmLinks.h"
+#include "builders/page/frmMulti.h"
+#include "builders/applets/frmParam.h"
+#include "builders/page/frmSpacer.h"
+#include "dialogs/frmImage.h"
+
+std::span<const FormRow> BuilderForms() {
+    static const FormRow forms[] = {
+        FormOf<frmBody>({.button = {"body"}, .unload = 1}),
+        FormOf<frmEmbed>({.entry = {"mnuEmbed"}, .button = {"embed"}, .unload = 2}),
+        FormOf<frmFont>({.button = {"abc"}, .unload = 3}),
+        FormOf<frmGraphicLink>({.entry = {"mnuImage"}, .button = {"image"}, .unload = 6}),
+        FormOf<frmHRInput>({.entry = {"mnuHR"}, .button = {"hr"}, .unload = 7}),
+        FormOf<frmJava>({.button = {"java"}, .unload = 9}),
+        FormOf<frmLinks>({.entry = {"mnuLink"}, .button = {"link"}, .unload = 10}),
+        FormOf<frmParam>({.button = {"java2"}, .unload = 11}),
+        FormOf<frmSpacer>({.button = {"rectangle"}, .unload = 16}),
+        FormOf<frmBulletList>({.unload = 18}),
+        FormOf<frmImage>({.unload = 20}),
+        FormOf<frmMulti>({.button = {"split"}, .unload = 21}),
+        // Still to come; their turn at the end is settled.
+        {"frmForm", {.unload = 4}},
+        {"frmFrame", {.unload = 5}},
+        {"frmTable", {.unload = 12}},
+        {"frmGridInput", {.unload = 19}},
+        {"VisFrame", {.unload = 23}},
+    };
+    return forms;
+}

@@ -1,0 +1,47 @@
+// The list of loaded forms: document windows and dialogs, in the order of loading.
+#include "editor/frame/Forms.h"
+
+#include "editor/frame/Document.h"
+
+#include <algorithm>
+
+Forms::Forms(QObject* parent) : QObject(parent) {}
+
+QString Forms::CaptionAt(int index) const {
+    QWidget* form = At(index);
+    if (const auto* document = dynamic_cast<const Document*>(form))
+        return document->Caption();
+    return form->windowTitle();
+}
+
+void Forms::Add(QWidget* form) {
+    forms_.push_back(form);
+    connect(form, &QObject::destroyed, this, [this, form] { std::erase(forms_, form); });
+}
+
+void Forms::Remove(QWidget* form) {
+    std::erase(forms_, form);
+}
+
+QWidget* Forms::Find(const QString& name) const {
+    const auto found =
+        std::ranges::find_if(forms_, [&](QWidget* form) { return form->objectName() == name; });
+    return found == forms_.end() ? nullptr : *found;
+}
+
+void Forms::Unload(QWidget& form) {
+    if (std::ranges::find(forms_, &form) == forms_.end())
+        return;
+    Q_EMIT Unloading(&form);
+    form.hide();
+    // It leaves the list at once, so that showing it again makes a new one; its handlers may still be
+    // running.
+    std::erase(forms_, &form);
+    form.deleteLater();
+}
+
+void Forms::Raise(QWidget& form) {
+    form.show();
+    form.raise();
+    form.activateWindow();
+}

@@ -1,0 +1,9 @@
+#include "editor/typing/TypingColor.h"
+
+#include "platform/text/RichTextBox.h"
+#include "platform/store/Settings.h"
+
+void TypingColor::KeyPress() {
+    if (text_.SelLength() < 1)
+        text_.SetSelColor(store_.ReadNumber(Keys::TextColor[0]));
+}

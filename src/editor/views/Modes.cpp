@@ -1,0 +1,198 @@
+// Edit, Design and View: which of its three controls a document window shows, and the click that switches.
+#include "editor/views/Modes.h"
+
+#include "editor/views/DesignVisit.h"
+#include "editor/frame/Document.h"
+#include "editor/frame/Frame.h"
+#include "editor/views/WebControls.h"
+#include "platform/desktop/Prompts.h"
+#include "platform/text/RichTextBox.h"
+#include "platform/values/Twips.h"
+
+#include <QApplication>
+#include <QMdiSubWindow>
+
+namespace {
+
+const QString editTab = QStringLiteral("Edit");
+const QString designTab = QStringLiteral("Design");
+const QString viewTab = QStringLiteral("View");
+
+// Its lines end with a carriage return alone.
+const QString cannotDisplay = QStringLiteral(
+    "I cannot display an HTML file for one of these reasons:\r"
+    "\r"
+    "There is no active document - nothing to display.\r"
+    "     or\r"
+    "The active document has not been given a filename yet (use the Save command).\r"
+    "     or\r"
+    "You do not have Microsoft Internet Explorer 4.0 (or later) properly installed on your system.\r"
+    "\r"
+    "If you do not have MSIE 4 installed you may use Netscape (or another browser)\r"
+    "by pressing the External browser button on the toolbar.\r"
+    "\r"
+    "Use the External Programs menu option under the Window menu to link me\r"
+    "to your external browser.\r");
+
+/// The document window with its frame and title: in the MDI area that is the sub-window around it.
+QSize OuterSize(QWidget& window) {
+    for (QWidget* around = &window; around; around = around->parentWidget()) {
+        if (qobject_cast<QMdiSubWindow*>(around))
+            return around->size();
+    }
+    return window.frameSize();
+}
+
+/// Left and top in twips, and what width and height fall short of the window's, in twips too.
+void Place(QWidget& view, QWidget& window, int left, int top, int lessWidth, int lessHeight) {
+    const QSize outer = OuterSize(window);
+    view.setGeometry(Twips::ToPixels(left), Twips::ToPixels(top), outer.width() - Twips::ToPixels(lessWidth),
+                     outer.height() - Twips::ToPixels(lessHeight));
+}
+
+} // namespace
+
+DocumentModes::DocumentModes(Frame& frame, Document& document) : frame_(frame), document_(document) {}
+
+void DocumentModes::LoadControls() {
+    if (design_ && browser_)
+        return;
+    WebControlsFactory* factory = frame_.State<WebControls>().Factory();
+    if (!factory)
+        return;
+    QWidget* parent = document_.txtInput().parentWidget();
+    if (!design_)
+        design_ = factory->MakeDesign(parent);
+    if (design_)
+        design_->widget().setObjectName(QStringLiteral("DHTMLEdit"));
+    if (!browser_)
+        browser_ = factory->MakeBrowser(parent);
+    if (browser_)
+        browser_->widget().setObjectName(QStringLiteral("WebBrowser1"));
+}
+
+void DocumentModes::Show(Shown shown) {
+    RichTextBox& source = document_.txtInput();
+    // A control of the strips keeps the focus. The engine's first view makes the system's window anew, and
+    // then nothing has it until the window is active again.
+    const QWidget* focused = QApplication::focusWidget();
+    const bool mayFocus = !focused || source.parentWidget()->isAncestorOf(focused);
+    QWidget* front = &source;
+    if (design_ && shown == Shown::Design)
+        front = &design_->widget();
+    if (browser_ && shown == Shown::Browser)
+        front = &browser_->widget();
+    source.setVisible(shown == Shown::Source);
+    if (design_)
+        design_->widget().setVisible(shown == Shown::Design);
+    if (browser_)
+        browser_->widget().setVisible(shown == Shown::Browser);
+    // Hiding a control sends its focus off to any other; the one in front takes it.
+    if (mayFocus && front->isVisible())
+        front->setFocus();
+}
+
+void DocumentModes::EditClicked() {
+    Show(Shown::Source);
+}
+
+void DocumentModes::DesignClicked() {
+    Show(Shown::Design);
+    if (design_ && !document_.Caption().isEmpty())
+        design_->Load(document_.Caption());
+}
+
+void DocumentModes::ViewClicked() {
+    Show(Shown::Browser);
+    frame_.SaveActiveDocument();
+    const QString path = document_.Caption();
+    if (browser_ && !path.isEmpty() && browser_->Navigate(path))
+        return;
+    frame_.Ask().MsgBox(frame_.Window(), cannotDisplay, MsgButtons::OK, MsgIcon::Exclamation, ProgramTitle);
+}
+
+void DocumentModes::SaveDesign() {
+    if (design_ && !design_->LoadedPath().isEmpty())
+        design_->Save(design_->LoadedPath());
+}
+
+void DocumentModes::EditAnsPos() {
+    SaveDesign();
+}
+
+void DocumentModes::ViewAnsPos() {
+    SaveDesign();
+}
+
+void DocumentModes::DesignAnsPos() {}
+
+void DocumentModes::PlaceAtLoad() {
+    if (design_)
+        Place(design_->widget(), document_.Window(), 30, 15, 60, 40);
+}
+
+void DocumentModes::PlaceAtResize() {
+    if (design_)
+        Place(design_->widget(), document_.Window(), -50, -50, 60, 340);
+    if (browser_)
+        Place(browser_->widget(), document_.Window(), -50, -50, 60, 340);
+}
+
+namespace {
+
+DocumentModes* ActiveModes(Frame& frame) {
+    Document* document = frame.ActiveForm();
+    return document ? document->Modes() : nullptr;
+}
+
+/// The active document comes out of Design: saves what was done there and opens the file anew. A document
+/// that has no file keeps its window and its text.
+void Reopen(Frame& frame, void (DocumentModes::*save)()) {
+    Document* document = frame.ActiveForm();
+    const QString fileName = document->Caption();
+    if (DocumentModes* modes = document->Modes())
+        (modes->*save)();
+    if (fileName.isEmpty())
+        return;
+    document->Unload();
+    frame.OpenDocumentFile(fileName);
+}
+
+bool WantsChangesSaved(Frame& frame) {
+    return frame.Ask().MsgBox(frame.Window(), QStringLiteral("Save Changes?"), MsgButtons::YesNo,
+                              MsgIcon::None, ProgramTitle) == MsgAnswer::Yes;
+}
+
+void ShowDesign(Frame& frame) {
+    frame.SaveActiveDocument();
+    if (DocumentModes* modes = ActiveModes(frame))
+        modes->DesignClicked();
+    frame.State<DesignVisit>().Begin();
+}
+
+} // namespace
+
+void ModeStrip_Click(Frame& frame, const QString& selected) {
+    if (!frame.ActiveForm())
+        return;
+    // Cleared before the question: the answer decides for this visit to the design view, and a further click
+    // is a further question.
+    const bool fromDesign = frame.State<DesignVisit>().End();
+    if (selected == editTab && fromDesign && WantsChangesSaved(frame))
+        Reopen(frame, &DocumentModes::EditAnsPos);
+    if (selected == viewTab && fromDesign && WantsChangesSaved(frame)) {
+        Reopen(frame, &DocumentModes::ViewAnsPos);
+        frame.SelectModeTab(viewTab);
+    }
+    if (selected == designTab)
+        ShowDesign(frame);
+    else if (selected == viewTab)
+        ShowInternal(frame);
+    else if (DocumentModes* modes = ActiveModes(frame))
+        modes->EditClicked();
+}
+
+void ShowInternal(Frame& frame) {
+    if (DocumentModes* modes = ActiveModes(frame))
+        modes->ViewClicked();
+}

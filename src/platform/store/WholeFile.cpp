@@ -1,0 +1,109 @@
+// Files read and written whole: a save either replaces the old file or leaves it as it was.
+#include "platform/store/WholeFile.h"
+
+#include <limits>
+#include <QFile>
+#include <QFileInfo>
+
+#ifdef Q_OS_UNIX
+#include "platform/store/FileCalls.h"
+#include "platform/store/OpenFile.h"
+#include "platform/store/SavedFile.h"
+#include "platform/store/SaveRecord.h"
+
+#include <csignal>
+#else
+#include <QSaveFile>
+#endif
+
+namespace WholeFile {
+
+qint64 Size(const QString& path) {
+    const QFileInfo file(path);
+    return file.isFile() ? file.size() : -1;
+}
+
+#ifdef Q_OS_UNIX
+
+namespace {
+
+/// A write past the user's file size limit raises a signal that would end the program; without it the write
+/// fails like any other.
+class NoSizeSignal {
+  public:
+    NoSizeSignal() {
+        struct sigaction ignore = {};
+        ignore.sa_handler = SIG_IGN;
+        sigaction(SIGXFSZ, &ignore, &before_);
+    }
+    ~NoSizeSignal() { sigaction(SIGXFSZ, &before_, nullptr); }
+    NoSizeSignal(const NoSizeSignal&) = delete;
+    NoSizeSignal& operator=(const NoSizeSignal&) = delete;
+
+  private:
+    struct sigaction before_ = {};
+};
+
+bool Save(SavedFile& file, QByteArrayView content, Readers readers) {
+    const mode_t mode = readers == Readers::TheUserAlone ? 0600 : 0666;
+    const SavedFile::Outcome outcome = file.Replace(content, mode);
+    return outcome == SavedFile::Outcome::Written ||
+           (outcome == SavedFile::Outcome::NotReplaceable && file.Overwrite(content));
+}
+
+} // namespace
+
+std::optional<QByteArray> Read(const QString& path) {
+    const qint64 size = Size(path);
+    if (size < 0 || size > std::numeric_limits<int>::max() / 2)
+        return std::nullopt;
+    const OpenFile file(QFile::encodeName(path), O_RDONLY);
+    return file.IsOpen() ? file.Read() : std::nullopt;
+}
+
+bool Write(const QString& path, QByteArrayView content, Readers readers) {
+    if (path.isEmpty())
+        return false;
+    const NoSizeSignal noSignal;
+    std::optional<SavedFile> file = SavedFile::At(QFile::encodeName(path));
+    if (!file)
+        return false;
+    const QList<QByteArray> unsettled = SaveRecord::SettleAll(file->Path());
+    if (!Save(*file, content, readers))
+        return false;
+    // What could not be finished is now out of date.
+    for (const QByteArray& record : unsettled)
+        Calls().unlink(record.constData());
+    return true;
+}
+
+void SettleInterrupted() {
+    const NoSizeSignal noSignal;
+    SaveRecord::SettleAll();
+}
+
+#else
+
+std::optional<QByteArray> Read(const QString& path) {
+    const qint64 size = Size(path);
+    QFile file(path);
+    if (size < 0 || size > std::numeric_limits<int>::max() / 2 || !file.open(QIODevice::ReadOnly))
+        return std::nullopt;
+    QByteArray content = file.readAll();
+    return file.error() == QFileDevice::NoError ? std::optional(content) : std::nullopt;
+}
+
+bool Write(const QString& path, QByteArrayView content, Readers) {
+    QSaveFile file(path);
+    if (!file.open(QIODevice::WriteOnly))
+        return false;
+    if (file.write(content.data(), content.size()) != content.size())
+        file.cancelWriting();
+    return file.commit();
+}
+
+void SettleInterrupted() {}
+
+#endif
+
+} // namespace WholeFile

@@ -1,0 +1,134 @@
+#include "platform/text/TextBuffer.h"
+
+#include <algorithm>
+#include <Qsci/qsciscintillabase.h>
+#include <utility>
+
+namespace {
+
+using Control = QsciScintillaBase;
+
+/// The UTF-16 units of a text: one for each byte that begins a character, and one more for those beyond the
+/// first plane, which take four bytes.
+int Units(QByteArrayView utf8) {
+    int units = 0;
+    for (const char byte : utf8) {
+        const auto value = static_cast<unsigned char>(byte);
+        units += (value & 0xc0) != 0x80;
+        units += value >= 0xf0;
+    }
+    return units;
+}
+
+} // namespace
+
+TextBuffer::TextBuffer(const QsciScintillaBase& control) : control_(control) {}
+
+long TextBuffer::Ask(unsigned int message, long wParam, long lParam) const {
+    return control_.SendScintilla(message, static_cast<unsigned long>(wParam), lParam);
+}
+
+void TextBuffer::SetUp() {
+    Ask(Control::SCI_SETCODEPAGE, Control::SC_CP_UTF8);
+    Ask(Control::SCI_ALLOCATELINECHARACTERINDEX, Control::SC_LINECHARACTERINDEX_UTF16);
+}
+
+int TextBuffer::Bytes() const {
+    return static_cast<int>(Ask(Control::SCI_GETLENGTH));
+}
+
+void TextBuffer::FreshenIndex() const {
+    if (!std::exchange(indexIsStale_, false))
+        return;
+    Ask(Control::SCI_RELEASELINECHARACTERINDEX, Control::SC_LINECHARACTERINDEX_UTF16);
+    Ask(Control::SCI_ALLOCATELINECHARACTERINDEX, Control::SC_LINECHARACTERINDEX_UTF16);
+}
+
+int TextBuffer::CharFromByte(int byte) const {
+    if (IsAscii())
+        return byte;
+    FreshenIndex();
+    const int line = LineOf(byte);
+    return static_cast<int>(
+        Ask(Control::SCI_INDEXPOSITIONFROMLINE, line, Control::SC_LINECHARACTERINDEX_UTF16) +
+        Ask(Control::SCI_COUNTCODEUNITS, LineStart(line), byte));
+}
+
+int TextBuffer::ByteFromChar(int position) const {
+    if (position >= length_)
+        return Bytes();
+    if (IsAscii())
+        return position;
+    FreshenIndex();
+    const long line = Ask(Control::SCI_LINEFROMINDEXPOSITION, position, Control::SC_LINECHARACTERINDEX_UTF16);
+    const long rest =
+        position - Ask(Control::SCI_INDEXPOSITIONFROMLINE, line, Control::SC_LINECHARACTERINDEX_UTF16);
+    const int start = LineStart(static_cast<int>(line));
+    return rest == 0 ? start : static_cast<int>(Ask(Control::SCI_POSITIONRELATIVECODEUNITS, start, rest));
+}
+
+ByteRange TextBuffer::FromChars(qint64 start, qint64 end) const {
+    const qint64 from = std::clamp<qint64>(start, 0, length_);
+    const qint64 to = std::clamp<qint64>(end, from, length_);
+    return {ByteFromChar(static_cast<int>(from)), ByteFromChar(static_cast<int>(to))};
+}
+
+ByteRange TextBuffer::CharacterAt(int byte) const {
+    return {byte, static_cast<int>(Ask(Control::SCI_POSITIONAFTER, byte))};
+}
+
+ByteRange TextBuffer::CharacterBefore(int byte) const {
+    return {static_cast<int>(Ask(Control::SCI_POSITIONBEFORE, byte)), byte};
+}
+
+QString TextBuffer::Text(ByteRange range) const {
+    return QString::fromUtf8(InPlace(range));
+}
+
+QByteArrayView TextBuffer::InPlace(ByteRange range) const {
+    if (range.end <= range.start)
+        return QByteArrayView();
+    const long address = Ask(Control::SCI_GETRANGEPOINTER, range.start, range.Length());
+    return {reinterpret_cast<const char*>(address), range.Length()};
+}
+
+int TextBuffer::LineCount() const {
+    return static_cast<int>(Ask(Control::SCI_GETLINECOUNT));
+}
+
+int TextBuffer::LineOf(int byte) const {
+    return static_cast<int>(Ask(Control::SCI_LINEFROMPOSITION, byte));
+}
+
+int TextBuffer::LineStart(int line) const {
+    return static_cast<int>(Ask(Control::SCI_POSITIONFROMLINE, line));
+}
+
+QString TextBuffer::LineEnd() const {
+    if (LineCount() < 2)
+        return QStringLiteral("\r\n");
+    return Text({static_cast<int>(Ask(Control::SCI_GETLINEENDPOSITION, 0)), LineStart(1)});
+}
+
+void TextBuffer::CountInsertion(ByteRange range) {
+    const QByteArrayView text = InPlace(range);
+    length_ += Units(text);
+    const long before = Ask(Control::SCI_GETCHARAT, range.start - 1);
+    const long behind = Ask(Control::SCI_GETCHARAT, range.end);
+    NoteSeam(before, behind);
+    NoteSeam(before, text.front());
+    NoteSeam(text.back(), behind);
+}
+
+void TextBuffer::CountDeletion(ByteRange range) {
+    length_ -= IsAscii() ? range.Length() : Units(InPlace(range));
+    const long before = Ask(Control::SCI_GETCHARAT, range.start - 1);
+    const long behind = Ask(Control::SCI_GETCHARAT, range.end);
+    NoteSeam(before, behind);
+    NoteSeam(before, Ask(Control::SCI_GETCHARAT, range.start));
+    NoteSeam(Ask(Control::SCI_GETCHARAT, range.end - 1), behind);
+}
+
+void TextBuffer::NoteSeam(long left, long right) {
+    indexIsStale_ = indexIsStale_ || (left == '\r' && right == '\n');
+}

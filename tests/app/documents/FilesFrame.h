@@ -1,0 +1,65 @@
+// A test frame whose files really open and save: the menu entries of the recent files, and the commands on
+// files.
+#pragma once
+
+#include "app/documents/FileCommands.h"
+#include "app/documents/OpenDocument.h"
+#include "app/documents/Preview.h"
+#include "app/documents/Skeletons.h"
+#include "support/FreshUser.h"
+#include "support/TestFrame.h"
+
+#include <gtest/gtest.h>
+#include <QAction>
+#include <QFile>
+
+class FilesFrame : public TestFrame {
+  public:
+    FilesFrame() {
+        for (int n = 0; n < 8; ++n)
+            AddEntry(QStringLiteral("mnuFileArray_%1").arg(n));
+        AddEntry(QStringLiteral("mnuSep10"));
+        FillFileCommands(*this);
+        FillSkeletonCommands(*this);
+        FillPreviewCommands(*this);
+    }
+    void OpenDocumentFile(const QString& path) override {
+        opened << path;
+        ::OpenDocumentFile(*this, path);
+    }
+    void SaveActiveDocument() override {
+        ++saves;
+        mnuSave_Click(*this);
+    }
+    void Run(const char* command) { commands.Run(QString::fromLatin1(command)); }
+
+    /// The paths of the recent files that are shown, the newest first.
+    QStringList Recent() {
+        QStringList shown;
+        for (int n = 0; n < 8; ++n) {
+            const QAction* entry = MenuEntry(QStringLiteral("mnuFileArray_%1").arg(n));
+            if (entry->isVisible())
+                shown << entry->text();
+        }
+        return shown;
+    }
+
+    static QString At(const QString& name) { return TestFolder() + u'/' + name; }
+    static QString Make(const QString& name, const QByteArray& content) {
+        QFile file(At(name));
+        EXPECT_TRUE(file.open(QIODevice::WriteOnly));
+        EXPECT_EQ(file.write(content), content.size());
+        return At(name);
+    }
+    static QByteArray Content(const QString& path) {
+        QFile file(path);
+        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("(unreadable)");
+    }
+
+  private:
+    void AddEntry(const QString& name) {
+        auto* entry = new QAction(window.get());
+        entry->setObjectName(name);
+        entry->setVisible(false);
+    }
+};

@@ -1,0 +1,147 @@
+// The Window menu: cascade, tile, line up, and the list of windows.
+#include "app/surface/WindowCommands.h"
+
+#include "app/window/DocumentTabs.h"
+#include "app/RealFrame.h"
+
+#include <QDialog>
+#include <QMenu>
+
+namespace {
+
+class WindowCommands : public FrameTest {
+  protected:
+    WindowCommands() {
+        Write(Keys::TemplateWindowState, "0");
+        EXPECT_TRUE(run.Start());
+    }
+    QStringList List() {
+        auto& menu = run.Find<QMenu>("mnuWindow");
+        menu.popup(QPoint(0, 0));
+        menu.hide();
+        QStringList list;
+        for (QAction* entry : menu.actions())
+            if (entry->objectName().startsWith(QStringLiteral("mnuWindowList_")))
+                list << entry->text() + (entry->isChecked() ? QStringLiteral(" *") : QString());
+        return list;
+    }
+    ProgramRun run;
+};
+
+TEST_F(WindowCommands, CascadeStepsEachWindow) {
+    for (int n = 0; n < 3; ++n)
+        run.New().showMaximized();
+    run.Entry("mnuCascade").trigger();
+    const auto windows = run.frame->Area().subWindowList();
+    for (qsizetype n = 1; n < windows.size(); ++n) {
+        EXPECT_GT(windows[n]->x(), windows[n - 1]->x());
+        EXPECT_GT(windows[n]->y(), windows[n - 1]->y());
+        EXPECT_FALSE(windows[n]->isMaximized());
+        EXPECT_GT(windows[n]->height(), run.frame->Area().height() / 2);
+    }
+}
+
+TEST_F(WindowCommands, TileFillsTheAreaInRows) {
+    run.New();
+    run.New();
+    run.New().showMinimized();
+    run.frame->ActivateDocument(dynamic_cast<frmTemplate&>(*run.frame->Area().subWindowList()[1]));
+    run.Active().showMaximized();
+    run.Entry("mnuTile").trigger();
+    const QSize area = run.frame->Area().viewport()->size();
+    const auto windows = run.frame->Area().subWindowList();
+    EXPECT_EQ(windows[0]->geometry(), QRect(0, 0, area.width(), area.height() / 2));
+    EXPECT_EQ(windows[1]->geometry().top(), area.height() / 2);
+    EXPECT_EQ(windows[1]->width(), area.width());
+    EXPECT_FALSE(windows[1]->isMaximized());
+    EXPECT_TRUE(windows[2]->isMinimized());
+}
+
+TEST_F(WindowCommands, ClickIntoATiledDocumentSelectsItsTab) {
+    for (const QString& name : {QStringLiteral("a.htm"), QStringLiteral("b.htm")}) {
+        const QString path = TestFolder() + u'/' + name;
+        QFile file(path);
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+        file.write("text");
+        file.close();
+        run.frame->OpenDocumentFile(path);
+    }
+    run.Entry("mnuTile").trigger();
+    const auto windows = run.frame->Area().subWindowList();
+    auto& strip = run.frame->TabStrip2();
+    for (const int index : {0, 1, 0}) {
+        QWidget* text = dynamic_cast<frmTemplate&>(*windows[index]).txtInput().viewport();
+        QTest::mouseClick(text, Qt::LeftButton, {}, QPoint(20, 10));
+        EXPECT_EQ(run.frame->Area().currentSubWindow(), windows[index]);
+        EXPECT_EQ(strip.currentIndex(), index);
+        EXPECT_EQ(strip.Tag(strip.currentIndex()), run.Active().Caption());
+    }
+}
+
+TEST_F(WindowCommands, ArrangeIconsLinesUpMinimisedWindows) {
+    run.New();
+    QList<frmTemplate*> icons = {&run.New(), &run.New()};
+    for (frmTemplate* icon : icons) {
+        icon->showMinimized();
+        icon->move(33, 44);
+    }
+    run.Entry("mnuArrangeIcons").trigger();
+    const int height = run.frame->Area().viewport()->height();
+    EXPECT_EQ(icons[0]->pos(), QPoint(0, height - icons[0]->height()));
+    EXPECT_EQ(icons[1]->pos(), QPoint(icons[0]->width(), height - icons[1]->height()));
+    EXPECT_TRUE(icons[0]->isMinimized());
+}
+
+TEST_F(WindowCommands, ArrangingNothingIsHarmless) {
+    for (const char* entry : {"mnuCascade", "mnuTile", "mnuArrangeIcons"})
+        run.Entry(entry).trigger();
+    EXPECT_EQ(run.frame->ActiveForm(), nullptr);
+}
+
+TEST_F(WindowCommands, ListNamesTheWindowsAtTheMenusEnd) {
+    EXPECT_TRUE(List().isEmpty());
+    const auto entries = run.Find<QMenu>("mnuWindow").actions().size();
+    const QString path = MakeFile(QStringLiteral("a & b.htm"), "x");
+    run.New();
+    run.frame->OpenDocumentFile(path);
+    QString shown = path;
+    EXPECT_EQ(List(), QStringList({QStringLiteral("&1 "), QStringLiteral("&2 ") +
+                                                              shown.replace(u'&', QStringLiteral("&&")) +
+                                                              QStringLiteral(" *")}));
+    EXPECT_EQ(List().size(), 2);
+    run.Active().Unload();
+    run.Active().Unload();
+    EXPECT_TRUE(List().isEmpty());
+    EXPECT_EQ(run.Find<QMenu>("mnuWindow").actions().size(), entries);
+}
+
+TEST_F(WindowCommands, ListMarksTheActiveDocumentUnderADialogToo) {
+    run.New();
+    run.New();
+    QDialog dialog(run.frame.get());
+    dialog.show();
+    dialog.activateWindow();
+    QCoreApplication::processEvents();
+    EXPECT_EQ(List(), QStringList({QStringLiteral("&1 "), QStringLiteral("&2  *")}));
+}
+
+TEST_F(WindowCommands, ListHasDigitKeysForNineWindows) {
+    for (int n = 1; n <= 10; ++n)
+        run.New();
+    const QStringList list = List();
+    ASSERT_EQ(list.size(), 10);
+    EXPECT_EQ(list[8], QStringLiteral("&9 "));
+    EXPECT_EQ(list[9], QStringLiteral("10  *"));
+}
+
+TEST_F(WindowCommands, ListEntryActivatesItsWindow) {
+    frmTemplate& first = run.New();
+    run.New();
+    first.showMinimized();
+    List();
+    run.Find<QMenu>("mnuWindow").findChild<QAction*>(QStringLiteral("mnuWindowList_1"))->trigger();
+    EXPECT_EQ(run.frame->ActiveForm(), static_cast<Document*>(&first));
+    EXPECT_FALSE(first.isMinimized());
+}
+
+} // namespace

@@ -1,0 +1,70 @@
+// Characters and bytes of a text, both ways.
+#include "platform/text/TextParts.h"
+
+namespace {
+
+using namespace Qt::StringLiterals;
+
+using TextBufferTest = TextParts;
+
+/// Each place where a character starts, in characters and in bytes, and the end.
+void ExpectCounts(const TextBuffer& buffer, const QString& text) {
+    EXPECT_EQ(buffer.Length(), text.size());
+    EXPECT_EQ(buffer.Bytes(), text.toUtf8().size());
+    for (int at = 0; at <= text.size(); ++at) {
+        if (at < text.size() && text[at].isLowSurrogate())
+            continue;
+        const auto byte = static_cast<int>(text.left(at).toUtf8().size());
+        EXPECT_EQ(buffer.ByteFromChar(at), byte) << at;
+        EXPECT_EQ(buffer.CharFromByte(byte), at) << at;
+    }
+}
+
+TEST_F(TextBufferTest, CharactersAreCountedAsAStringCountsThem) {
+    for (const QString& text :
+         {u""_s, u"plain"_s, u"a\r\nb\rc\n"_s, u"caf\u00e9 \u20ac\r\n\u00e9\n"_s,
+          u"\u05d0\u05d1 \u65e5\u672c\r\ne\u0301x"_s, u"a\U0001F600b\n\U0001F600\U0001F600\r\nz"_s}) {
+        Put(text);
+        ExpectCounts(buffer, text);
+    }
+}
+
+TEST_F(TextBufferTest, TheCountSurvivesALineEndTakenApartAndJoined) {
+    Put(u"\u00e9\r\n\u00e9x"_s);
+    // Between the CR and the LF, and out again.
+    editing.MoveCaret(3);
+    editing.ReplaceSelection(QByteArrayLiteral("ab"));
+    ExpectCounts(buffer, u"\u00e9\rab\n\u00e9x"_s);
+    editing.Replace({3, 5}, QByteArray(), StyleRuns());
+    ExpectCounts(buffer, u"\u00e9\r\n\u00e9x"_s);
+    Send(Control::SCI_UNDO);
+    ExpectCounts(buffer, u"\u00e9\rab\n\u00e9x"_s);
+}
+
+TEST_F(TextBufferTest, APositionBehindTheEndIsTheEndAndARangeIsCutToWhatThereIs) {
+    Put(u"\u00e9a"_s);
+    EXPECT_EQ(buffer.ByteFromChar(99), 3);
+    EXPECT_EQ(buffer.FromChars(-5, 1), (ByteRange{0, 2}));
+    EXPECT_EQ(buffer.FromChars(1, qint64{1} << 40), (ByteRange{2, 3}));
+    EXPECT_TRUE(buffer.FromChars(2, 1).Empty());
+}
+
+TEST_F(TextBufferTest, TheLineEndIsThatOfTheFirstLine) {
+    const QString rows[][2] = {
+        {u"a"_s, u"\r\n"_s}, {u"a\nb\r\n"_s, u"\n"_s}, {u"a\rb\n"_s, u"\r"_s}, {u"\r\n\n"_s, u"\r\n"_s}};
+    for (const auto& [text, end] : rows) {
+        Put(text);
+        EXPECT_EQ(buffer.LineEnd(), end) << text.toStdString();
+    }
+}
+
+TEST_F(TextBufferTest, LinesStartBehindEachKindOfLineEnd) {
+    Put(u"\u00e9\r\nb\rc\nd"_s);
+    EXPECT_EQ(buffer.LineCount(), 4);
+    EXPECT_EQ(buffer.LineStart(1), 4);
+    EXPECT_EQ(buffer.LineStart(2), 6);
+    EXPECT_EQ(buffer.LineOf(7), 2);
+    EXPECT_EQ(buffer.LineOf(8), 3);
+}
+
+} // namespace
