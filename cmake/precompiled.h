@@ -1,5 +1,5 @@
-// What nearly every source needs of Qt and the standard library, read once. Kept lean: a source includes what it uses all
-// the same, and a header that few include would cost each source more than it saves.
+// What nearly every source needs of Qt and the standard library, read once. Kept lean: a source includes what
+// it uses all the same, and a header that few include would cost each source more than it saves.
 #pragma once
 
 #include <algorithm>

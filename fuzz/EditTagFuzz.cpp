@@ -1,11 +1,11 @@
 // Edit Tag on every kind of caret in random text: the tag found is that of a plain scan, its attributes read
 // back as the table says, and the command takes out the selected tag and nothing else.
-#include "builders/commands/EditTag.h"
 #include "builders/applets/EmbedTag.h"
-#include "builders/page/frmBody.h"
 #include "builders/applets/frmEmbed.h"
+#include "builders/commands/EditTag.h"
 #include "builders/links/frmGraphicLink.h"
 #include "builders/links/ImageTag.h"
+#include "builders/page/frmBody.h"
 #include "editor/color/TagEnds.h"
 #include "FuzzApplication.h"
 #include "platform/values/Cp1252.h"

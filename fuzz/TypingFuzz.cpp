@@ -1,12 +1,12 @@
 // The typing engine under random keys: the text, the caret and every colour are those of a plain model that
 // knows nothing of the control. With the auto-fill lists on, where there is no model, nothing may break and
 // every character has a colour.
-#include "editor/typing/CharacterTable.h"
 #include "editor/autofill/frmDropDown.h"
 #include "editor/color/WriteColoredText.h"
+#include "editor/typing/CharacterTable.h"
 #include "FuzzApplication.h"
-#include "platform/values/Cp1252.h"
 #include "platform/text/RtfReader.h"
+#include "platform/values/Cp1252.h"
 #include "support/TypingFrame.h"
 
 #include <cstdlib>

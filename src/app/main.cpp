@@ -1,9 +1,9 @@
 // The program: one frame, one copy for each user, one event loop.
 #include "app/run/DisplayGuard.h"
-#include "app/window/frmTarnwick.h"
 #include "app/run/RunProgram.h"
 #include "app/run/SingleInstance.h"
 #include "app/run/TerminalAnswer.h"
+#include "app/window/frmTarnwick.h"
 #include "app/window/WindowButtonStyle.h"
 #include "platform/desktop/CommandLine.h"
 #include "platform/desktop/DesktopPrompts.h"

@@ -1,4 +1,3 @@
-// The file dialog of links, frames and the site tools: filters and selection.
 #include "dialogs/CDialog.h"
 
 #include "dialogs/DialogState.h"

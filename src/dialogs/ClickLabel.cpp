@@ -1,4 +1,3 @@
-// A label that can be clicked.
 #include "dialogs/ClickLabel.h"
 
 #include <QMouseEvent>

@@ -1,4 +1,3 @@
-// A label that shows a colour and can be clicked, by mouse and by keyboard.
 #include "dialogs/ColorSample.h"
 
 #include "platform/text/ColorNumber.h"

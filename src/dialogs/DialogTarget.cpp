@@ -2,9 +2,9 @@
 #include "dialogs/CDialog.h"
 
 #include "dialogs/PictureFile.h"
-#include "platform/values/Cp1252.h"
-#include "platform/text/RichTextBox.h"
 #include "platform/store/WholeFile.h"
+#include "platform/text/RichTextBox.h"
+#include "platform/values/Cp1252.h"
 
 #include <QBuffer>
 #include <QComboBox>

@@ -1,4 +1,3 @@
-// A titled frame around one field, whose title is the field's label.
 #include "dialogs/FieldFrame.h"
 
 #include <QComboBox>

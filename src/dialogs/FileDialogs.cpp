@@ -1,4 +1,3 @@
-// Picking a file in a tag dialog: the filters, the file dialog, the picture browse.
 #include "dialogs/FileDialogs.h"
 
 #include "dialogs/DialogState.h"

@@ -1,4 +1,3 @@
-// What the controls of all tag dialogs have in common.
 #include "dialogs/FormFields.h"
 
 #include "platform/values/Cp1252.h"

@@ -1,4 +1,3 @@
-// How large the preview of a picture is.
 #include "dialogs/ImagePreview.h"
 
 ImagePreview PreviewOf(QSize picture) {

@@ -1,4 +1,3 @@
-// Keys that act on a list.
 #include "dialogs/ListKeys.h"
 
 #include <QKeyEvent>

@@ -1,4 +1,3 @@
-// A field that holds the path of a file: what a picked file becomes in it, and its slashes.
 #include "dialogs/PathField.h"
 
 #include "dialogs/Paths.h"

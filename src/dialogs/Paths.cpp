@@ -1,4 +1,3 @@
-// From a picked file to a link target: exact case, paths relative to the document, slashes.
 #include "dialogs/Paths.h"
 
 #include "platform/values/Path.h"

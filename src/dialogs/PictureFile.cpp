@@ -1,4 +1,3 @@
-// Pictures read from files that the user names.
 #include "dialogs/PictureFile.h"
 
 #include "platform/store/WholeFile.h"

@@ -1,9 +1,8 @@
-// What all tag dialogs have in common: owner, OK, Cancel, and an end that leaves nothing behind.
 #include "dialogs/TagDialog.h"
 
+#include "editor/color/InsertTag.h"
 #include "editor/frame/Forms.h"
 #include "editor/frame/Frame.h"
-#include "editor/color/InsertTag.h"
 
 #include <QPushButton>
 

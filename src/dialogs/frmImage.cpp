@@ -1,4 +1,3 @@
-// The picture preview that stands beside the file list while a picture is picked.
 #include "dialogs/frmImage.h"
 
 #include "dialogs/ImagePreview.h"

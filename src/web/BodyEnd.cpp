@@ -1,4 +1,3 @@
-// Where a page's body ends in its source.
 #include "web/BodyEnd.h"
 
 #include "web/PageBlank.h"

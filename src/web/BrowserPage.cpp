@@ -1,4 +1,3 @@
-// The page of the browser control: what it may ask of the user.
 #include "web/BrowserPage.h"
 
 #include <algorithm>

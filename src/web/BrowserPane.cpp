@@ -1,4 +1,3 @@
-// The browser control: shows a page's file and follows its links.
 #include "web/BrowserPane.h"
 
 #include "web/BrowserPage.h"

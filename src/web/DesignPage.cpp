@@ -1,4 +1,3 @@
-// The page of the design control: it shows one text, lets the user edit it, and goes nowhere.
 #include "web/DesignPage.h"
 
 #include "web/PageSource.h"

@@ -1,4 +1,3 @@
-// The design control: edits a page as it looks, and writes it back to its file.
 #include "web/DesignPane.h"
 
 #include "platform/store/WholeFile.h"

@@ -1,4 +1,3 @@
-// Keeps pages away from files that no page needs.
 #include "web/FileGuard.h"
 
 #include <QDir>

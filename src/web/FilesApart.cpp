@@ -1,4 +1,3 @@
-// Makes each file an origin of its own, as browsers do.
 #include "web/FilesApart.h"
 
 #include <QtGlobal>

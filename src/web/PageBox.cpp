@@ -1,4 +1,3 @@
-// The box in which a page speaks to the user.
 #include "web/PageBox.h"
 
 #include <QCheckBox>

@@ -1,4 +1,3 @@
-// The encoding of a page's file: found, decoded, and encoded back with nothing lost.
 #include "web/PageEncoding.h"
 
 #include "platform/values/Cp1252.h"

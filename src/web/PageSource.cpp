@@ -1,4 +1,3 @@
-// A page's source text, and how a page edited as it looks becomes source again.
 #include "web/PageSource.h"
 
 #include "web/BodyEnd.h"

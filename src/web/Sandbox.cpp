@@ -1,4 +1,3 @@
-// The engine's sandbox, which keeps what a page does to its process from the rest of the machine.
 #include "web/Sandbox.h"
 
 #include <QByteArray>

@@ -1,4 +1,3 @@
-// The plugin's entry point.
 #include "web/WebControlsPlugin.h"
 
 #include "web/BrowserPane.h"

@@ -1,4 +1,3 @@
-// What both controls are: a widget with an engine's view in it, once there is something to show.
 #include "web/WebPane.h"
 
 #include "web/FileGuard.h"

@@ -1,9 +1,9 @@
 // One act of the user is one undo step: every command, dialog, user button and key that changes a page.
 #include "app/Acts.h"
 
+#include "app/documents/OpenDocument.h"
 #include "app/options/frmExternal.h"
 #include "app/surface/NewEntries.h"
-#include "app/documents/OpenDocument.h"
 #include "app/surface/UserButtons.h"
 #include "editor/frame/Forms.h"
 #include "editor/views/Modes.h"

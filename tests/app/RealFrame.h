@@ -1,18 +1,18 @@
 // The program's own frame, started and stopped as main() does, for a user who ran it before.
 #pragma once
 
-#include "app/window/frmTarnwick.h"
 #include "app/documents/frmTemplate.h"
 #include "app/run/ProgramState.h"
 #include "app/run/Shutdown.h"
 #include "app/run/Startup.h"
+#include "app/window/frmTarnwick.h"
 #include "editor/autofill/AutoFillList.h"
 #include "editor/color/ColorStream.h"
-#include "editor/views/DesignVisit.h"
 #include "editor/frame/EditorOptions.h"
 #include "editor/typing/UserButtonTexts.h"
-#include "platform/text/RichTextBox.h"
+#include "editor/views/DesignVisit.h"
 #include "platform/store/Settings.h"
+#include "platform/text/RichTextBox.h"
 #include "support/FreshUser.h"
 #include "support/ScriptedPrompts.h"
 #include "support/Text.h"

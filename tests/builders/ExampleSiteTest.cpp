@@ -1,6 +1,6 @@
 // The pages of the example site, read by the program's own dialogs: each field shows what its tag says.
-#include "builders/DialogTest.h"
 #include "builders/commands/EditTag.h"
+#include "builders/DialogTest.h"
 #include "dialogs/TagRows.h"
 #include "platform/values/Cp1252.h"
 #include "support/SourceFolder.h"

@@ -6,8 +6,8 @@
 #include "editor/frame/Forms.h"
 #include "editor/frame/Frame.h"
 #include "editor/views/Modes.h"
-#include "platform/text/RichTextBox.h"
 #include "platform/store/Settings.h"
+#include "platform/text/RichTextBox.h"
 #include "support/ScriptedPrompts.h"
 #include "support/Text.h"
 

@@ -1,4 +1,3 @@
-// A file that could not be read when it was opened: its blank window waits for it.
 #include "app/documents/AwaitedFile.h"
 
 #include "app/documents/DocumentFiles.h"

@@ -1,9 +1,8 @@
-// Text between files and documents: one byte of code page 1252 is one character.
 #include "app/documents/DocumentFiles.h"
 
+#include "platform/store/WholeFile.h"
 #include "platform/values/Cp1252.h"
 #include "platform/values/Values.h"
-#include "platform/store/WholeFile.h"
 
 #include <limits>
 

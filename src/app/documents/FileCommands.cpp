@@ -1,4 +1,3 @@
-// The File menu's commands on files, and Insert Contents.
 #include "app/documents/FileCommands.h"
 
 #include "app/documents/DocumentFiles.h"
@@ -10,10 +9,10 @@
 #include "editor/frame/Commands.h"
 #include "editor/frame/Document.h"
 #include "editor/frame/Frame.h"
-#include "platform/values/Path.h"
 #include "platform/desktop/Prompts.h"
-#include "platform/text/RichTextBox.h"
 #include "platform/store/Settings.h"
+#include "platform/text/RichTextBox.h"
+#include "platform/values/Path.h"
 
 #include <QWidget>
 

@@ -1,4 +1,3 @@
-// The roads by which a file becomes a document window.
 #include "app/documents/OpenDocument.h"
 
 #include "app/documents/AwaitedFile.h"

@@ -1,4 +1,3 @@
-// The active document, or a file, in the user's external browser.
 #include "app/documents/Preview.h"
 
 #include "app/run/ProgramState.h"

@@ -1,4 +1,3 @@
-// The recent files at the end of the File menu: entries mnuFileArray_0 to 7, the newest first.
 #include "app/documents/RecentFiles.h"
 
 #include "editor/frame/Document.h"

@@ -1,4 +1,3 @@
-// The commands that fill a document with a whole page: the default skeleton and the user's own template.
 #include "app/documents/Skeletons.h"
 
 #include "app/run/ProgramState.h"

@@ -1,4 +1,3 @@
-// A file's text, just read, becomes the content of a document window.
 #include "app/documents/TakeInText.h"
 
 #include "app/documents/RecentFiles.h"
@@ -7,9 +6,9 @@
 #include "editor/frame/Document.h"
 #include "editor/frame/Forms.h"
 #include "editor/frame/Frame.h"
-#include "platform/values/Path.h"
-#include "platform/text/RichTextBox.h"
 #include "platform/store/Settings.h"
+#include "platform/text/RichTextBox.h"
+#include "platform/values/Path.h"
 
 #include <utility>
 

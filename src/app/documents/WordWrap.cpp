@@ -1,4 +1,3 @@
-// Word wrap of a document's text.
 #include "app/documents/WordWrap.h"
 
 #include "platform/text/RichTextBox.h"

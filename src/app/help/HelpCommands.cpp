@@ -1,4 +1,3 @@
-// The Help menu and the help key.
 #include "app/help/HelpCommands.h"
 
 #include "app/run/frmSplash.h"

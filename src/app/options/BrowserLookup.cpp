@@ -1,4 +1,3 @@
-// Finds a web browser on this machine, to offer it where the user has set none.
 #include "app/options/BrowserLookup.h"
 
 #include <QStandardPaths>

@@ -1,16 +1,15 @@
-// The values that the program carries: read from the store as it starts, written back as it stops.
 #include "app/run/CarriedValues.h"
 
-#include "app/window/MainFrame.h"
-#include "app/run/ProgramState.h"
 #include "app/documents/RecentFiles.h"
+#include "app/run/ProgramState.h"
 #include "app/surface/UserButtons.h"
+#include "app/window/MainFrame.h"
 #include "dialogs/DialogState.h"
 #include "editor/frame/EditorOptions.h"
 #include "editor/spelling/SpellChecker.h"
 #include "editor/typing/UserButtonTexts.h"
-#include "platform/values/Path.h"
 #include "platform/store/Settings.h"
+#include "platform/values/Path.h"
 #include "platform/values/Values.h"
 
 #include <cmath>

@@ -1,4 +1,3 @@
-// A start without a display.
 #include "app/run/DisplayGuard.h"
 
 #include <cstdio>

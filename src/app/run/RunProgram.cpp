@@ -1,12 +1,11 @@
-// One run of the program, from the start screen to the end of the process.
 #include "app/run/RunProgram.h"
 
-#include "app/run/frmSplash.h"
-#include "app/window/frmTarnwick.h"
 #include "app/documents/frmTemplate.h"
-#include "app/window/Icons.h"
+#include "app/run/frmSplash.h"
 #include "app/run/SingleInstance.h"
 #include "app/run/Startup.h"
+#include "app/window/frmTarnwick.h"
+#include "app/window/Icons.h"
 
 #include <QApplication>
 #include <QDeadlineTimer>

@@ -1,10 +1,9 @@
-// What happens as the main frame closes: dialogs and documents go, and the settings go out.
 #include "app/run/Shutdown.h"
 
+#include "app/documents/RecentFiles.h"
+#include "app/run/ProgramState.h"
 #include "app/window/KnownForms.h"
 #include "app/window/MainFrame.h"
-#include "app/run/ProgramState.h"
-#include "app/documents/RecentFiles.h"
 #include "app/window/WindowState.h"
 #include "dialogs/frmImage.h"
 #include "editor/frame/Document.h"

@@ -1,4 +1,3 @@
-// One copy of the program at a time for each user.
 #include "app/run/SingleInstance.h"
 
 #include "platform/store/ProgramFolder.h"

@@ -1,4 +1,3 @@
-// A notice in the status bar that outlasts the window's coming up.
 #include "app/run/StandingNotice.h"
 
 #include "app/window/StatusPanels.h"

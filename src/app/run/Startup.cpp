@@ -1,13 +1,12 @@
-// What happens as the main frame loads: the settings come in, and the document of the command line.
 #include "app/run/Startup.h"
 
+#include "app/documents/RecentFiles.h"
+#include "app/run/ProgramState.h"
+#include "app/run/StandingNotice.h"
+#include "app/run/Version.h"
+#include "app/surface/UserButtons.h"
 #include "app/window/DocumentTabs.h"
 #include "app/window/MainFrame.h"
-#include "app/run/ProgramState.h"
-#include "app/documents/RecentFiles.h"
-#include "app/run/StandingNotice.h"
-#include "app/surface/UserButtons.h"
-#include "app/run/Version.h"
 #include "app/window/WindowPlace.h"
 #include "editor/frame/Commands.h"
 #include "editor/typing/UserButtonTexts.h"

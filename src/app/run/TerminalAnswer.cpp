@@ -1,4 +1,3 @@
-// What the program says on the terminal instead of starting.
 #include "app/run/TerminalAnswer.h"
 
 #include "app/run/Version.h"

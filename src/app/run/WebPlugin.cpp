@@ -1,4 +1,3 @@
-// Loads the plugin with the browser and design controls, if it is installed.
 #include "app/run/WebPlugin.h"
 
 #include "editor/views/WebControls.h"

@@ -1,4 +1,3 @@
-// The start screen, which is the About box as well.
 #include "app/run/frmSplash.h"
 
 #include "app/run/Version.h"

@@ -1,4 +1,3 @@
-// The entries of menu and toolbar as actions, each tied to a command by its name.
 #include "app/surface/CommandActions.h"
 
 #include "editor/frame/Commands.h"

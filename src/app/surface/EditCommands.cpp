@@ -1,4 +1,3 @@
-// The Edit menu: its commands on the text, and which of them are enabled.
 #include "app/surface/EditCommands.h"
 
 #include "editor/frame/ActiveText.h"

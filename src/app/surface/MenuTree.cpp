@@ -1,4 +1,3 @@
-// The menu tree of the main frame: one table, and the menus built from it.
 #include "app/surface/MenuTree.h"
 
 #include "app/surface/CommandActions.h"

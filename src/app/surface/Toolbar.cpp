@@ -1,4 +1,3 @@
-// The toolbar: one table of its buttons, and the strip that shows them in as many rows as they need.
 #include "app/surface/Toolbar.h"
 
 #include "app/surface/CommandActions.h"

@@ -1,20 +1,19 @@
-// The commands that live only in the toolbar, and the toolbar's roads to those of the menus.
 #include "app/surface/ToolbarCommands.h"
 
+#include "app/run/ProgramState.h"
 #include "app/surface/EditCommands.h"
 #include "app/window/KnownForms.h"
-#include "app/run/ProgramState.h"
-#include "builders/lists/frmBulletList.h"
 #include "builders/commands/MenuTagCommands.h"
-#include "editor/frame/ActiveText.h"
+#include "builders/lists/frmBulletList.h"
 #include "editor/color/ColoredTags.h"
+#include "editor/color/InsertTag.h"
+#include "editor/frame/ActiveText.h"
 #include "editor/frame/Commands.h"
 #include "editor/frame/Document.h"
 #include "editor/frame/Frame.h"
-#include "editor/color/InsertTag.h"
 #include "platform/desktop/Prompts.h"
-#include "platform/text/RichTextBox.h"
 #include "platform/store/Settings.h"
+#include "platform/text/RichTextBox.h"
 #include "platform/text/UndoAction.h"
 
 #include <QFileInfo>

@@ -1,11 +1,10 @@
-// The strip of user buttons: two pages of fifteen buttons, each with two tags of the user's own.
 #include "app/surface/UserButtons.h"
 
 #include "app/surface/frmTools.h"
 #include "app/window/LeaveByEscape.h"
+#include "editor/color/InsertTag.h"
 #include "editor/frame/Forms.h"
 #include "editor/frame/Frame.h"
-#include "editor/color/InsertTag.h"
 #include "editor/typing/UserButtonTexts.h"
 
 #include <algorithm>

@@ -1,4 +1,3 @@
-// The Window menu: arranging the document windows, and the list of them at its end.
 #include "app/surface/WindowCommands.h"
 
 #include "app/window/WindowPlace.h"

@@ -1,4 +1,3 @@
-// The dialog that edits a user button: its title and its two tags.
 #include "app/surface/frmTools.h"
 
 #include "editor/frame/Forms.h"

@@ -1,4 +1,3 @@
-// The document tab strip: one tab for each document that has a file.
 #include "app/window/DocumentTabs.h"
 
 #include <QKeyEvent>

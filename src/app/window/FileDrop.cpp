@@ -1,4 +1,3 @@
-// Files dropped on the frame.
 #include "app/window/FileDrop.h"
 
 #include <QDropEvent>

@@ -1,4 +1,3 @@
-// A layout that sets its items side by side and starts a new row where the width is used up.
 #include "app/window/FlowLayout.h"
 
 #include <algorithm>

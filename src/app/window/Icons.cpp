@@ -1,4 +1,3 @@
-// The program's own icons, drawn in the colours of the palette.
 #include "app/window/Icons.h"
 
 #include <QFile>

@@ -1,9 +1,9 @@
 #include "app/window/KnownForms.h"
 
+#include "app/help/HelpCommands.h"
 #include "app/options/frmExternal.h"
 #include "app/run/frmSplash.h"
 #include "app/surface/frmTools.h"
-#include "app/help/HelpCommands.h"
 #include "builders/commands/BuilderForms.h"
 
 #include <vector>

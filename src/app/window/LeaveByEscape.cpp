@@ -1,4 +1,3 @@
-// The way out of a strip by the keyboard.
 #include "app/window/LeaveByEscape.h"
 
 #include "editor/frame/ActiveText.h"

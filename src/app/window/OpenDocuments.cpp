@@ -1,4 +1,3 @@
-// The documents that stand open in the frame's area, and which of them is the active one.
 #include "app/window/OpenDocuments.h"
 
 #include "app/documents/frmTemplate.h"

@@ -1,4 +1,3 @@
-// Buttons that are held down while a box comes up.
 #include "app/window/ReleaseButtons.h"
 
 #include <QAbstractButton>

@@ -1,4 +1,3 @@
-// The status bar: date, time, and the program's own panel.
 #include "app/window/StatusPanels.h"
 
 #include <QDateTime>

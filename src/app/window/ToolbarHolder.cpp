@@ -1,4 +1,3 @@
-// The strip that holds the toolbar and follows its height.
 #include "app/window/ToolbarHolder.h"
 
 #include "app/surface/Toolbar.h"

@@ -1,4 +1,3 @@
-// The window buttons of a maximised document, in the corner of the menu bar.
 #include "app/window/WindowButtonStyle.h"
 
 #include "app/window/Icons.h"

@@ -1,4 +1,3 @@
-// Where windows stand: plain functions of rectangles.
 #include "app/window/WindowPlace.h"
 
 #include <algorithm>

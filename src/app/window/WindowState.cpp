@@ -1,4 +1,3 @@
-// The state of a window, as the settings have it.
 #include "app/window/WindowState.h"
 
 #include <QWidget>

@@ -1,4 +1,3 @@
-// The Embed dialog.
 #include "builders/applets/frmEmbed.h"
 
 #include "builders/applets/EmbedTag.h"

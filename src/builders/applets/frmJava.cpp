@@ -1,4 +1,3 @@
-// The JAVA Applet dialog.
 #include "builders/applets/frmJava.h"
 
 #include "builders/applets/AppletTags.h"

@@ -1,4 +1,3 @@
-// The JAVA Parameters dialog: writes one parameter after the other and stays open.
 #include "builders/applets/frmParam.h"
 
 #include "builders/applets/AppletTags.h"

@@ -1,15 +1,15 @@
 #include "builders/commands/EditTag.h"
 
 #include "builders/applets/EmbedTag.h"
-#include "builders/page/frmBody.h"
 #include "builders/applets/frmEmbed.h"
 #include "builders/links/frmGraphicLink.h"
 #include "builders/links/ImageTag.h"
+#include "builders/page/frmBody.h"
+#include "editor/color/TagEnds.h"
 #include "editor/frame/ActiveText.h"
 #include "editor/frame/Commands.h"
 #include "editor/frame/Forms.h"
 #include "editor/frame/Frame.h"
-#include "editor/color/TagEnds.h"
 #include "platform/text/RichTextBox.h"
 
 namespace {

@@ -1,14 +1,13 @@
-// The small commands of the Tags and Edit menus that write HTML without a dialog of their own.
 #include "builders/commands/MenuTagCommands.h"
 
 #include "builders/lists/frmBulletList.h"
+#include "editor/color/InsertTag.h"
 #include "editor/frame/ActiveText.h"
 #include "editor/frame/Commands.h"
 #include "editor/frame/Frame.h"
-#include "editor/color/InsertTag.h"
-#include "platform/values/Cp1252.h"
 #include "platform/desktop/Prompts.h"
 #include "platform/text/RichTextBox.h"
+#include "platform/values/Cp1252.h"
 
 #include <QDate>
 #include <QLocale>

@@ -1,4 +1,3 @@
-// The Image dialog: an image tag, bare or wrapped in a link.
 #include "builders/links/frmGraphicLink.h"
 
 #include "builders/links/ImageTag.h"

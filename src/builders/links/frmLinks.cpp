@@ -1,4 +1,3 @@
-// The Link dialog: an anchor around the selection.
 #include "builders/links/frmLinks.h"
 
 #include "builders/links/LinkTag.h"

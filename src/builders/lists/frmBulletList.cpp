@@ -1,4 +1,3 @@
-// The Lists dialog: collects the items of a list and writes them all at once.
 #include "builders/lists/frmBulletList.h"
 
 #include "builders/lists/ListText.h"

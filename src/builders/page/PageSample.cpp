@@ -1,4 +1,3 @@
-// A small page that shows a background colour and a background picture, as a browser would.
 #include "builders/page/PageSample.h"
 
 #include <QPainter>

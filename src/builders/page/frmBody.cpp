@@ -1,4 +1,3 @@
-// The Body dialog: writes the document's body tag anew, from the colours that it found there.
 #include "builders/page/frmBody.h"
 
 #include "builders/page/BodyTag.h"
@@ -7,10 +6,10 @@
 #include "dialogs/FormFields.h"
 #include "dialogs/PathField.h"
 #include "dialogs/PictureFile.h"
-#include "editor/frame/ActiveText.h"
-#include "editor/frame/Frame.h"
 #include "editor/color/PickColor.h"
 #include "editor/color/TagEnds.h"
+#include "editor/frame/ActiveText.h"
+#include "editor/frame/Frame.h"
 #include "platform/text/RichTextBox.h"
 #include "platform/text/UndoAction.h"
 #include "ui_frmBody.h"

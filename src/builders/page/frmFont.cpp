@@ -1,11 +1,10 @@
-// The Font dialog.
 #include "builders/page/frmFont.h"
 
 #include "builders/page/FontTag.h"
 #include "dialogs/FormFields.h"
 #include "dialogs/ListKeys.h"
-#include "editor/frame/Frame.h"
 #include "editor/color/PickColor.h"
+#include "editor/frame/Frame.h"
 #include "platform/desktop/FaceNames.h"
 #include "ui_frmFont.h"
 

@@ -1,4 +1,3 @@
-// The Horizontal Rule dialog.
 #include "builders/page/frmHRInput.h"
 
 #include "builders/page/RuleTag.h"

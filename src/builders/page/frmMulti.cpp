@@ -1,4 +1,3 @@
-// The MultiColumn dialog: lays the selection out in columns.
 #include "builders/page/frmMulti.h"
 
 #include "builders/page/ColumnTags.h"

@@ -1,4 +1,3 @@
-// The Spacer dialog: white space of a given size.
 #include "builders/page/frmSpacer.h"
 
 #include "dialogs/FormFields.h"

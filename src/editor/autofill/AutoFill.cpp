@@ -1,16 +1,15 @@
-// Offers the attributes of the tag at the caret, and writes the one that is taken.
 #include "editor/autofill/AutoFill.h"
 
 #include "editor/autofill/AutoFillList.h"
-#include "editor/frame/Document.h"
-#include "editor/frame/Forms.h"
-#include "editor/frame/Frame.h"
 #include "editor/autofill/frmDropDown.h"
 #include "editor/color/PickColor.h"
 #include "editor/color/TagCase.h"
 #include "editor/color/TagEnds.h"
-#include "platform/text/RichTextBox.h"
+#include "editor/frame/Document.h"
+#include "editor/frame/Forms.h"
+#include "editor/frame/Frame.h"
 #include "platform/store/Settings.h"
+#include "platform/text/RichTextBox.h"
 
 #include <algorithm>
 #include <QTimer>

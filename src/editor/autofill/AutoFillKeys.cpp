@@ -2,10 +2,10 @@
 
 #include "editor/autofill/AutoFill.h"
 #include "editor/autofill/AutoFillList.h"
+#include "editor/autofill/frmDropDown.h"
 #include "editor/frame/Document.h"
 #include "editor/frame/EditorOptions.h"
 #include "editor/frame/Frame.h"
-#include "editor/autofill/frmDropDown.h"
 #include "editor/typing/KeyCodes.h"
 #include "platform/text/RichTextBox.h"
 

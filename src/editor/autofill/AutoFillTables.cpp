@@ -1,4 +1,3 @@
-// The rows of the auto-fill lists: what each tag's attributes are, and what colours and alignments there are.
 #include "editor/autofill/AutoFillTables.h"
 
 #include <initializer_list>

@@ -1,4 +1,3 @@
-// ImageList1 of the auto-fill list: colour swatches and marks.
 #include "editor/autofill/DropDownIcons.h"
 
 #include <array>

@@ -1,4 +1,3 @@
-// Where the auto-fill list stands.
 #include "editor/autofill/DropDownPlace.h"
 
 #include "platform/values/Twips.h"

@@ -1,4 +1,3 @@
-// The word typed since a list opened.
 #include "editor/autofill/TrimmedWord.h"
 
 #include "platform/text/RichTextBox.h"

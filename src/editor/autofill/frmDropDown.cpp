@@ -1,11 +1,10 @@
-// The auto-fill list: attributes or values at the caret, while the keyboard stays in the text.
 #include "editor/autofill/frmDropDown.h"
 
-#include "editor/frame/ActiveText.h"
 #include "editor/autofill/AutoFillList.h"
-#include "editor/frame/Document.h"
 #include "editor/autofill/DropDownIcons.h"
 #include "editor/autofill/DropDownPlace.h"
+#include "editor/frame/ActiveText.h"
+#include "editor/frame/Document.h"
 #include "editor/frame/Forms.h"
 #include "editor/frame/Frame.h"
 #include "editor/typing/KeyCodes.h"

@@ -1,4 +1,3 @@
-// The setting ColoredTags, which is read in two ways: they differ for a stored number other than 0 and 1.
 #include "editor/color/ColoredTags.h"
 
 #include "platform/store/Settings.h"

@@ -1,13 +1,12 @@
-// The colouring pass: writes a plain HTML text, coloured, in one step.
 #include "editor/color/ColorizeText.h"
 
 #include "editor/color/ColoredTags.h"
 #include "editor/color/ColorStream.h"
+#include "editor/color/WriteColoredText.h"
 #include "editor/frame/Document.h"
 #include "editor/frame/Frame.h"
-#include "editor/color/WriteColoredText.h"
-#include "platform/text/RichTextBox.h"
 #include "platform/store/Settings.h"
+#include "platform/text/RichTextBox.h"
 #include "platform/text/UndoAction.h"
 
 #include <utility>

@@ -1,15 +1,15 @@
 #include "editor/color/InsertTag.h"
 
-#include "editor/frame/ActiveText.h"
 #include "editor/color/ColoredTags.h"
 #include "editor/color/ColorizeText.h"
-#include "editor/frame/Document.h"
-#include "editor/frame/Frame.h"
 #include "editor/color/TagCase.h"
 #include "editor/color/WriteColoredText.h"
+#include "editor/frame/ActiveText.h"
+#include "editor/frame/Document.h"
+#include "editor/frame/Frame.h"
 #include "platform/desktop/Prompts.h"
-#include "platform/text/RichTextBox.h"
 #include "platform/store/Settings.h"
+#include "platform/text/RichTextBox.h"
 #include "platform/text/UndoAction.h"
 
 #include <utility>

@@ -1,4 +1,3 @@
-// The one routine through which every coloured piece of text goes, and the rule that picks a tag's colour.
 #include "editor/color/WriteColoredText.h"
 
 #include "editor/color/ColoredTags.h"
@@ -6,8 +5,8 @@
 #include "editor/frame/Document.h"
 #include "editor/frame/EditorOptions.h"
 #include "editor/frame/Frame.h"
-#include "platform/text/RichTextBox.h"
 #include "platform/store/Settings.h"
+#include "platform/text/RichTextBox.h"
 
 #include <algorithm>
 #include <array>

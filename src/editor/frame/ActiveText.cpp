@@ -1,4 +1,3 @@
-// The text that commands work on.
 #include "editor/frame/ActiveText.h"
 
 #include "editor/frame/Document.h"

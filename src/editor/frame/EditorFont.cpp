@@ -1,4 +1,3 @@
-// The font of the documents' text, as the settings have it.
 #include "editor/frame/EditorFont.h"
 
 #include "platform/store/Settings.h"

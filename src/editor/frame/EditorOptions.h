@@ -1,8 +1,8 @@
 // What the user sets of the editor in the Options dialog.
 #pragma once
 
-#include "platform/text/ColorNumber.h"
 #include "platform/store/SettingsKeys.h"
+#include "platform/text/ColorNumber.h"
 
 #include <array>
 #include <QString>

@@ -1,4 +1,3 @@
-// The list of loaded forms: document windows and dialogs, in the order of loading.
 #include "editor/frame/Forms.h"
 
 #include "editor/frame/Document.h"

@@ -56,8 +56,8 @@ class Frame {
     /// Selects a tab of the mode strip by its caption, "Edit", "Design" or "View".
     virtual void SelectModeTab(const QString& caption) = 0;
 
-    /// The one value of type T that belongs to this frame, made at first use: program-wide state, one type for
-    /// all that changes together.
+    /// The one value of type T that belongs to this frame, made at first use: program-wide state, one type
+    /// for all that changes together.
     template <typename T> T& State() {
         auto& slot = states_[std::type_index(typeid(T))];
         if (!slot)

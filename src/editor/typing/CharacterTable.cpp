@@ -1,4 +1,3 @@
-// The typed letters that go into a document as character entities.
 #include "editor/typing/CharacterTable.h"
 
 #include <algorithm>

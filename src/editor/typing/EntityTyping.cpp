@@ -1,8 +1,8 @@
 #include "editor/typing/EntityTyping.h"
 
 #include "editor/typing/CharacterTable.h"
-#include "platform/text/RichTextBox.h"
 #include "platform/store/Settings.h"
+#include "platform/text/RichTextBox.h"
 
 void EntityTyping::KeyPress(int& KeyAscii) {
     if (!store_.ReadFlag(Keys::ConvertChar))

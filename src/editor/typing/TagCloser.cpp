@@ -1,11 +1,11 @@
 #include "editor/typing/TagCloser.h"
 
 #include "editor/color/ColorStream.h"
+#include "editor/color/TagEnds.h"
+#include "editor/color/WriteColoredText.h"
 #include "editor/frame/Document.h"
 #include "editor/frame/Frame.h"
 #include "editor/typing/KeyCodes.h"
-#include "editor/color/TagEnds.h"
-#include "editor/color/WriteColoredText.h"
 #include "platform/text/RichTextBox.h"
 
 void TagCloser::KeyPress(int& KeyAscii) {

@@ -1,7 +1,7 @@
 #include "editor/typing/TypingColor.h"
 
-#include "platform/text/RichTextBox.h"
 #include "platform/store/Settings.h"
+#include "platform/text/RichTextBox.h"
 
 void TypingColor::KeyPress() {
     if (text_.SelLength() < 1)

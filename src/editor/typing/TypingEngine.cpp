@@ -1,4 +1,3 @@
-// What happens in a document as keys are pressed.
 #include "editor/typing/TypingEngine.h"
 
 #include "editor/autofill/AutoFillList.h"

@@ -1,7 +1,7 @@
 #include "editor/typing/UserButtonKeys.h"
 
-#include "editor/frame/Frame.h"
 #include "editor/color/InsertTag.h"
+#include "editor/frame/Frame.h"
 #include "editor/typing/KeyCodes.h"
 #include "editor/typing/UserButtonTexts.h"
 

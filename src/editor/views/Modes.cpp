@@ -1,9 +1,8 @@
-// Edit, Design and View: which of its three controls a document window shows, and the click that switches.
 #include "editor/views/Modes.h"
 
-#include "editor/views/DesignVisit.h"
 #include "editor/frame/Document.h"
 #include "editor/frame/Frame.h"
+#include "editor/views/DesignVisit.h"
 #include "editor/views/WebControls.h"
 #include "platform/desktop/Prompts.h"
 #include "platform/text/RichTextBox.h"

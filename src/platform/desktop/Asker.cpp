@@ -1,4 +1,3 @@
-// Who asked: the window that owns a box, and that has the keys again when the box is gone.
 #include "platform/desktop/Asker.h"
 
 #include <QApplication>

@@ -1,4 +1,3 @@
-// What the program was started with.
 #include "platform/desktop/CommandLine.h"
 
 #include <QDir>

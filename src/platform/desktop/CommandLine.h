@@ -4,6 +4,6 @@
 #include <QString>
 #include <QStringList>
 
-/// The arguments joined by one blank, unchanged and unquoted; if the whole names an existing file relative to the
-/// working folder, its full path. Empty without arguments.
+/// The arguments joined by one blank, unchanged and unquoted; if the whole names an existing file relative to
+/// the working folder, its full path. Empty without arguments.
 QString CommandLine(const QStringList& arguments, const QString& workingFolder);

@@ -1,8 +1,7 @@
-// The prompts that a person sees: the desktop's own dialogs.
 #include "platform/desktop/DesktopPrompts.h"
 
-#include "platform/values/Cp1252.h"
 #include "platform/desktop/FileFilters.h"
+#include "platform/values/Cp1252.h"
 #include "platform/values/Path.h"
 
 #include <algorithm>

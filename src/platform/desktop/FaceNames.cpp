@@ -1,4 +1,3 @@
-// The names by which the system knows its fonts.
 #include "platform/desktop/FaceNames.h"
 
 #include <algorithm>

@@ -1,4 +1,3 @@
-// File dialog filters from their text form to Qt's.
 #include "platform/desktop/FileFilters.h"
 
 namespace {

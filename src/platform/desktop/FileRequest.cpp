@@ -1,4 +1,3 @@
-// What is asked of a file dialog, and what it answers.
 #include "platform/desktop/FileRequest.h"
 
 #include "platform/values/Path.h"

@@ -1,9 +1,9 @@
 // The one road to message boxes, input boxes, the colour dialog and the file dialogs.
 #pragma once
 
-#include "platform/text/ColorNumber.h"
 #include "platform/desktop/FileRequest.h"
 #include "platform/desktop/ProgramTitle.h"
+#include "platform/text/ColorNumber.h"
 
 #include <optional>
 #include <QByteArray>

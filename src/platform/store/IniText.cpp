@@ -1,4 +1,3 @@
-// The text of a settings file: sections, keys and values, each in a line of its own.
 #include "platform/store/IniText.h"
 
 #include <cctype>

@@ -1,4 +1,3 @@
-// A save that was under way when its process ended, and how it is settled.
 #include "platform/store/InterruptedSave.h"
 
 #ifdef Q_OS_UNIX

@@ -1,4 +1,3 @@
-// An open file, read and written whole.
 #include "platform/store/OpenFile.h"
 
 #ifdef Q_OS_UNIX

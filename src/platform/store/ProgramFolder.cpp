@@ -1,4 +1,3 @@
-// Where the program keeps its own files.
 #include "platform/store/ProgramFolder.h"
 
 #include "platform/values/Path.h"

@@ -1,4 +1,3 @@
-// What a save is about to do, written down in the program's folder until it is done.
 #include "platform/store/SaveRecord.h"
 
 #ifdef Q_OS_UNIX

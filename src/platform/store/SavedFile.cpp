@@ -1,4 +1,3 @@
-// The file that a save is about to write, and the two ways to write it.
 #include "platform/store/SavedFile.h"
 
 #ifdef Q_OS_UNIX

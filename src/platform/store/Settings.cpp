@@ -1,9 +1,8 @@
-// The per-user settings store: text by application, section and key.
 #include "platform/store/Settings.h"
 
-#include "platform/values/Path.h"
 #include "platform/store/ProgramFolder.h"
 #include "platform/store/SettingsFile.h"
+#include "platform/values/Path.h"
 #include "platform/values/Values.h"
 
 #include <algorithm>

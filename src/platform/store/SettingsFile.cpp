@@ -1,4 +1,3 @@
-// One file of the settings store: its values in memory, and the way to and from the disk.
 #include "platform/store/SettingsFile.h"
 
 #include "platform/store/WholeFile.h"

@@ -1,4 +1,3 @@
-// The keys of the settings store that carry an index, or whose default is only known at run time.
 #include "platform/store/SettingsKeys.h"
 
 #include "platform/store/ProgramFolder.h"

@@ -1,4 +1,3 @@
-// What makes a new file the same file to everyone else as the one that it replaces.
 #include "platform/store/TakeOver.h"
 
 #ifdef Q_OS_UNIX

@@ -1,4 +1,3 @@
-// Files read and written whole: a save either replaces the old file or leaves it as it was.
 #include "platform/store/WholeFile.h"
 
 #include <limits>

@@ -1,9 +1,9 @@
 #include "platform/text/KeyInput.h"
 
-#include "platform/values/Cp1252.h"
 #include "platform/text/RichTextKeys.h"
 #include "platform/text/TextEditing.h"
 #include "platform/text/UndoAction.h"
+#include "platform/values/Cp1252.h"
 
 #include <QApplication>
 #include <QClipboard>

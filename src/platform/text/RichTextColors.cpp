@@ -1,4 +1,3 @@
-// One style for each colour, and the colours that undo and redo bring back.
 #include "platform/text/RichTextColors.h"
 
 #include <algorithm>

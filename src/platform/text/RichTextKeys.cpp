@@ -1,4 +1,3 @@
-// The keys of the text control as tables.
 #include "platform/text/RichTextKeys.h"
 
 #include <QKeyEvent>

@@ -1,4 +1,3 @@
-// Turns an RTF text into plain text and the colours of its stretches, in one pass.
 #include "platform/text/RtfReader.h"
 
 #include "platform/values/Cp1252.h"

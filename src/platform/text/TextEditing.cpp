@@ -1,8 +1,8 @@
 #include "platform/text/TextEditing.h"
 
-#include "platform/values/Cp1252.h"
 #include "platform/text/TextColors.h"
 #include "platform/text/UndoAction.h"
+#include "platform/values/Cp1252.h"
 
 #include <QMimeData>
 #include <Qsci/qsciscintillabase.h>

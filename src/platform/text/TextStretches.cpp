@@ -1,4 +1,3 @@
-// Short stretches of text for the control.
 #include "platform/text/TextStretches.h"
 
 #include <algorithm>

@@ -1,4 +1,3 @@
-// Code page 1252: the 256 characters that a document can hold.
 #include "platform/values/Cp1252.h"
 
 #include <algorithm>

@@ -1,4 +1,3 @@
-// Paths in the two forms that documents know: C:\site\a.htm and /home/u/site/a.htm.
 #include "platform/values/Path.h"
 
 #include <QDir>

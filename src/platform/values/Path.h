@@ -5,7 +5,8 @@
 
 namespace Path {
 
-/// The separator of a path's own form: '/' if it starts with '/', else '\' if it holds one, else the system's.
+/// The separator of a path's own form: '/' if it starts with '/', else '\' if it holds one, else the
+/// system's.
 QChar Separator(const QString& path);
 /// The length of the root: 1 for "/", 3 for "C:\", 0 for a path without one.
 int RootLength(const QString& path);
@@ -17,8 +18,8 @@ QString Folder(const QString& path);
 QString Join(const QString& folder, const QString& name);
 /// The bare name of a file or folder as the file system reports it; empty when there is none.
 QString NameOnDisk(const QString& path);
-/// The name of a folder's entry, hidden ones included, in the upper and lower case it has on disk; one that has the
-/// very case asked for wins. Empty when there is none in any case.
+/// The name of a folder's entry, hidden ones included, in the upper and lower case it has on disk; one that
+/// has the very case asked for wins. Empty when there is none in any case.
 QString FindName(const QString& folder, const QString& name);
 
 } // namespace Path

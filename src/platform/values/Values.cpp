@@ -1,4 +1,3 @@
-// Text to value and back, as the settings and input boxes have it.
 #include "platform/values/Values.h"
 
 #include <algorithm>

@@ -1,8 +1,8 @@
 // Text to value and back, as the settings and input boxes have it.
 #pragma once
 
-#include <QString>
 #include <optional>
+#include <QString>
 
 namespace Values {
 

@@ -1,9 +1,9 @@
 // A path that can't be read: its window waits, and the program goes on.
 #include "app/documents/AwaitedFile.h"
 
-#include "app/window/DocumentTabs.h"
 #include "app/documents/FilesFrame.h"
 #include "app/RealFrame.h"
+#include "app/window/DocumentTabs.h"
 
 #include <QDialog>
 #include <QDir>

@@ -1,9 +1,9 @@
 // Document windows: how they come, what they take from the settings, and how they go.
 #include "app/documents/frmTemplate.h"
 
-#include "app/window/DocumentTabs.h"
-#include "app/surface/EditCommands.h"
 #include "app/RealFrame.h"
+#include "app/surface/EditCommands.h"
+#include "app/window/DocumentTabs.h"
 #include "editor/autofill/frmDropDown.h"
 #include "editor/views/Modes.h"
 #include "editor/views/WebControls.h"

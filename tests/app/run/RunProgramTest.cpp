@@ -2,11 +2,11 @@
 // can't be had.
 #include "app/run/RunProgram.h"
 
-#include "app/window/DocumentTabs.h"
 #include "app/options/frmExternal.h"
-#include "app/run/frmSplash.h"
 #include "app/RealFrame.h"
+#include "app/run/frmSplash.h"
 #include "app/run/SingleInstance.h"
+#include "app/window/DocumentTabs.h"
 #include "platform/store/ProgramFolder.h"
 
 #include <QAccessible>

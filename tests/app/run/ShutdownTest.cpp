@@ -1,11 +1,11 @@
 // Stopping: what goes in which order, who is asked, and what is written.
 #include "app/run/Shutdown.h"
 
+#include "app/documents/RecentFiles.h"
+#include "app/RealFrame.h"
+#include "app/surface/UserButtons.h"
 #include "app/window/DocumentTabs.h"
 #include "app/window/KnownForms.h"
-#include "app/RealFrame.h"
-#include "app/documents/RecentFiles.h"
-#include "app/surface/UserButtons.h"
 #include "dialogs/DialogState.h"
 #include "dialogs/frmImage.h"
 #include "platform/store/ProgramFolder.h"

@@ -1,11 +1,11 @@
 // The frame's load: its steps in their order, and what each takes from the settings.
 #include "app/run/Startup.h"
 
-#include "app/window/DocumentTabs.h"
 #include "app/options/frmExternal.h"
-#include "app/window/KnownForms.h"
 #include "app/RealFrame.h"
 #include "app/surface/UserButtons.h"
+#include "app/window/DocumentTabs.h"
+#include "app/window/KnownForms.h"
 #include "dialogs/DialogState.h"
 
 #include <QScreen>

@@ -1,8 +1,8 @@
 // The Window menu: cascade, tile, line up, and the list of windows.
 #include "app/surface/WindowCommands.h"
 
-#include "app/window/DocumentTabs.h"
 #include "app/RealFrame.h"
+#include "app/window/DocumentTabs.h"
 
 #include <QDialog>
 #include <QMenu>

@@ -1,10 +1,10 @@
 // What a screen reader says of the frame and of every form.
 #include "app/options/frmExternal.h"
+#include "app/RealFrame.h"
 #include "app/run/frmSplash.h"
 #include "app/surface/frmTools.h"
-#include "app/RealFrame.h"
-#include "app/window/StatusPanels.h"
 #include "app/surface/UserButtons.h"
+#include "app/window/StatusPanels.h"
 #include "builders/commands/BuilderForms.h"
 #include "editor/autofill/frmDropDown.h"
 #include "support/SourceFolder.h"

@@ -1,8 +1,8 @@
 // The mode strip of the real frame: what a click on it does to the documents and their files.
-#include "app/window/DocumentTabs.h"
 #include "app/options/frmExternal.h"
-#include "app/window/KnownForms.h"
 #include "app/RealFrame.h"
+#include "app/window/DocumentTabs.h"
+#include "app/window/KnownForms.h"
 #include "support/FakeWebControls.h"
 
 #include <QCheckBox>

@@ -1,6 +1,6 @@
 // The frame's strips as they stand on the screen, in the first start and those that follow it.
-#include "app/window/DocumentTabs.h"
 #include "app/RealFrame.h"
+#include "app/window/DocumentTabs.h"
 
 #include <QMenuBar>
 #include <QStatusBar>

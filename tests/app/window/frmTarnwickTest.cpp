@@ -1,12 +1,12 @@
 // The frame: focus, menus that pop up, the strips, and what arrives from outside.
 #include "app/window/frmTarnwick.h"
 
-#include "app/window/DocumentTabs.h"
-#include "app/run/frmSplash.h"
 #include "app/RealFrame.h"
+#include "app/run/frmSplash.h"
 #include "app/surface/Toolbar.h"
-#include "app/window/ToolbarHolder.h"
 #include "app/surface/UserButtons.h"
+#include "app/window/DocumentTabs.h"
+#include "app/window/ToolbarHolder.h"
 
 #include <QAbstractButton>
 #include <QDialog>

@@ -1,6 +1,6 @@
 // The text control's properties and signals, as the program uses them.
-#include "platform/values/Cp1252.h"
 #include "platform/text/RichTextFixture.h"
+#include "platform/values/Cp1252.h"
 
 #include <QVariant>
 
