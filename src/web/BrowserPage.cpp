@@ -54,7 +54,7 @@ BrowserPage::~BrowserPage() {
 #ifdef Q_OS_UNIX
     // The engine ends it too, but takes up all that the page has asked for before.
     const qint64 process = renderProcessPid();
-    if (process > 0 && !IsShared(process, this))
+    if (process > 0 && process != QCoreApplication::applicationPid() && !IsShared(process, this))
         ::kill(static_cast<pid_t>(process), SIGKILL);
 #endif
 }

@@ -4,6 +4,7 @@
 #include "platform/text/ColorNumber.h"
 
 #include <QFont>
+#include <QObject>
 #include <QPoint>
 #include <QRect>
 #include <QString>
@@ -42,3 +43,7 @@ class AccessibleText {
     /// Replaces the selection as pasting does.
     virtual void InsertForeign(const QString& text) = 0;
 };
+
+// Told apart by the metaobject: an object of a library that was built without run-time type information must
+// not be cast.
+Q_DECLARE_INTERFACE(AccessibleText, "tarnwick.AccessibleText")

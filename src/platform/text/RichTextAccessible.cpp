@@ -15,7 +15,7 @@ QAccessibleInterface* Create(const QString& name, QObject* object) {
     // Asked for each class that the object derives from; the object's own comes first.
     if (name != QLatin1String(object->metaObject()->className()))
         return nullptr;
-    auto* text = dynamic_cast<AccessibleText*>(object);
+    auto* text = qobject_cast<AccessibleText*>(object);
     auto* area = qobject_cast<QAbstractScrollArea*>(object);
     return text && area ? new RichTextAccessible(area, *text, *area->viewport()) : nullptr;
 }

@@ -28,6 +28,7 @@ enum class RawLineEnds;
 /// Change for one event or call, however many steps it took.
 class RichTextBox : public QsciScintillaBase, public AccessibleText {
     Q_OBJECT
+    Q_INTERFACES(AccessibleText)
     Q_PROPERTY(QString Text READ Text WRITE SetText)
     Q_PROPERTY(int SelStart READ SelStart WRITE SetSelStart)
     Q_PROPERTY(int SelLength READ SelLength WRITE SetSelLength)
