@@ -3,6 +3,7 @@
 #include <cctype>
 #include <cstring>
 #include <optional>
+#include <QStringConverter>
 
 namespace {
 
@@ -111,7 +112,10 @@ QByteArray Unquoted(QByteArrayView bytes) {
 
 /// A value of another kind than text begins with an "@", and text that begins with one has a second in front.
 QString ValueOf(QByteArrayView bytes) {
-    const QString value = QString::fromUtf8(Unquoted(bytes));
+    using Flag = QStringConverter::Flag;
+    // A mark at the start is part of the value, where plain decoding would drop it.
+    QStringDecoder decoder(QStringConverter::Utf8, Flag::Stateless | Flag::ConvertInitialBom);
+    const QString value = decoder.decode(Unquoted(bytes));
     const QString array = QStringLiteral("@ByteArray(");
     if (value.startsWith(array) && value.endsWith(u')'))
         return value.sliced(array.size()).chopped(1);
