@@ -1,4 +1,5 @@
 #include "app/run/RunProgram.h"
+#include "app/documents/Arrivals.h"
 
 #include "app/documents/frmTemplate.h"
 #include "app/run/frmSplash.h"
@@ -56,7 +57,7 @@ void ConnectFrame(frmTarnwick& frame, SingleInstance& instance, bool& stopped) {
         if (frame.isVisible())
             frame.ComeToFront();
         if (!commandLine.isEmpty())
-            frame.OpenArrivals({commandLine});
+            frame.FromOutside().Open({commandLine});
     });
 }
 
@@ -104,7 +105,7 @@ int RunProgram(frmTarnwick& frame, SingleInstance& instance, const QString& comm
     if (stopped)
         return 0;
     frame.show();
-    frame.OpenArrivals({});
+    frame.FromOutside().Open({});
     DeleteWhatIsUnloaded();
     return stopped ? 0 : QApplication::exec();
 }

@@ -1,5 +1,6 @@
 #include "app/window/frmTarnwick.h"
 
+#include "app/documents/Arrivals.h"
 #include "app/documents/FileCommands.h"
 #include "app/documents/frmTemplate.h"
 #include "app/documents/OpenDocument.h"
@@ -20,6 +21,7 @@
 #include "app/window/FileDrop.h"
 #include "app/window/KnownForms.h"
 #include "app/window/LeaveByEscape.h"
+#include "app/window/ModeStrip.h"
 #include "app/window/OpenDocuments.h"
 #include "app/window/ReleaseButtons.h"
 #include "app/window/StatusPanels.h"
@@ -38,9 +40,7 @@
 #include <QMenuBar>
 #include <QMouseEvent>
 #include <QScreen>
-#include <QSignalBlocker>
 #include <QStyle>
-#include <QTabBar>
 #include <QVBoxLayout>
 
 using namespace Qt::StringLiterals;
@@ -77,7 +77,8 @@ QWidget* Strip(const QString& name, QWidget* content) {
 frmTarnwick::frmTarnwick(Settings& store, Prompts& ask)
     : store_(store), ask_(ask), forms_(new Forms(this)), area_(new QMdiArea(this)),
       documents_(new OpenDocuments(*area_, this)), tabStrip2_(new DocumentTabs(this)),
-      tabStrip3_(new QTabBar(this)), statusBar_(new StatusBar(this)), vsSpell1_(new SpellChecker(this)) {
+      arrivals_(new Arrivals(*this, this)), statusBar_(new StatusBar(this)),
+      vsSpell1_(new SpellChecker(this)) {
     setObjectName(u"frmTarnwick"_s);
     vsSpell1_->setObjectName(u"VSSpell1"_s);
     setContextMenuPolicy(Qt::NoContextMenu);
@@ -121,7 +122,9 @@ void frmTarnwick::BuildMenuBar() {
 void frmTarnwick::BuildStrips() {
     picture3_ = new ToolbarHolder(*this);
     picture2_ = new UserButtons(*this);
-    BuildModeStrip();
+    picture4_ = new ModeStrip(*this);
+    connect(picture4_, &ModeStrip::Click, this,
+            [this](const QString& mode) { ModeStrip_Click(*this, mode); });
     area_->setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
     area_->setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
 
@@ -136,27 +139,6 @@ void frmTarnwick::BuildStrips() {
     column->addWidget(picture4_);
     setCentralWidget(content);
     setStatusBar(statusBar_);
-}
-
-void frmTarnwick::BuildModeStrip() {
-    tabStrip3_->setObjectName(u"TabStrip3"_s);
-    tabStrip3_->setAccessibleName(tr("Modes of the document"));
-    tabStrip3_->setShape(QTabBar::RoundedSouth);
-    tabStrip3_->setDrawBase(false);
-    for (const QString& mode : {u"Edit"_s, u"Design"_s, u"View"_s})
-        tabStrip3_->addTab(mode);
-    picture4_ = Strip(u"Picture4"_s, tabStrip3_);
-    LeaveByEscape(*tabStrip3_, *this);
-    connect(tabStrip3_, &QTabBar::currentChanged, this, &frmTarnwick::TabStrip3_Click);
-    // A press on another tab selects it, and comes that way.
-    connect(tabStrip3_, &QTabBar::tabBarClicked, this, [this](int index) {
-        if (index >= 0 && index == tabStrip3_->currentIndex())
-            TabStrip3_Click(index);
-    });
-}
-
-void frmTarnwick::TabStrip3_Click(int index) {
-    ModeStrip_Click(*this, tabStrip3_->tabText(index));
 }
 
 void frmTarnwick::HookWindow() {
@@ -175,7 +157,7 @@ void frmTarnwick::HookWindow() {
     });
     fileDrop_ = new FileDrop(this);
     fileDrop_->Watch(*this);
-    connect(fileDrop_, &FileDrop::Dropped, this, &frmTarnwick::OpenArrivals);
+    connect(fileDrop_, &FileDrop::Dropped, arrivals_, &Arrivals::Open);
 }
 
 Document* frmTarnwick::ActiveForm() {
@@ -238,11 +220,7 @@ void frmTarnwick::PopUpEditMenu(QPoint at) {
 }
 
 void frmTarnwick::SelectModeTab(const QString& caption) {
-    // A tab that the program selects is no click.
-    const QSignalBlocker quiet(tabStrip3_);
-    for (int index = 0; index < tabStrip3_->count(); ++index)
-        if (tabStrip3_->tabText(index) == caption)
-            tabStrip3_->setCurrentIndex(index);
+    picture4_->Select(caption);
 }
 
 void frmTarnwick::TabStrip2_Click(int index) {
@@ -265,6 +243,10 @@ void frmTarnwick::FocusForm(QWidget& form) {
     FocusDocument();
 }
 
+QWidget& frmTarnwick::Picture4() {
+    return *picture4_;
+}
+
 void frmTarnwick::FocusDocument() {
     documents_->FocusText();
 }
@@ -277,21 +259,6 @@ void frmTarnwick::SetHooks(bool activation, bool drops) {
 void frmTarnwick::SubWindowActivated(QMdiSubWindow* window) {
     if (auto* document = qobject_cast<frmTemplate*>(window))
         document->Form_Activate();
-}
-
-void frmTarnwick::OpenArrivals(const QStringList& paths) {
-    arrivals_ += paths;
-    if (!takingArrivals_)
-        TakeArrivals();
-}
-
-void frmTarnwick::TakeArrivals() {
-    takingArrivals_ = true;
-    while (!arrivals_.isEmpty() && !stopped_ && !QApplication::activeModalWidget()) {
-        OpenDocumentFile(arrivals_.takeFirst());
-        QCoreApplication::processEvents();
-    }
-    takingArrivals_ = false;
 }
 
 void frmTarnwick::ComeToFront() {
@@ -311,8 +278,10 @@ void frmTarnwick::closeEvent(QCloseEvent* event) {
         closing_ = true;
         stopped_ = Shutdown(*this).Run();
         closing_ = false;
-        if (stopped_)
+        if (stopped_) {
+            arrivals_->Stop();
             Q_EMIT Stopped();
+        }
     }
     event->setAccepted(stopped_);
 }
@@ -328,9 +297,8 @@ bool frmTarnwick::event(QEvent* event) {
         QMetaObject::invokeMethod(documents_, &OpenDocuments::Wake, Qt::QueuedConnection);
     }
     // Whatever came while a modal dialog was up.
-    if (event->type() == QEvent::WindowUnblocked && !takingArrivals_)
-        QMetaObject::invokeMethod(
-            this, [this] { OpenArrivals({}); }, Qt::QueuedConnection);
+    if (event->type() == QEvent::WindowUnblocked)
+        arrivals_->Resume();
     return QMainWindow::event(event);
 }
 

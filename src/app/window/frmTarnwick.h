@@ -6,15 +6,15 @@
 #include "editor/frame/Forms.h"
 
 #include <QMainWindow>
-#include <QStringList>
 
+class Arrivals;
 class FileDrop;
 class frmTemplate;
+class ModeStrip;
 class OpenDocuments;
 class Prompts;
 class QMdiArea;
 class QMdiSubWindow;
-class QTabBar;
 class Settings;
 class StatusBar;
 class ToolbarHolder;
@@ -50,14 +50,13 @@ class frmTarnwick final : public QMainWindow, public MainFrame {
     QMdiArea& Area() { return *area_; }
     DocumentTabs& TabStrip2() override { return *tabStrip2_; }
     UserButtons& Picture2() override { return *picture2_; }
-    QWidget& Picture4() override { return *picture4_; }
+    QWidget& Picture4() override;
     StatusBar& Panels() override { return *statusBar_; }
     SpellChecker& VSSpell1() override { return *vsSpell1_; }
     void SetHooks(bool activation, bool drops) override;
 
-    /// What another copy of the program, or a drop, brings: opens each path in turn, pending events between.
-    /// While a modal dialog is up they wait for its end.
-    void OpenArrivals(const QStringList& paths);
+    /// What another copy of the program, or a drop, brings.
+    Arrivals& FromOutside() { return *arrivals_; }
     /// Comes to the front of the desktop, out of the minimised state if need be.
     void ComeToFront();
     /// Gives the focus to the text of the active document.
@@ -78,13 +77,10 @@ class frmTarnwick final : public QMainWindow, public MainFrame {
     void FillCommands();
     void BuildMenuBar();
     void BuildStrips();
-    void BuildModeStrip();
     void HookWindow();
     void TabStrip2_Click(int index);
-    void TabStrip3_Click(int index);
     void SubWindowActivated(QMdiSubWindow* window);
     void FocusForm(QWidget& form);
-    void TakeArrivals();
 
     Settings& store_;
     Prompts& ask_;
@@ -93,16 +89,14 @@ class frmTarnwick final : public QMainWindow, public MainFrame {
     QMdiArea* area_;
     OpenDocuments* documents_;
     DocumentTabs* tabStrip2_;
-    QTabBar* tabStrip3_;
+    Arrivals* arrivals_;
     ToolbarHolder* picture3_ = nullptr;
     UserButtons* picture2_ = nullptr;
-    QWidget* picture4_ = nullptr;
+    ModeStrip* picture4_ = nullptr;
     StatusBar* statusBar_;
     SpellChecker* vsSpell1_;
-    QStringList arrivals_;
     FileDrop* fileDrop_ = nullptr;
     bool activationHook_ = false;
-    bool takingArrivals_ = false;
     bool closing_ = false;
     bool stopped_ = false;
 };

@@ -1,4 +1,5 @@
 // Which documents are open and which is the active one, whatever becomes of the frame's window.
+#include "app/documents/Arrivals.h"
 #include "app/RealFrame.h"
 
 #include <random>
@@ -88,7 +89,7 @@ TEST_F(OpenDocuments, ClosingWorksOnWhileFilesComeInToAMinimisedFrame) {
                 other.frame->close();
         };
         QMetaObject::invokeMethod(other.frame.get(), turn, Qt::QueuedConnection);
-        other.frame->OpenArrivals(paths);
+        other.frame->FromOutside().Open(paths);
         EXPECT_EQ(other.Program().DocumentCount, 0) << openedBefore;
         EXPECT_FALSE(other.frame->isVisible()) << openedBefore;
     }

@@ -1,5 +1,6 @@
 // The frame: focus, menus that pop up, the strips, and what arrives from outside.
 #include "app/window/frmTarnwick.h"
+#include "app/documents/Arrivals.h"
 
 #include "app/RealFrame.h"
 #include "app/run/frmSplash.h"
@@ -403,7 +404,7 @@ TEST_F(Tarnwick, PendingEventsRunBetweenDroppedFiles) {
     const QString b = MakeFile(QStringLiteral("b.htm"), "b");
     QStringList seen;
     QTimer::singleShot(0, &Window(), [&] { seen = OpenCaptions(); });
-    Window().OpenArrivals({a, b});
+    Window().FromOutside().Open({a, b});
     EXPECT_EQ(seen, QStringList(a));
 }
 
@@ -411,7 +412,7 @@ TEST_F(Tarnwick, FrameClosedBetweenDroppedFilesOpensNoMore) {
     const QString a = MakeFile(QStringLiteral("a.htm"), "a");
     const QString b = MakeFile(QStringLiteral("b.htm"), "b");
     QTimer::singleShot(0, &Window(), [&] { Window().close(); });
-    Window().OpenArrivals({a, b});
+    Window().FromOutside().Open({a, b});
     EXPECT_TRUE(OpenCaptions().isEmpty());
 }
 
@@ -419,7 +420,7 @@ TEST_F(Tarnwick, ArrivalsWaitForTheEndOfAModalDialog) {
     const QString a = MakeFile(QStringLiteral("a.htm"), "a");
     QDialog dialog(&Window());
     QTimer::singleShot(0, &dialog, [&] {
-        Window().OpenArrivals({a});
+        Window().FromOutside().Open({a});
         EXPECT_TRUE(OpenCaptions().isEmpty());
         dialog.accept();
     });
