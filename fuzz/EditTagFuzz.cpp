@@ -2,6 +2,7 @@
 // back as the table says, and the command takes out the selected tag and nothing else.
 #include "builders/applets/EmbedTag.h"
 #include "builders/applets/frmEmbed.h"
+#include "builders/commands/BuilderForms.h"
 #include "builders/commands/EditTag.h"
 #include "builders/links/frmGraphicLink.h"
 #include "builders/links/ImageTag.h"
@@ -70,9 +71,10 @@ void CheckCommand(const QString& text, int caret, const std::optional<TagPlace>&
         return; // not a text that a document holds
     frame.Box().SetSelStart(caret);
     EditTag(frame);
-    const TagKind kind = place ? KindOfTag(text.mid(place->start, place->length)) : TagKind::None;
-    const bool cut = kind == TagKind::Image || kind == TagKind::Embed;
-    Demand(frame.LoadedForms().Count() == (kind == TagKind::None ? 1 : 2));
+    const FormRow* form =
+        place ? FormThatEdits(BuilderForms(), text.mid(place->start, place->length)) : nullptr;
+    const bool cut = form && form->name != QLatin1String("frmBody");
+    Demand(frame.LoadedForms().Count() == (form ? 2 : 1));
     Demand(frame.Box().Text() == (cut ? QString(text).remove(place->start, place->length) : text));
     Demand(frame.Box().SelStart() == (place ? place->start : caret));
     Demand(frame.Box().SelLength() == (place && !cut ? place->length : 0));

@@ -5,14 +5,8 @@
 
 class Frame;
 
-enum class TagKind { None, Image, Body, Embed };
-
-/// What dialog a tag belongs to. Substring tests over the whole tag, any case, in the order image, body,
-/// embed: no test looks at the first word.
-TagKind KindOfTag(const QString& tag);
-
-/// Selects the tag around the caret of the active document and opens its dialog, if it is an image, a body
-/// tag or an embed. A caret outside any tag, and a "<" without a ">" behind it, change nothing.
+/// Selects the tag around the caret of the active document and opens its dialog, if the table of forms has
+/// one for it. A caret outside any tag, and a "<" without a ">" behind it, change nothing.
 void EditTag(Frame& frame);
 
 /// Opens the dialog of a tag (with its angle brackets), filled in, and takes the selected tag out of the

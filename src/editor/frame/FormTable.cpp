@@ -18,6 +18,17 @@ void FillFormCommands(Frame& frame, std::span<const FormRow> forms) {
     }
 }
 
+const FormRow* FormThatEdits(std::span<const FormRow> forms, const QString& tag) {
+    const FormRow* best = nullptr;
+    for (const FormRow& row : forms) {
+        const EditedTag& edits = row.reach.edits;
+        if (edits.show && tag.contains(QLatin1String(edits.word), Qt::CaseInsensitive) &&
+            (!best || edits.turn < best->reach.edits.turn))
+            best = &row;
+    }
+    return best;
+}
+
 std::vector<const char*> FormsToUnload(std::span<const FormRow> forms) {
     std::vector<FormRow> rows;
     std::ranges::copy_if(forms, std::back_inserter(rows),

@@ -23,6 +23,17 @@ struct FormButton {
     const char* toolTip = "";
 };
 
+/// The tags whose dialog Edit Tag brings back.
+struct EditedTag {
+    /// A tag that holds this word, anywhere and in any case: no test looks at the tag's first word.
+    const char* word = "";
+    /// A tag may hold the words of several forms; the lowest turn has it.
+    int turn = 0;
+    /// Shows the form, filled from the tag, which is selected in the active document; takes the tag out of
+    /// the document where the form's OK is to write it anew.
+    void (*show)(Frame&, const QString& tag) = nullptr;
+};
+
 /// How a person reaches a form, and when it goes.
 struct FormReach {
     /// Behind all that have a turn of their own at the program's end; or left alone there.
@@ -33,6 +44,7 @@ struct FormReach {
     FormButton button = {};
     /// What entry and button do; for a form that takes nothing but the frame, FormOf makes it.
     void (*show)(Frame&) = nullptr;
+    EditedTag edits = {};
     /// Its turn at the program's end.
     int unload = Last;
 };
@@ -52,6 +64,9 @@ template <typename T> FormRow FormOf(FormReach reach) {
 
 /// Fills the commands that do nothing but show a form: one under each of its entries.
 void FillFormCommands(Frame& frame, std::span<const FormRow> forms);
+
+/// The row of the form that edits a tag, or null.
+const FormRow* FormThatEdits(std::span<const FormRow> forms, const QString& tag);
 
 /// The names of the forms that the program's end unloads, by their turns.
 std::vector<const char*> FormsToUnload(std::span<const FormRow> forms);

@@ -1,6 +1,7 @@
 // The road back from a tag to its dialog, with the real dialogs.
 #include "builders/commands/EditTag.h"
 
+#include "builders/commands/BuilderForms.h"
 #include "builders/DialogTest.h"
 
 namespace {
@@ -36,29 +37,31 @@ class EditTagTest : public DialogTest {
 
 } // namespace
 
-TEST(KindOfTag, SubstringsInOrder) {
+TEST(FormThatEdits, SubstringsInOrder) {
     struct Row {
         QStringView tag;
-        TagKind kind;
+        const char* form;
     };
     const Row rows[] = {
-        {u"<IMG SRC=\"a.gif\">", TagKind::Image},
-        {u"<img src=\"a.gif\">", TagKind::Image},
-        {u"<img\r\nsrc=\"a.gif\">", TagKind::None},
-        {u"<img>", TagKind::None},
-        {u"<!-- img here -->", TagKind::Image},
-        {u"<BODY>", TagKind::Body},
-        {u"</BODY>", TagKind::Body},
-        {u"<a href=\"antibody.htm\">", TagKind::Body},
-        {u"<img alt=\"body\">", TagKind::Image},
-        {u"<embed src=\"x.mid\">", TagKind::Embed},
-        {u"<embed src=\"body.mid\">", TagKind::Body},
-        {u"</noembed>", TagKind::Embed},
-        {u"<a href=\"x.htm\">", TagKind::None},
-        {u"", TagKind::None},
+        {u"<IMG SRC=\"a.gif\">", "frmGraphicLink"},
+        {u"<img src=\"a.gif\">", "frmGraphicLink"},
+        {u"<img\r\nsrc=\"a.gif\">", ""},
+        {u"<img>", ""},
+        {u"<!-- img here -->", "frmGraphicLink"},
+        {u"<BODY>", "frmBody"},
+        {u"</BODY>", "frmBody"},
+        {u"<a href=\"antibody.htm\">", "frmBody"},
+        {u"<img alt=\"body\">", "frmGraphicLink"},
+        {u"<embed src=\"x.mid\">", "frmEmbed"},
+        {u"<embed src=\"body.mid\">", "frmBody"},
+        {u"</noembed>", "frmEmbed"},
+        {u"<a href=\"x.htm\">", ""},
+        {u"", ""},
     };
-    for (const Row& row : rows)
-        EXPECT_EQ(KindOfTag(row.tag.toString()), row.kind) << row.tag.toString().toStdString();
+    for (const Row& row : rows) {
+        const FormRow* form = FormThatEdits(BuilderForms(), row.tag.toString());
+        EXPECT_STREQ(form ? form->name : "", row.form) << row.tag.toString().toStdString();
+    }
 }
 
 TEST_F(EditTagTest, ImageFillsItsDialogAndLeavesTheDocument) {
