@@ -262,8 +262,7 @@ int RichTextBox::LineStart(int position) const {
 }
 
 int RichTextBox::NextLineStart(int position) const {
-    const int line = GetLineFromChar(position);
-    return line + 1 < buffer_.LineCount() ? buffer_.CharFromByte(buffer_.LineStart(line + 1)) : TextLength();
+    return buffer_.NextLine(std::max(position, 0));
 }
 
 int RichTextBox::Find(const QString& text, std::optional<int> start, std::optional<int> end, int options) {

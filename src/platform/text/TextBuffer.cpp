@@ -104,6 +104,11 @@ int TextBuffer::LineStart(int line) const {
     return static_cast<int>(Ask(Control::SCI_POSITIONFROMLINE, line));
 }
 
+int TextBuffer::NextLine(int position) const {
+    const int line = LineOf(ByteFromChar(position));
+    return line + 1 < LineCount() ? CharFromByte(LineStart(line + 1)) : length_;
+}
+
 QString TextBuffer::LineEnd() const {
     if (LineCount() < 2)
         return QStringLiteral("\r\n");

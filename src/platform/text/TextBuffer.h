@@ -48,6 +48,8 @@ class TextBuffer {
     /// The line of a byte, from 0, and the byte at which a line starts.
     int LineOf(int byte) const;
     int LineStart(int line) const;
+    /// The character at which the line behind that of a character starts; the text's end for the last line.
+    int NextLine(int position) const;
     /// The line end of the document: that of its first line, CR LF where there is none.
     QString LineEnd() const;
 

@@ -85,12 +85,6 @@ QVector<QTextLayout::FormatRange> TextPrinter::Colors(int startByte, const QStri
     return formats;
 }
 
-int TextPrinter::NextLine(int position) const {
-    const int line = buffer_.LineOf(buffer_.ByteFromChar(position));
-    return line + 1 < buffer_.LineCount() ? buffer_.CharFromByte(buffer_.LineStart(line + 1))
-                                          : buffer_.Length();
-}
-
 int TextPrinter::FormatRange(bool draw, QPainter& painter, const QRectF& page, int from) const {
     QTextOption option(Qt::AlignLeft | Qt::AlignTop);
     option.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
@@ -99,7 +93,7 @@ int TextPrinter::FormatRange(bool draw, QPainter& painter, const QRectF& page, i
     const int length = buffer_.Length();
     int position = std::clamp(from, 0, length);
     while (position < length) {
-        const int nextLine = NextLine(position);
+        const int nextLine = buffer_.NextLine(position);
         const bool goesOn = nextLine - position > longestStretch;
         const ByteRange range = buffer_.FromChars(position, std::min(nextLine, position + longestStretch));
         const QString stretch = buffer_.Text(range);

@@ -22,8 +22,6 @@ class TextPrinter {
 
   private:
     QVector<QTextLayout::FormatRange> Colors(int startByte, const QString& text) const;
-    /// Where the line behind that of a character starts; the text's end for the last.
-    int NextLine(int position) const;
 
     const TextBuffer& buffer_;
     const TextColors& colors_;

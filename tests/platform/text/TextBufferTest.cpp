@@ -65,6 +65,9 @@ TEST_F(TextBufferTest, LinesStartBehindEachKindOfLineEnd) {
     EXPECT_EQ(buffer.LineStart(2), 6);
     EXPECT_EQ(buffer.LineOf(7), 2);
     EXPECT_EQ(buffer.LineOf(8), 3);
+    EXPECT_EQ(buffer.NextLine(0), 3);
+    EXPECT_EQ(buffer.NextLine(3), 5);
+    EXPECT_EQ(buffer.NextLine(7), 8) << "the last line ends with the text";
 }
 
 } // namespace
