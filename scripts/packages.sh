@@ -3,10 +3,11 @@
 
 packages_run="g++ cmake ninja-build ccache qt6-base-dev qt6-base-dev-tools libqt6svg6-dev|qt6-svg-dev
     libqscintilla2-qt6-dev qt6-webengine-dev libgl-dev|libgl1-mesa-dev qt6-qpa-plugins qt6-wayland
-    libfontconfig-dev|libfontconfig1-dev fonts-dejavu-core fonts-liberation"
+    libfontconfig-dev|libfontconfig1-dev fonts-dejavu-core fonts-liberation
+    libhunspell-dev hunspell-en-us libcurl4-openssl-dev"
 packages_headless="xvfb openbox xdotool imagemagick x11-utils"
 packages_test="x11-xkb-utils libgtest-dev libgmock-dev libbenchmark-dev at-spi2-core dbus python3 python3-pyatspi gir1.2-atspi-2.0
-    libsm6 libice6 dillo"
+    libsm6 libice6 dillo python3-pyftpdlib python3-openssl vsftpd poppler-utils"
 # Real pages for the test that opens, saves and reopens them.
 packages_pages="zsh-doc libxml2-doc"
 packages_ci="clang clang-format libclang-rt-14-dev|libclang-rt-19-dev|libclang-rt-18-dev"

@@ -5,6 +5,8 @@
 #include "app/run/frmSplash.h"
 #include "app/surface/frmTools.h"
 #include "builders/commands/BuilderForms.h"
+#include "styles/StyleForms.h"
+#include "tools/ToolForms.h"
 
 #include <vector>
 
@@ -13,10 +15,6 @@ std::span<const FormRow> AppForms() {
         FormOf<frmSplash>({.entry = {"mnuAbout"}, .show = mnuAbout_Click, .unload = 15}),
         FormOf<frmExternal>({.entry = {"mnuWebBrowser"}, .show = mnuWebBrowser_Click, .unload = 17}),
         FormOf<frmTools>({.unload = 22}),
-        // Still to come; their turn at the end is settled.
-        {"frmInfo", {.unload = 8}},
-        {WebTimerForm, {.unload = 13}},
-        {UploadForm, {.unload = 14}},
     };
     return forms;
 }
@@ -24,7 +22,7 @@ std::span<const FormRow> AppForms() {
 std::span<const FormRow> KnownForms() {
     static const std::vector<FormRow> forms = [] {
         std::vector<FormRow> all;
-        for (const auto& folder : {AppForms(), BuilderForms()})
+        for (const auto& folder : {AppForms(), BuilderForms(), StyleForms(), ToolForms()})
             all.insert(all.end(), folder.begin(), folder.end());
         return all;
     }();

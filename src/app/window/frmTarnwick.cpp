@@ -32,6 +32,8 @@
 #include "editor/views/Modes.h"
 #include "editor/views/WebControls.h"
 #include "platform/text/RichTextBox.h"
+#include "styles/StyleCommands.h"
+#include "tools/ToolCommands.h"
 
 #include <QApplication>
 #include <QCloseEvent>
@@ -106,6 +108,8 @@ void frmTarnwick::FillCommands() {
     FillPreviewCommands(*this);
     FillMenuTagCommands(*this);
     FillToolbarCommands(*this);
+    FillStyleCommands(*this);
+    FillToolCommands(*this);
     FillHelpCommands(*this);
     FillFormCommands(*this, KnownForms());
     FillEditTagCommand(*this);

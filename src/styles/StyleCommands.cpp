@@ -1,0 +1,3 @@
+#include "styles/StyleCommands.h"
+
+void FillStyleCommands(Frame& /*frame*/) {}

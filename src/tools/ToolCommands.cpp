@@ -1,0 +1,3 @@
+#include "tools/ToolCommands.h"
+
+void FillToolCommands(Frame& /*frame*/) {}

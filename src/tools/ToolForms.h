@@ -1,0 +1,7 @@
+// The forms of this folder: a row makes one known.
+#pragma once
+
+#include "editor/frame/FormTable.h"
+
+/// The dialogs of the site tools, and those that the program's end names already.
+std::span<const FormRow> ToolForms();
