@@ -217,21 +217,6 @@ BENCHMARK(FindAtTheEnd)
     ->Unit(benchmark::kMillisecond)
     ->Complexity(benchmark::oN);
 
-/// A key that looks for the tag it stands in must not wait where a long text has none.
-void LookBackForATag(benchmark::State& state) {
-    RichTextBox box;
-    box.SetText(QStringLiteral("some words and no bracket\r\n").repeated(state.range(0) / 27));
-    for ([[maybe_unused]] auto step : state)
-        benchmark::DoNotOptimize(box.FindBackward(u'<', box.TextLength()));
-    state.SetBytesProcessed(state.iterations() * state.range(0));
-    state.SetComplexityN(state.range(0));
-}
-BENCHMARK(LookBackForATag)
-    ->RangeMultiplier(10)
-    ->Range(shortest, longest)
-    ->Unit(benchmark::kMillisecond)
-    ->Complexity(benchmark::oN);
-
 /// Takes the tags out one by one, as a person's own command does: a search, a selection, an assignment for
 /// each.
 void TakeTagsOut(benchmark::State& state) {

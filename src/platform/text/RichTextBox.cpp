@@ -290,11 +290,6 @@ int RichTextBox::FindForward(QChar character, int from) const {
     return match ? buffer_.CharFromByte(match->start) : -1;
 }
 
-int RichTextBox::FindBackward(QChar character, int before) const {
-    const std::optional<int> byte = search_.Backward(character, buffer_.ByteFromChar(std::max(before, 0)));
-    return byte ? buffer_.CharFromByte(*byte) : -1;
-}
-
 int RichTextBox::Send(Message message) {
     if (message == Message::CanUndo)
         return Sci(SCI_CANUNDO) != 0 ? 1 : 0;

@@ -113,10 +113,8 @@ class RichTextBox : public QsciScintillaBase, public AccessibleText {
     /// text is never found.
     int Find(const QString& text, std::optional<int> start = std::nullopt,
              std::optional<int> end = std::nullopt, int options = 0);
-    /// The position of the nearest given character before a position (0-based, not included), or -1. Looks at
-    /// no more of the text than lies between. No selection changes.
-    int FindBackward(QChar character, int before) const;
-    /// The position of the first given character at or after a position, or -1; looks at no more than needed.
+    /// The position of the first given character at or after a position (0-based), or -1. Looks at no more of
+    /// the text than needed, and no selection changes.
     int FindForward(QChar character, int from) const;
     /// The line of a position, both 0-based. A line ends with CR LF, CR or LF.
     int GetLineFromChar(int position) const;

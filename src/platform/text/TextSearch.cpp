@@ -116,22 +116,3 @@ bool TextSearch::IsWholeWord(const QString& text, ByteRange match) const {
         !behind.isEmpty() && IsWordCharacter(behind.front()) && IsWordCharacter(text.back());
     return !joinedBefore && !joinedBehind;
 }
-
-std::optional<int> TextSearch::Backward(QChar character, int beforeByte) const {
-    const QByteArray wanted = QString(character).toUtf8();
-    int end = beforeByte;
-    int chunk = firstChunk;
-    while (end > 0) {
-        const int start = std::max(0, end - chunk);
-        // A copy: Qt's search from the back looks at the byte behind a view as well.
-        const QByteArray bytes = buffer_.InPlace({start, end}).toByteArray();
-        // To look forward first costs a fraction, and most chunks of a text with few of them hold none.
-        if (bytes.contains(wanted))
-            return start + static_cast<int>(bytes.lastIndexOf(wanted));
-        if (start == 0)
-            break;
-        end = start + static_cast<int>(wanted.size()) - 1;
-        chunk = std::min(2 * chunk, longestChunk);
-    }
-    return std::nullopt;
-}

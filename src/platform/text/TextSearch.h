@@ -18,8 +18,6 @@ class TextSearch {
     /// The first match that lies in the range whole. Case is ignored without MatchCase; with WholeWord no
     /// letter, digit or "_" joins on to the match. The text must not be empty.
     std::optional<ByteRange> Forward(const QString& text, ByteRange range, int options) const;
-    /// The byte of the last such character before a byte.
-    std::optional<int> Backward(QChar character, int beforeByte) const;
 
   private:
     bool IsWholeWord(const QString& text, ByteRange match) const;

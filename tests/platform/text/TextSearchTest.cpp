@@ -42,12 +42,4 @@ TEST_F(TextSearchTest, ItFindsWhatLiesAcrossTheEdgesOfWhatItReadsAtATime) {
     }
 }
 
-TEST_F(TextSearchTest, BackwardStopsInFrontOfTheByte) {
-    Put(QString(2000, u'a') + u"<\u00e9<"_s + QString(2000, u'b'));
-    EXPECT_EQ(search.Backward(u'<', buffer.Bytes()), 2003);
-    EXPECT_EQ(search.Backward(u'<', 2003), 2000);
-    EXPECT_EQ(search.Backward(u'<', 2000), std::nullopt);
-    EXPECT_EQ(search.Backward(u'\u00e9', buffer.Bytes()), 2001);
-}
-
 } // namespace
