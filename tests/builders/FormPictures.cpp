@@ -43,7 +43,7 @@ TEST_F(FormPictures, OfEveryDialog) {
     if (qEnvironmentVariableIsSet("TARNWICK_DARK"))
         QApplication::setPalette(Dark());
     frame.SetText(QStringLiteral("<BODY BGCOLOR=\"#FFFFCC\" TEXT=\"#333333\" VLINK=\"#800080\">"));
-    ShowBulletList(frame, QStringLiteral("U"));
+    ShowBulletList(frame, ListKind::Bullets);
     form = frame.LoadedForms().Find<frmBulletList>();
     for (const QString& item : {QStringLiteral("Apples"), QStringLiteral("Pears")}) {
         Fill(QStringLiteral("txtAddItem"), item);

@@ -98,10 +98,10 @@ void FillToolbarCommands(Frame& frame) {
     commands.Set(QStringLiteral("tb_meta"), [&frame] { tb_meta_Click(frame); });
     commands.Set(QStringLiteral("tb_ftp"), [&frame] { tb_ftp_Click(frame); });
     commands.Set(QStringLiteral("tb_dots"), [&frame] {
-        tb_list_Click(frame, QStringLiteral("<UL>"), QStringLiteral("</UL>"), QStringLiteral("U"));
+        tb_list_Click(frame, QStringLiteral("<UL>"), QStringLiteral("</UL>"), ListKind::Bullets);
     });
     commands.Set(QStringLiteral("tb_onetwothree"), [&frame] {
-        tb_list_Click(frame, QStringLiteral("<OL>"), QStringLiteral("</OL>"), QStringLiteral("O"));
+        tb_list_Click(frame, QStringLiteral("<OL>"), QStringLiteral("</OL>"), ListKind::Numbers);
     });
 }
 
@@ -202,7 +202,7 @@ void tb_ftp_Click(Frame& frame) {
     frame.Commands().Run(QStringLiteral("mnuWebBrowser"));
 }
 
-void tb_list_Click(Frame& frame, const QString& open, const QString& close, const QString& kind) {
+void tb_list_Click(Frame& frame, const QString& open, const QString& close, ListKind kind) {
     RichTextBox* txtInput = ActiveText(frame);
     if (!txtInput)
         return;

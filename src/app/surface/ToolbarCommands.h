@@ -1,6 +1,8 @@
 // The commands that live only in the toolbar, and the toolbar's roads to those of the menus.
 #pragma once
 
+#include "builders/lists/ListText.h"
+
 #include <QString>
 
 class Frame;
@@ -19,5 +21,5 @@ void tb_anchor_Click(Frame& frame);
 void tb_meta_Click(Frame& frame);
 /// Shows the upload window, or starts the user's own upload program.
 void tb_ftp_Click(Frame& frame);
-/// Turns the selected lines into a list; with nothing selected shows the Lists dialog for a kind, "U" or "O".
-void tb_list_Click(Frame& frame, const QString& open, const QString& close, const QString& kind);
+/// Turns the selected lines into a list; with nothing selected shows the Lists dialog for a kind.
+void tb_list_Click(Frame& frame, const QString& open, const QString& close, ListKind kind);

@@ -124,7 +124,7 @@ void mnuDef_Click(Frame& frame) {
     if (!txtInput)
         return;
     if (txtInput->SelLength() == 0)
-        ShowBulletList(frame, QStringLiteral("D"));
+        ShowBulletList(frame, ListKind::Definitions);
     else
         WrapSelectionAsList(frame, QStringLiteral("<DL>"), QStringLiteral("</DL>"), false);
 }

@@ -1,31 +1,12 @@
 #include "builders/lists/ListText.h"
 
-namespace {
-
-struct ListWords {
-    QString kind;
-    QString first;
-    QString item;
-    QString last;
-};
-
-} // namespace
-
-QString ListText(const QString& kind, const QStringList& items, TagCase tagCase) {
-    const ListWords kinds[] = {
-        {QStringLiteral("U"), QStringLiteral("UL>"), QStringLiteral("LI>"), QStringLiteral("/UL>")},
-        {QStringLiteral("O"), QStringLiteral("OL>"), QStringLiteral("LI>"), QStringLiteral("/OL>")},
-        {QStringLiteral("D"), QStringLiteral("DL>"), QStringLiteral("DT>"), QStringLiteral("/DL>")},
-    };
+QString ListText(ListKind kind, const QStringList& items, TagCase tagCase) {
+    const QString list = QString(QLatin1Char(static_cast<char>(kind))) + QStringLiteral("L>");
+    const QString item = kind == ListKind::Definitions ? QStringLiteral("DT>") : QStringLiteral("LI>");
     const QString lineEnd = QStringLiteral("\r\n<");
-    for (const ListWords& words : kinds) {
-        if (words.kind != kind)
-            continue;
-        const QString itemStart = lineEnd + InCase(words.item, tagCase);
-        QString text = u'<' + InCase(words.first, tagCase);
-        for (const QString& item : items)
-            text += itemStart + item;
-        return text + lineEnd + InCase(words.last, tagCase);
-    }
-    return QString();
+    const QString itemStart = lineEnd + InCase(item, tagCase);
+    QString text = u'<' + InCase(list, tagCase);
+    for (const QString& each : items)
+        text += itemStart + each;
+    return text + lineEnd + InCase(u'/' + list, tagCase);
 }

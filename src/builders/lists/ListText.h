@@ -5,5 +5,7 @@
 
 #include <QStringList>
 
-/// kind is "U" for bullets, "O" for numbers, "D" for definitions; any other kind gives an empty text.
-QString ListText(const QString& kind, const QStringList& items, TagCase tagCase);
+/// Named by the letter that tells them apart in the page: UL, OL, DL.
+enum class ListKind : char { Bullets = 'U', Numbers = 'O', Definitions = 'D' };
+
+QString ListText(ListKind kind, const QStringList& items, TagCase tagCase);

@@ -1,6 +1,5 @@
 #include "builders/lists/frmBulletList.h"
 
-#include "builders/lists/ListText.h"
 #include "dialogs/FormFields.h"
 #include "dialogs/ListKeys.h"
 #include "editor/frame/Forms.h"
@@ -32,10 +31,10 @@ void frmBulletList::cmdOK_Click() {
     QStringList items;
     for (int row = 0; row < ui_->List1->count(); ++row)
         items << ui_->List1->item(row)->text();
-    Insert(ListText(tag_, items, TagCaseOf(frame_.Store())));
+    Insert(ListText(kind_, items, TagCaseOf(frame_.Store())));
     Unload();
 }
 
-void ShowBulletList(Frame& frame, const QString& kind) {
-    frame.LoadedForms().Show<frmBulletList>(frame).SetTag(kind);
+void ShowBulletList(Frame& frame, ListKind kind) {
+    frame.LoadedForms().Show<frmBulletList>(frame).SetKind(kind);
 }

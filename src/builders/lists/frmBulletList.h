@@ -1,6 +1,7 @@
 // The Lists dialog: collects the items of a list and writes them all at once.
 #pragma once
 
+#include "builders/lists/ListText.h"
 #include "dialogs/TagDialog.h"
 
 #include <memory>
@@ -11,15 +12,15 @@ class frmBulletList;
 
 class frmBulletList final : public TagDialog {
     Q_OBJECT
-    Q_PROPERTY(QString Tag READ Tag WRITE SetTag)
+    Q_PROPERTY(QString Tag READ Tag)
 
   public:
     explicit frmBulletList(Frame& frame);
     ~frmBulletList() override;
 
-    /// The kind of list: "U" bullets, "O" numbers, "D" definitions. Any other kind writes nothing.
-    QString Tag() const { return tag_; }
-    void SetTag(const QString& kind) { tag_ = kind; }
+    /// The kind of list as its letter.
+    QString Tag() const { return QString(QLatin1Char(static_cast<char>(kind_))); }
+    void SetKind(ListKind kind) { kind_ = kind; }
 
   private:
     void cmdAddItem_Click();
@@ -29,8 +30,8 @@ class frmBulletList final : public TagDialog {
     void cmdOK_Click() override;
 
     std::unique_ptr<Ui::frmBulletList> ui_;
-    QString tag_;
+    ListKind kind_ = ListKind::Bullets;
 };
 
 /// Shows the dialog for one kind of list. One that is up already keeps its items and changes its kind.
-void ShowBulletList(Frame& frame, const QString& kind);
+void ShowBulletList(Frame& frame, ListKind kind);
