@@ -5,6 +5,7 @@
 #include "app/run/ProgramState.h"
 #include "app/run/Shutdown.h"
 #include "app/run/Startup.h"
+#include "app/surface/MenuEntry.h"
 #include "app/window/frmTarnwick.h"
 #include "editor/autofill/AutoFillList.h"
 #include "editor/color/ColorStream.h"
@@ -20,7 +21,6 @@
 #include <functional>
 #include <gtest/gtest.h>
 #include <memory>
-#include <QAction>
 #include <QApplication>
 #include <QDialog>
 #include <QFile>
@@ -55,7 +55,7 @@ class ProgramRun {
         return Active();
     }
     frmTemplate& Active() { return dynamic_cast<frmTemplate&>(*frame->ActiveForm()); }
-    QAction& Entry(const char* name) { return *frame->MenuEntry(QString::fromLatin1(name)); }
+    QAction& Entry(const char* name) { return *MenuEntry(*frame, QString::fromLatin1(name)); }
     /// A loaded form of that name, for one whose handlers do not matter or that the program does not have
     /// yet.
     QDialog& ShowStandIn(const char* name) {

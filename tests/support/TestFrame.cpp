@@ -49,17 +49,6 @@ void TestFrame::SetStatusPanel(const QString& text, bool) {
     statuses << text;
 }
 
-QAction* TestFrame::MenuEntry(const QString& name) {
-    return window->findChild<QAction*>(name);
-}
-
-void TestFrame::AddDocumentTab(const QString& path, const QString& caption) {
-    if (tabs.contains(path))
-        return;
-    tabs << path;
-    tabCaptions << caption;
-}
-
 void TestFrame::SetText(const QString& text) {
     // A new text takes the colour at the caret.
     Box().SetSelColor(0);

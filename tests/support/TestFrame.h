@@ -12,7 +12,6 @@
 #include "support/Text.h"
 
 #include <memory>
-#include <QAction>
 #include <QPoint>
 #include <QStringList>
 #include <QTimer>
@@ -79,9 +78,6 @@ class TestFrame : public Frame {
     void SaveActiveDocument() override { ++saves; }
     void PreviewInBrowser(const QString& path) override { previewed << path; }
     void SetStatusPanel(const QString& text, bool now) override;
-    QAction* MenuEntry(const QString& name) override;
-    void AddDocumentTab(const QString& path, const QString& caption) override;
-    void RemoveDocumentTab(const QString& path) override { tabs.removeAll(path); }
     void SelectDocumentTab(const QString& path) override { selectedTabs << path; }
     void PopUpEditMenu(QPoint at) override { popUps.push_back(at); }
     void SelectModeTab(const QString& caption) override { modeTabs << caption; }
@@ -109,8 +105,6 @@ class TestFrame : public Frame {
     TestDocument* active = nullptr;
 
     QStringList opened, previewed, statuses, selectedTabs, modeTabs;
-    /// The paths of the document tabs, and their captions in the same order of adding.
-    QStringList tabs, tabCaptions;
     std::vector<QPoint> popUps;
     int saves = 0;
 };

@@ -1,6 +1,7 @@
 #include "app/documents/FileCommands.h"
 
 #include "app/documents/DocumentFiles.h"
+#include "app/documents/DocumentPaths.h"
 #include "app/documents/OpenDocument.h"
 #include "app/documents/RecentFiles.h"
 #include "dialogs/DialogState.h"
@@ -96,10 +97,10 @@ void mnuSaveAs_Click(Frame& frame) {
     if (DocumentFiles::Save(path, document->txtInput().Text()))
         document->SetModified(false);
     frame.State<DialogState>().LastDir = answer.folder;
-    frame.RemoveDocumentTab(document->Caption());
+    Q_EMIT frame.State<DocumentPaths>().Left(document->Caption());
     document->SetCaption(path);
     AddToRecentFiles(frame);
-    frame.AddDocumentTab(path, Path::NameOnDisk(path));
+    Q_EMIT frame.State<DocumentPaths>().Taken(path, Path::NameOnDisk(path));
 }
 
 void mnuInsertContents_Click(Frame& frame) {

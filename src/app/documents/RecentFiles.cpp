@@ -1,9 +1,8 @@
 #include "app/documents/RecentFiles.h"
 
+#include "app/surface/MenuEntry.h"
 #include "editor/frame/Document.h"
-#include "editor/frame/Frame.h"
 
-#include <QAction>
 #include <QVariant>
 
 namespace {
@@ -12,7 +11,7 @@ namespace {
 constexpr char captionProperty[] = "Caption";
 
 QAction* Entry(Frame& frame, int n) {
-    return frame.MenuEntry(QStringLiteral("mnuFileArray_%1").arg(n));
+    return MenuEntry(frame, QStringLiteral("mnuFileArray_%1").arg(n));
 }
 
 void Write(QAction& entry, const QString& path) {
@@ -22,7 +21,7 @@ void Write(QAction& entry, const QString& path) {
 }
 
 void ShowSeparator(Frame& frame) {
-    if (QAction* separator = frame.MenuEntry(QStringLiteral("mnuSep10")))
+    if (QAction* separator = MenuEntry(frame, QStringLiteral("mnuSep10")))
         separator->setVisible(true);
 }
 

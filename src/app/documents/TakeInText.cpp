@@ -1,5 +1,6 @@
 #include "app/documents/TakeInText.h"
 
+#include "app/documents/DocumentPaths.h"
 #include "app/documents/RecentFiles.h"
 #include "editor/color/ColoredTags.h"
 #include "editor/color/ColorizeText.h"
@@ -53,7 +54,7 @@ void TakeInText(Frame& frame, const QString& path, QString text) {
     WriteAsSet(frame, *document, std::move(text));
     CountAsLoaded(*document);
     AddToRecentFiles(frame);
-    frame.AddDocumentTab(path, Path::NameOnDisk(path));
+    Q_EMIT frame.State<DocumentPaths>().Taken(path, Path::NameOnDisk(path));
 }
 
 void TakeInRecentText(Frame& frame, const QString& path, QString text) {
@@ -63,5 +64,5 @@ void TakeInRecentText(Frame& frame, const QString& path, QString text) {
     document->SetCaption(path);
     WriteColored(frame, std::move(text));
     CountAsLoaded(*document);
-    frame.AddDocumentTab(path, Path::NameOnDisk(path));
+    Q_EMIT frame.State<DocumentPaths>().Taken(path, Path::NameOnDisk(path));
 }

@@ -1,5 +1,6 @@
 #include "app/documents/frmTemplate.h"
 
+#include "app/documents/DocumentPaths.h"
 #include "app/documents/WordWrap.h"
 #include "app/run/ProgramState.h"
 #include "app/window/Icons.h"
@@ -142,7 +143,7 @@ MsgAnswer frmTemplate::AskAboutSaving() {
 bool frmTemplate::Form_QueryUnload() {
     if (AskAboutSaving() == MsgAnswer::Cancel)
         return false;
-    frame_.RemoveDocumentTab(Caption());
+    Q_EMIT frame_.State<DocumentPaths>().Left(Caption());
     auto& program = frame_.State<ProgramState>();
     --program.DocumentCount;
     program.TemplateWindowState = WindowStateDigit(*this);

@@ -1,5 +1,6 @@
 #include "app/surface/EditCommands.h"
 
+#include "app/surface/MenuEntry.h"
 #include "editor/frame/ActiveText.h"
 #include "editor/frame/Commands.h"
 #include "editor/frame/Document.h"
@@ -7,7 +8,6 @@
 #include "platform/desktop/Prompts.h"
 #include "platform/text/RichTextBox.h"
 
-#include <QAction>
 #include <QClipboard>
 #include <QGuiApplication>
 #include <QMimeData>
@@ -25,7 +25,7 @@ bool TextIsActiveControl(Document& document) {
 }
 
 void Enable(Frame& frame, int index, bool enabled) {
-    if (QAction* entry = frame.MenuEntry(u"mEdit_%1"_s.arg(index)))
+    if (QAction* entry = MenuEntry(frame, u"mEdit_%1"_s.arg(index)))
         entry->setEnabled(enabled);
 }
 

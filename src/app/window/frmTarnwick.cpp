@@ -1,6 +1,7 @@
 #include "app/window/frmTarnwick.h"
 
 #include "app/documents/Arrivals.h"
+#include "app/documents/DocumentPaths.h"
 #include "app/documents/FileCommands.h"
 #include "app/documents/frmTemplate.h"
 #include "app/documents/OpenDocument.h"
@@ -19,6 +20,7 @@
 #include "app/surface/WindowCommands.h"
 #include "app/window/DocumentTabs.h"
 #include "app/window/FileDrop.h"
+#include "app/window/FrameFocus.h"
 #include "app/window/KnownForms.h"
 #include "app/window/LeaveByEscape.h"
 #include "app/window/ModeStrip.h"
@@ -35,12 +37,10 @@
 #include "styles/StyleCommands.h"
 #include "tools/ToolCommands.h"
 
-#include <QApplication>
 #include <QCloseEvent>
 #include <QMdiArea>
 #include <QMenu>
 #include <QMenuBar>
-#include <QMouseEvent>
 #include <QScreen>
 #include <QStyle>
 #include <QVBoxLayout>
@@ -78,9 +78,9 @@ QWidget* Strip(const QString& name, QWidget* content) {
 
 frmTarnwick::frmTarnwick(Settings& store, Prompts& ask)
     : store_(store), ask_(ask), forms_(new Forms(this)), area_(new QMdiArea(this)),
-      documents_(new OpenDocuments(*area_, this)), tabStrip2_(new DocumentTabs(this)),
-      arrivals_(new Arrivals(*this, this)), statusBar_(new StatusBar(this)),
-      vsSpell1_(new SpellChecker(this)) {
+      documents_(new OpenDocuments(*area_, this)), focus_(new FrameFocus(*this, *area_, *documents_)),
+      tabStrip2_(new DocumentTabs(this)), arrivals_(new Arrivals(*this, this)),
+      statusBar_(new StatusBar(this)), vsSpell1_(new SpellChecker(this)) {
     setObjectName(u"frmTarnwick"_s);
     vsSpell1_->setObjectName(u"VSSpell1"_s);
     setContextMenuPolicy(Qt::NoContextMenu);
@@ -146,7 +146,6 @@ void frmTarnwick::BuildStrips() {
 }
 
 void frmTarnwick::HookWindow() {
-    area_->viewport()->installEventFilter(this);
     BindHelpKey(*this, *this);
     ReleaseButtonsWhenBlocked(*this);
     connect(area_, &QMdiArea::subWindowActivated, this, &frmTarnwick::SubWindowActivated);
@@ -154,11 +153,10 @@ void frmTarnwick::HookWindow() {
     connect(documents_, &OpenDocuments::Activated, tabStrip2_,
             [this](const frmTemplate& document) { tabStrip2_->Select(document.Caption()); });
     LeaveByEscape(*tabStrip2_, *this);
+    const auto& paths = State<DocumentPaths>();
+    connect(&paths, &DocumentPaths::Taken, this, &frmTarnwick::PathTaken);
+    connect(&paths, &DocumentPaths::Left, tabStrip2_, &DocumentTabs::Remove);
     connect(tabStrip2_, &DocumentTabs::Click, this, &frmTarnwick::TabStrip2_Click);
-    connect(qApp, &QGuiApplication::applicationStateChanged, this, [this](Qt::ApplicationState state) {
-        if (activationHook_ && state == Qt::ApplicationActive)
-            FocusDocument();
-    });
     fileDrop_ = new FileDrop(this);
     fileDrop_->Watch(*this);
     connect(fileDrop_, &FileDrop::Dropped, arrivals_, &Arrivals::Open);
@@ -200,21 +198,6 @@ void frmTarnwick::SetStatusPanel(const QString& text, bool now) {
     statusBar_->SetPanel3(text, now);
 }
 
-QAction* frmTarnwick::MenuEntry(const QString& name) {
-    return findChild<QAction*>(name);
-}
-
-void frmTarnwick::AddDocumentTab(const QString& path, const QString& caption) {
-    tabStrip2_->Add(path, caption);
-    // The strip shows which document has the focus; that of a document just opened came before it had a path.
-    if (Document* document = ActiveForm(); document && document->Caption() == path)
-        tabStrip2_->Select(path);
-}
-
-void frmTarnwick::RemoveDocumentTab(const QString& path) {
-    tabStrip2_->Remove(path);
-}
-
 void frmTarnwick::SelectDocumentTab(const QString& path) {
     tabStrip2_->Select(path);
 }
@@ -227,36 +210,26 @@ void frmTarnwick::SelectModeTab(const QString& caption) {
     picture4_->Select(caption);
 }
 
+void frmTarnwick::PathTaken(const QString& path, const QString& caption) {
+    tabStrip2_->Add(path, caption);
+    // The strip shows which document has the focus; that of a document just opened came before it had a path.
+    if (Document* document = ActiveForm(); document && document->Caption() == path)
+        tabStrip2_->Select(path);
+}
+
 void frmTarnwick::TabStrip2_Click(int index) {
     const QString tag = tabStrip2_->Tag(index);
     for (int i = 0; i < forms_->Count(); ++i)
         if (forms_->CaptionAt(i) == tag)
-            return FocusForm(*forms_->At(i));
-}
-
-void frmTarnwick::FocusForm(QWidget& form) {
-    auto* document = qobject_cast<frmTemplate*>(&form);
-    if (!document) {
-        form.raise();
-        form.activateWindow();
-        return;
-    }
-    if (document->isMinimized())
-        document->showNormal();
-    ActivateDocument(*document);
-    FocusDocument();
+            return focus_->FocusForm(*forms_->At(i));
 }
 
 QWidget& frmTarnwick::Picture4() {
     return *picture4_;
 }
 
-void frmTarnwick::FocusDocument() {
-    documents_->FocusText();
-}
-
 void frmTarnwick::SetHooks(bool activation, bool drops) {
-    activationHook_ = activation;
+    focus_->SetHook(activation);
     fileDrop_->SetActive(drops);
 }
 
@@ -291,33 +264,8 @@ void frmTarnwick::closeEvent(QCloseEvent* event) {
 }
 
 bool frmTarnwick::event(QEvent* event) {
-    if (event->type() == QEvent::WindowActivate) {
-        // Who comes back from a dialog comes back to the document: it takes the background just chosen.
-        if (frmTemplate* document = documents_->Active())
-            document->TakeBackground();
-        FocusDocument();
-        // A document that was opened before the frame was on the screen is none of the area's active ones
-        // yet, and the area wakes up behind this event.
-        QMetaObject::invokeMethod(documents_, &OpenDocuments::Wake, Qt::QueuedConnection);
-    }
     // Whatever came while a modal dialog was up.
     if (event->type() == QEvent::WindowUnblocked)
         arrivals_->Resume();
     return QMainWindow::event(event);
-}
-
-bool frmTarnwick::eventFilter(QObject* watched, QEvent* event) {
-    if (watched == area_->viewport() && event->type() == QEvent::MouseButtonPress)
-        FocusDocument();
-    if (watched == area_->viewport() && event->type() == QEvent::MouseButtonRelease) {
-        const auto* release = static_cast<QMouseEvent*>(event);
-        if (release->button() == Qt::RightButton)
-            menuBar()->findChild<QMenu*>(u"mnuFile"_s)->popup(release->globalPosition().toPoint());
-    }
-    return QMainWindow::eventFilter(watched, event);
-}
-
-void frmTarnwick::mousePressEvent(QMouseEvent* event) {
-    FocusDocument();
-    QMainWindow::mousePressEvent(event);
 }

@@ -9,6 +9,7 @@
 
 class Arrivals;
 class FileDrop;
+class FrameFocus;
 class frmTemplate;
 class ModeStrip;
 class OpenDocuments;
@@ -40,9 +41,6 @@ class frmTarnwick final : public QMainWindow, public MainFrame {
     void PreviewInBrowser(const QString& path = QString()) override;
 
     void SetStatusPanel(const QString& text, bool now = false) override;
-    QAction* MenuEntry(const QString& name) override;
-    void AddDocumentTab(const QString& path, const QString& caption) override;
-    void RemoveDocumentTab(const QString& path) override;
     void SelectDocumentTab(const QString& path) override;
     void PopUpEditMenu(QPoint at) override;
     void SelectModeTab(const QString& caption) override;
@@ -59,8 +57,6 @@ class frmTarnwick final : public QMainWindow, public MainFrame {
     Arrivals& FromOutside() { return *arrivals_; }
     /// Comes to the front of the desktop, out of the minimised state if need be.
     void ComeToFront();
-    /// Gives the focus to the text of the active document.
-    void FocusDocument();
 
   Q_SIGNALS:
     /// The frame is unloaded and its settings are written: the process ends.
@@ -70,17 +66,15 @@ class frmTarnwick final : public QMainWindow, public MainFrame {
     void resizeEvent(QResizeEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
     bool event(QEvent* event) override;
-    bool eventFilter(QObject* watched, QEvent* event) override;
-    void mousePressEvent(QMouseEvent* event) override;
 
   private:
     void FillCommands();
     void BuildMenuBar();
     void BuildStrips();
     void HookWindow();
+    void PathTaken(const QString& path, const QString& caption);
     void TabStrip2_Click(int index);
     void SubWindowActivated(QMdiSubWindow* window);
-    void FocusForm(QWidget& form);
 
     Settings& store_;
     Prompts& ask_;
@@ -88,6 +82,7 @@ class frmTarnwick final : public QMainWindow, public MainFrame {
     Forms* forms_;
     QMdiArea* area_;
     OpenDocuments* documents_;
+    FrameFocus* focus_;
     DocumentTabs* tabStrip2_;
     Arrivals* arrivals_;
     ToolbarHolder* picture3_ = nullptr;
@@ -96,7 +91,6 @@ class frmTarnwick final : public QMainWindow, public MainFrame {
     StatusBar* statusBar_;
     SpellChecker* vsSpell1_;
     FileDrop* fileDrop_ = nullptr;
-    bool activationHook_ = false;
     bool closing_ = false;
     bool stopped_ = false;
 };

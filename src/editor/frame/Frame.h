@@ -10,7 +10,6 @@ class CommandSet;
 class Document;
 class Forms;
 class Prompts;
-class QAction;
 class QPoint;
 class QWidget;
 class Settings;
@@ -42,13 +41,6 @@ class Frame {
 
     /// Writes panel 3 of the status bar; now paints it before returning.
     virtual void SetStatusPanel(const QString& text, bool now = false) = 0;
-    /// The entry of the menus of that name ("mnuFileArray_0", "mEdit_3"), or null where there is none.
-    virtual QAction* MenuEntry(const QString& name) = 0;
-    /// Puts a tab at the end of the document tabs: its key and Tag are the path. A path that has a tab keeps
-    /// the one it has: a key stands once.
-    virtual void AddDocumentTab(const QString& path, const QString& caption) = 0;
-    /// Takes the tab of that key away; does nothing where there is none.
-    virtual void RemoveDocumentTab(const QString& path) = 0;
     /// Selects the first document tab whose Tag equals a path.
     virtual void SelectDocumentTab(const QString& path) = 0;
     /// Pops up the Edit menu at a place on the screen, in pixels.

@@ -2,15 +2,16 @@
 // files.
 #pragma once
 
+#include "app/documents/DocumentPaths.h"
 #include "app/documents/FileCommands.h"
 #include "app/documents/OpenDocument.h"
 #include "app/documents/Preview.h"
 #include "app/documents/Skeletons.h"
+#include "app/surface/MenuEntry.h"
 #include "support/FreshUser.h"
 #include "support/TestFrame.h"
 
 #include <gtest/gtest.h>
-#include <QAction>
 #include <QFile>
 
 class FilesFrame : public TestFrame {
@@ -19,6 +20,11 @@ class FilesFrame : public TestFrame {
         for (int n = 0; n < 8; ++n)
             AddEntry(QStringLiteral("mnuFileArray_%1").arg(n));
         AddEntry(QStringLiteral("mnuSep10"));
+        auto& paths = State<DocumentPaths>();
+        QObject::connect(&paths, &DocumentPaths::Taken, window.get(),
+                         [this](const QString& path, const QString& caption) { AddTab(path, caption); });
+        QObject::connect(&paths, &DocumentPaths::Left, window.get(),
+                         [this](const QString& path) { tabs.removeAll(path); });
         FillFileCommands(*this);
         FillSkeletonCommands(*this);
         FillPreviewCommands(*this);
@@ -37,7 +43,7 @@ class FilesFrame : public TestFrame {
     QStringList Recent() {
         QStringList shown;
         for (int n = 0; n < 8; ++n) {
-            const QAction* entry = MenuEntry(QStringLiteral("mnuFileArray_%1").arg(n));
+            const QAction* entry = MenuEntry(*this, QStringLiteral("mnuFileArray_%1").arg(n));
             if (entry->isVisible())
                 shown << entry->text();
         }
@@ -56,7 +62,16 @@ class FilesFrame : public TestFrame {
         return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("(unreadable)");
     }
 
+    /// The paths of the document tabs, and their captions in the same order of adding.
+    QStringList tabs, tabCaptions;
+
   private:
+    void AddTab(const QString& path, const QString& caption) {
+        if (tabs.contains(path))
+            return;
+        tabs << path;
+        tabCaptions << caption;
+    }
     void AddEntry(const QString& name) {
         auto* entry = new QAction(window.get());
         entry->setObjectName(name);

@@ -97,7 +97,7 @@ TEST(OpenDocument, MakesAWindowATabAndARecentEntry) {
     EXPECT_EQ(frame.tabs, QStringList{path});
     EXPECT_EQ(frame.tabCaptions, QStringList{QStringLiteral("a.htm")});
     EXPECT_EQ(frame.Recent(), QStringList{path});
-    EXPECT_TRUE(frame.MenuEntry(QStringLiteral("mnuSep10"))->isVisible());
+    EXPECT_TRUE(MenuEntry(frame, QStringLiteral("mnuSep10"))->isVisible());
     EXPECT_TRUE(frame.prompts.asked.isEmpty());
 }
 

@@ -18,7 +18,7 @@ QString Numbered(int n) {
 TEST(RecentFiles, StartsHidden) {
     FilesFrame frame;
     EXPECT_TRUE(frame.Recent().isEmpty());
-    EXPECT_FALSE(frame.MenuEntry(QStringLiteral("mnuSep10"))->isVisible());
+    EXPECT_FALSE(MenuEntry(frame, QStringLiteral("mnuSep10"))->isVisible());
 }
 
 TEST(RecentFiles, TheNewestIsFirstAndTheNinthPushesTheOldestOut) {
@@ -31,7 +31,7 @@ TEST(RecentFiles, TheNewestIsFirstAndTheNinthPushesTheOldestOut) {
         EXPECT_EQ(frame.Recent(), expected);
     }
     EXPECT_EQ(frame.Recent().last(), Numbered(2));
-    EXPECT_TRUE(frame.MenuEntry(QStringLiteral("mnuSep10"))->isVisible());
+    EXPECT_TRUE(MenuEntry(frame, QStringLiteral("mnuSep10"))->isVisible());
 }
 
 TEST(RecentFiles, AnotherSpellingOfAPathIsAnotherEntry) {
@@ -58,7 +58,7 @@ TEST(RecentFiles, ADocumentWithoutAFileIsTakenForAFreeEntry) {
     FilesFrame frame;
     Add(frame, QString());
     EXPECT_TRUE(frame.Recent().isEmpty());
-    EXPECT_FALSE(frame.MenuEntry(QStringLiteral("mnuSep10"))->isVisible());
+    EXPECT_FALSE(MenuEntry(frame, QStringLiteral("mnuSep10"))->isVisible());
 }
 
 TEST(RecentFiles, NoDocumentAddsNothing) {
@@ -72,11 +72,11 @@ TEST(RecentFiles, ASettingsEntryIsShownIfItHoldsAPath) {
     FilesFrame frame;
     RecentFiles::SetCaption(frame, 2, Numbered(2));
     EXPECT_EQ(frame.Recent(), QStringList{Numbered(2)});
-    EXPECT_FALSE(frame.MenuEntry(QStringLiteral("mnuSep10"))->isVisible());
+    EXPECT_FALSE(MenuEntry(frame, QStringLiteral("mnuSep10"))->isVisible());
     RecentFiles::SetCaption(frame, 2, QString());
     EXPECT_TRUE(frame.Recent().isEmpty());
     RecentFiles::SetCaption(frame, 0, Numbered(0));
-    EXPECT_TRUE(frame.MenuEntry(QStringLiteral("mnuSep10"))->isVisible());
+    EXPECT_TRUE(MenuEntry(frame, QStringLiteral("mnuSep10"))->isVisible());
 }
 
 TEST(RecentFiles, AnAmpersandIsShownAndKept) {

@@ -1,6 +1,7 @@
 // The frame's load: its steps in their order, and what each takes from the settings.
 #include "app/run/Startup.h"
 
+#include "app/documents/DocumentPaths.h"
 #include "app/options/frmExternal.h"
 #include "app/RealFrame.h"
 #include "app/surface/UserButtons.h"
@@ -355,7 +356,7 @@ TEST_F(StartupOf, LoadBeginsWithNoDocumentsAndNoTabs) {
     ProgramRun run;
     run.Program().DocumentCount = 5;
     run.Program().FindMode = 3;
-    run.frame->AddDocumentTab(QStringLiteral("/old.htm"), QStringLiteral("old.htm"));
+    Q_EMIT run.frame->State<DocumentPaths>().Taken(QStringLiteral("/old.htm"), QStringLiteral("old.htm"));
     ASSERT_TRUE(run.Start());
     EXPECT_EQ(run.Program().DocumentCount, 0);
     EXPECT_EQ(run.Program().FindMode, 1);

@@ -4,6 +4,7 @@
 #include "app/run/ProgramState.h"
 #include "app/run/Startup.h"
 #include "app/surface/frmTools.h"
+#include "app/surface/MenuEntry.h"
 #include "app/surface/MenuTree.h"
 #include "app/surface/NewEntries.h"
 #include "app/surface/Toolbar.h"
@@ -236,7 +237,7 @@ TEST_F(CommandSurfaceTest, EveryShortcutRunsItsEntryFromWithinTheText) {
     for (const auto& row : rows) {
         const QString name = Text(row[1]);
         frame->Commands().Set(name, [&ran, name] { ran << name; });
-        frame->MenuEntry(name)->setEnabled(true);
+        MenuEntry(*frame, name)->setEnabled(true);
     }
     for (const auto& row : rows) {
         const int key = QKeySequence(Text(row[0]))[0].toCombined();
@@ -253,7 +254,7 @@ TEST_F(CommandSurfaceTest, TheKeysThatEditCaptionsShowAreTheTextsOwn) {
     ASSERT_TRUE(QTest::qWaitFor([&] { return text.hasFocus(); }));
     // The entries are switched off, as they are before their menu drops for the first time.
     for (const char* entry : {"mEdit_0", "mEdit_2", "mEdit_3", "mEdit_4", "mEdit_5"})
-        frame->MenuEntry(Text(entry))->setEnabled(false);
+        MenuEntry(*frame, Text(entry))->setEnabled(false);
     text.SetText(Text("abc"));
     QTest::keyClick(&text, Qt::Key_A, Qt::ControlModifier);
     EXPECT_EQ(text.SelText(), Text("abc"));
@@ -281,7 +282,7 @@ TEST_F(CommandSurfaceTest, AKeyWhoseEntryWaitsTypesNothing) {
 
 TEST_F(CommandSurfaceTest, MenuToolbarAndUserButtonWriteIntoTheActiveDocument) {
     RichTextBox& text = NewDocument();
-    frame->MenuEntry(Text("mnuBold"))->trigger();
+    MenuEntry(*frame, Text("mnuBold"))->trigger();
     Button("h1")->trigger();
     frame->State<UserButtonTexts>().FirstBut[0] = Text("<DIV>");
     frame->State<UserButtonTexts>().SecondBut[0] = Text("</DIV>");
@@ -293,7 +294,7 @@ TEST_F(CommandSurfaceTest, ReloadShowsThePageInTheBrowserAndReadsNoFile) {
     RichTextBox& text = NewDocument();
     text.SetText(Text("changed"));
     prompts.saveAnswers = {ScriptedPrompts::Cancelled(), ScriptedPrompts::Cancelled()};
-    frame->MenuEntry(Text("mnuReload"))->trigger();
+    MenuEntry(*frame, Text("mnuReload"))->trigger();
     Button("preview")->trigger();
     EXPECT_EQ(text.Text(), Text("changed"));
     // Both begin with the save, which asks for a name here.
@@ -310,7 +311,7 @@ TEST_F(CommandSurfaceTest, TheNewButtonGivesASkeletonAndTheMenuABlankPage) {
     // Nothing that settles later makes it a changed one.
     QCoreApplication::processEvents();
     EXPECT_FALSE(frame->ActiveForm()->Modified());
-    frame->MenuEntry(Text("mnuNew"))->trigger();
+    MenuEntry(*frame, Text("mnuNew"))->trigger();
     EXPECT_EQ(frame->ActiveForm()->txtInput().Text(), QString());
     EXPECT_TRUE(prompts.asked.isEmpty());
 }
@@ -359,7 +360,7 @@ TEST_F(CommandSurfaceTest, AnEditedUserButtonIsStoredUnderItsIndexWhenTheProgram
 }
 
 TEST_F(CommandSurfaceTest, TheHelpKeyAndTheHelpEntrySayWhatIsMissing) {
-    frame->MenuEntry(Text("mnuMainHelp"))->trigger();
+    MenuEntry(*frame, Text("mnuMainHelp"))->trigger();
     EXPECT_EQ(Panel3(), Text("The help file tarnwick.chm is not installed."));
     frame->SetStatusPanel(QString());
     RichTextBox& text = NewDocument();
@@ -370,7 +371,7 @@ TEST_F(CommandSurfaceTest, TheHelpKeyAndTheHelpEntrySayWhatIsMissing) {
 
 TEST_F(CommandSurfaceTest, AboutIsTheStartScreenWithAMessage) {
     const auto about = [&] { return frame->LoadedForms().Find<frmSplash>(); };
-    frame->MenuEntry(Text("mnuAbout"))->trigger();
+    MenuEntry(*frame, Text("mnuAbout"))->trigger();
     QWidget* box = about();
     ASSERT_TRUE(box);
     EXPECT_TRUE(box->isVisible());
@@ -382,7 +383,7 @@ TEST_F(CommandSurfaceTest, AboutIsTheStartScreenWithAMessage) {
     QTest::mouseClick(box->findChild<QLabel*>(Text("lblMessage")), Qt::LeftButton);
     EXPECT_FALSE(about());
     // Any resize of the frame closes it as well.
-    frame->MenuEntry(Text("mnuAbout"))->trigger();
+    MenuEntry(*frame, Text("mnuAbout"))->trigger();
     ASSERT_TRUE(about());
     frame->resize(frame->width() + 20, frame->height());
     EXPECT_TRUE(QTest::qWaitFor([&] { return !about(); }));

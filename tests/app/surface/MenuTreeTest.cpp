@@ -2,6 +2,7 @@
 #include "app/surface/MenuTree.h"
 
 #include "app/surface/CommandActions.h"
+#include "app/surface/MenuEntry.h"
 #include "app/surface/NewEntries.h"
 #include "support/TestFrame.h"
 
@@ -206,7 +207,7 @@ class MenuTreeTest : public testing::Test {
   protected:
     MenuTreeTest() { BuildMenus(bar, frame); }
 
-    QAction* Entry(const char* name) { return frame.MenuEntry(QString::fromLatin1(name)); }
+    QAction* Entry(const char* name) { return MenuEntry(frame, QString::fromLatin1(name)); }
 
     TestFrame frame;
     QMenuBar bar{frame.Window()};
@@ -241,8 +242,8 @@ TEST_F(MenuTreeTest, EveryEntryIsFoundByItsName) {
         const QString name = QString::fromLatin1(row.name);
         EXPECT_FALSE(names.contains(name)) << row.name << " stands twice";
         names.insert(name);
-        ASSERT_TRUE(frame.MenuEntry(name)) << row.name;
-        EXPECT_EQ(frame.MenuEntry(name)->text(), QString::fromLatin1(row.caption));
+        ASSERT_TRUE(MenuEntry(frame, name)) << row.name;
+        EXPECT_EQ(MenuEntry(frame, name)->text(), QString::fromLatin1(row.caption));
     }
     // mEdit is an array with gaps: 1 and 6 would be its separators.
     EXPECT_FALSE(Entry("mEdit_1"));
