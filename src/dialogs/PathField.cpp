@@ -21,7 +21,7 @@ void AskToSaveFirst(Prompts& ask, QWidget* owner) {
 
 } // namespace
 
-std::optional<QString> FieldPath(Frame& frame, const QString& fullPath, PathForm form) {
+std::optional<QString> FieldPath(Frame& frame, const QString& fullPath, PathForm form, QWidget* owner) {
     QString path = fullPath;
     if (!form.absolute) {
         const Document* document = frame.ActiveForm();
@@ -29,7 +29,7 @@ std::optional<QString> FieldPath(Frame& frame, const QString& fullPath, PathForm
             return std::nullopt;
         const RelativeResult relative = RelativePath(document->Caption(), fullPath);
         if (relative.failed)
-            AskToSaveFirst(frame.Ask(), frame.Window());
+            AskToSaveFirst(frame.Ask(), owner ? owner : frame.Window());
         path = relative.path;
     }
     if (form.forwardSlash)

@@ -8,6 +8,7 @@
 class Frame;
 class QCheckBox;
 class QLineEdit;
+class QWidget;
 
 /// How a picked file stands in a field, as chkAbsolute and chkForwardSlash tell.
 struct PathForm {
@@ -17,8 +18,10 @@ struct PathForm {
 
 /// What a field receives for a picked file. A path without a root to start from or to go to shows
 /// the box that asks to save the document first, and gives what could be computed. Nothing (the field stays
-/// as it was) where a relative path has no document to start from.
-std::optional<QString> FieldPath(Frame& frame, const QString& fullPath, PathForm form);
+/// as it was) where a relative path has no document to start from. The box belongs to the owner, the frame's
+/// window unless another is given.
+std::optional<QString> FieldPath(Frame& frame, const QString& fullPath, PathForm form,
+                                 QWidget* owner = nullptr);
 /// The same straight into a field.
 void PickIntoField(Frame& frame, QLineEdit& field, const QString& fullPath, PathForm form);
 

@@ -39,6 +39,10 @@ TEST(FieldPath, AsksToSaveFirstAndGivesWhatItHasAllTheSame) {
     EXPECT_EQ(box.title, QString());
     EXPECT_EQ(box.icon, MsgIcon::Information);
     EXPECT_EQ(box.buttons, MsgButtons::OK);
+    EXPECT_EQ(box.owner, frame.Window());
+    QWidget owner;
+    FieldPath(frame, file, {}, &owner);
+    EXPECT_EQ(frame.prompts.asked.last().owner, &owner);
 }
 
 TEST(FieldPath, SavedDocumentsNeedNoBox) {
