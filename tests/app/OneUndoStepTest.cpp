@@ -89,7 +89,7 @@ const QStringList designedIdle = {
     u"tb_java2"_s,       u"tb_link"_s,
     u"tb_new"_s,         u"tb_preview"_s,
     u"tb_rectangle"_s,   u"tb_split"_s,
-    u"tb_undo"_s,
+    u"tb_table"_s,       u"tb_undo"_s,
 };
 
 /// A form that came later only comes up, too.
@@ -150,6 +150,7 @@ TEST_F(OneUndoStep, TheOKOfEveryDialog) {
     ExpectDialog("tb_java2", "frmParam", "txtName");
     ExpectDialog("tb_split", "frmMulti", "txtCols", "Command1");
     ExpectDialog("tb_rectangle", "frmSpacer", "txtWidth");
+    ExpectDialog("tb_table", "frmTable", "txtCaption", "cmdOk");
     Settings().WriteFlag(Keys::ColoredTags, true);
     Put(withCaret);
     for (const char* list : {"mnuDef", "tb_dots", "tb_onetwothree"}) {

@@ -1,6 +1,10 @@
 // Pictures of every tag dialog for the eye: set TARNWICK_PICTURES to a folder and run FormPictures.*.
 #include "builders/DialogTest.h"
 #include "builders/lists/frmBulletList.h"
+#include "builders/tables/frmTable.h"
+#include "builders/tables/Grid.h"
+#include "dialogs/DialogState.h"
+#include "dialogs/frmImage.h"
 #include "support/Site.h"
 #include <QDir>
 #include <QStyleFactory>
@@ -28,12 +32,34 @@ QPalette Dark() {
 
 class FormPictures : public DialogTest {
   protected:
+    void ShowTable(const Site& site);
     void Take(const QString& folder, const QString& name) {
         form = frame.LoadedForms().Find(name);
         ASSERT_TRUE(QTest::qWaitForWindowExposed(form));
         EXPECT_TRUE(form->grab().save(QDir(folder).filePath(name + QStringLiteral(".png"))));
     }
 };
+
+/// A table with some cells, one of them open and about to get a picture.
+void FormPictures::ShowTable(const Site& site) {
+    form = frame.LoadedForms().Find(QStringLiteral("frmTable"));
+    Fill(QStringLiteral("txtRows"), QStringLiteral("5"));
+    Fill(QStringLiteral("txtCols"), QStringLiteral("4"));
+    auto& table = *frame.LoadedForms().Find<frmTable>();
+    auto& Grid1 = *table.findChild<Grid*>();
+    for (int row = 0; row < 3; ++row) {
+        for (int col = 0; col < 4; ++col) {
+            Grid1.SetRow(row);
+            Grid1.SetCol(col);
+            table.SetCell(QString(), QStringLiteral("Cell %1").arg(row * 4 + col));
+        }
+    }
+    frame.State<DialogState>().LastDir = site.Path(QStringLiteral("img"));
+    QTest::keyClick(&Grid1, Qt::Key_Return);
+    form = frame.LoadedForms().Find(QStringLiteral("frmGridInput"));
+    Press(QStringLiteral("cmdGetFile"));
+    frame.LoadedForms().Find<frmImage>()->findChild<QListWidget*>()->setCurrentRow(1);
+}
 
 TEST_F(FormPictures, OfEveryDialog) {
     const QString folder = qEnvironmentVariable("TARNWICK_PICTURES");
@@ -59,6 +85,7 @@ TEST_F(FormPictures, OfEveryDialog) {
     form = frame.LoadedForms().Find(QStringLiteral("frmBody"));
     frame.prompts.openAnswers = {ScriptedPrompts::Picked(site.Path(QStringLiteral("img/low.png")))};
     Press(QStringLiteral("Command1"));
+    ShowTable(site);
     form = frame.LoadedForms().Find(QStringLiteral("frmFont"));
     Fill(QStringLiteral("txtFontColor"), QStringLiteral("#2060C0"));
     for (int i = 0; i < frame.LoadedForms().Count(); ++i) {

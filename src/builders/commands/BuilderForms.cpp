@@ -13,6 +13,8 @@
 #include "builders/page/frmHRInput.h"
 #include "builders/page/frmMulti.h"
 #include "builders/page/frmSpacer.h"
+#include "builders/tables/frmGridInput.h"
+#include "builders/tables/frmTable.h"
 #include "dialogs/frmImage.h"
 #include "editor/frame/ActiveText.h"
 #include "platform/text/RichTextBox.h"
@@ -53,15 +55,15 @@ std::span<const FormRow> BuilderForms() {
         FormOf<frmJava>({.button = {"java"}, .unload = 9}),
         FormOf<frmLinks>({.entry = {"mnuLink"}, .button = {"link"}, .unload = 10}),
         FormOf<frmParam>({.button = {"java2"}, .unload = 11}),
+        FormOf<frmTable>({.button = {"table"}, .unload = 12}),
         FormOf<frmSpacer>({.button = {"rectangle"}, .unload = 16}),
         FormOf<frmBulletList>({.unload = 18}),
+        FormOf<frmGridInput>({.unload = 19}),
         FormOf<frmImage>({.unload = 20}),
         FormOf<frmMulti>({.button = {"split"}, .unload = 21}),
         // Still to come; their turn at the end is settled.
         {"frmForm", {.unload = 4}},
         {"frmFrame", {.unload = 5}},
-        {"frmTable", {.unload = 12}},
-        {"frmGridInput", {.unload = 19}},
         {"VisFrame", {.unload = 23}},
     };
     return forms;

@@ -6,6 +6,8 @@
 #include "app/surface/UserButtons.h"
 #include "app/window/StatusPanels.h"
 #include "builders/commands/BuilderForms.h"
+#include "builders/tables/frmGridInput.h"
+#include "builders/tables/frmTable.h"
 #include "editor/autofill/frmDropDown.h"
 #include "support/SourceFolder.h"
 
@@ -91,6 +93,7 @@ class AccessibleNames : public FrameTest {
         for (const FormRow& row : BuilderForms())
             if (row.reach.show)
                 row.reach.show(*run.frame);
+        LoadedForms().Load<frmGridInput>(*run.frame, LoadedForms().Load<frmTable>(*run.frame));
         LoadedForms().Load<frmExternal>(*run.frame);
         LoadedForms().Load<frmTools>(*run.frame, UserButton());
         LoadedForms().Load<frmSplash>(*run.frame);
