@@ -5,11 +5,35 @@
 #include "editor/frame/Forms.h"
 #include "editor/frame/Frame.h"
 #include "platform/desktop/Prompts.h"
+#include "platform/store/WholeFile.h"
+
+#include <limits>
+
+namespace {
+
+bool MayOverwrite(Frame& frame, QWidget* owner, const QString& path) {
+    const qint64 size = WholeFile::Size(path);
+    if (size < 2 || size > std::numeric_limits<qint16>::max())
+        return true;
+    return frame.Ask().MsgBox(owner, QStringLiteral("Overwrite File?"), MsgButtons::YesNo, MsgIcon::Question,
+                              QStringLiteral("Overwrite")) != MsgAnswer::No;
+}
+
+} // namespace
 
 std::optional<QString> PickFile(Frame& frame, QWidget* owner, FileRequest request) {
     request.folder = frame.State<DialogState>().LastDir;
     const FileAnswer answer = frame.Ask().OpenFile(owner, request);
     return answer.Cancelled() ? std::nullopt : std::optional(answer.Path());
+}
+
+FileAnswer PickFileToSave(Frame& frame, QWidget* owner, FileRequest request) {
+    for (;;) {
+        request.folder = frame.State<DialogState>().LastDir;
+        FileAnswer answer = frame.Ask().SaveFile(owner, request);
+        if (answer.Cancelled() || MayOverwrite(frame, owner, answer.Path()))
+            return answer;
+    }
 }
 
 PictureBrowse::PictureBrowse(Frame& frame) : frame_(frame) {

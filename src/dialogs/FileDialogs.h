@@ -30,6 +30,11 @@ inline const QString AnyFile = QStringLiteral("All Files (*.*)|*.*|");
 /// nothing on Cancel.
 std::optional<QString> PickFile(Frame& frame, QWidget* owner, FileRequest request);
 
+/// Asks for a file to save as, in LastDir, and whether one that is there may be overwritten; a No shows the
+/// file dialog anew. Cancelled where the user wants none. The size that decides is a signed 16-bit number: a
+/// file of under 2 bytes, or of more than such a number can hold, is not asked about.
+FileAnswer PickFileToSave(Frame& frame, QWidget* owner, FileRequest request);
+
 /// One browse for a picture: loads frmImage, shows a file dialog with its panel, unloads frmImage at the
 /// end of its own life. Between a pick and that end the picture's size can be read.
 class PictureBrowse {

@@ -4,6 +4,7 @@
 #include "dialogs/DialogState.h"
 #include "dialogs/frmImage.h"
 #include "platform/desktop/DesktopPrompts.h"
+#include "support/Files.h"
 #include "support/FreshUser.h"
 #include "support/NoPlainFile.h"
 #include "support/TestFrame.h"
@@ -58,6 +59,39 @@ TEST(FileFilter, TextsToTheLetter) {
                   QStringLiteral("Graphic Files (*.jpg);(*.gif);(*.bmp)|*.jpg;*.jpeg;*.gif;*.bmp|") +
                   QStringLiteral("Text Files (*.txt)|*.txt|"));
     EXPECT_EQ(FileFilter::AnyFile, QStringLiteral("All Files (*.*)|*.*|"));
+}
+
+TEST(PickFileToSave, AsksAboutAFileWhoseLengthOfSixteenBitsIsTwoOrMore) {
+    TestFrame frame;
+    frame.State<DialogState>().LastDir = QStringLiteral("/site");
+    const std::pair<int, bool> rows[] = {{-1, false},   {0, false},     {1, false},    {2, true},
+                                         {32767, true}, {32768, false}, {65538, false}};
+    for (const auto& [size, asks] : rows) {
+        QFile::remove(Here("a.txt"));
+        if (size >= 0)
+            WriteFile(Here("a.txt"), QByteArray(size, 'x'));
+        frame.prompts.asked.clear();
+        frame.prompts.saveAnswers = {ScriptedPrompts::Picked(Here("a.txt"))};
+        if (asks)
+            frame.prompts.messageAnswers = {MsgAnswer::Yes};
+        EXPECT_EQ(PickFileToSave(frame, frame.Window(), {.fileName = QStringLiteral("n")}).Path(),
+                  Here("a.txt"));
+        ASSERT_EQ(frame.prompts.asked.size(), asks ? 2 : 1) << size;
+        EXPECT_EQ(frame.prompts.asked.first().request.folder, QStringLiteral("/site"));
+        EXPECT_EQ(frame.prompts.asked.first().request.fileName, QStringLiteral("n"));
+    }
+}
+
+TEST(PickFileToSave, ARefusalAsksForTheFileAnew) {
+    TestFrame frame;
+    WriteFile(Here("a.txt"), "old");
+    frame.prompts.saveAnswers = {ScriptedPrompts::Picked(Here("a.txt")), ScriptedPrompts::Cancelled()};
+    frame.prompts.messageAnswers = {MsgAnswer::No};
+    EXPECT_TRUE(PickFileToSave(frame, frame.Window(), {}).Cancelled());
+    ASSERT_EQ(frame.prompts.asked.size(), 3);
+    EXPECT_EQ(frame.prompts.asked[1].text, QStringLiteral("Overwrite File?"));
+    EXPECT_EQ(frame.prompts.asked[1].title, QStringLiteral("Overwrite"));
+    EXPECT_EQ(frame.prompts.asked[1].owner, frame.Window());
 }
 
 TEST(PickFile, OpensInLastDirWithTheFilterGiven) {

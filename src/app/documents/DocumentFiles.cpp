@@ -4,8 +4,6 @@
 #include "platform/values/Cp1252.h"
 #include "platform/values/Values.h"
 
-#include <limits>
-
 namespace DocumentFiles {
 
 namespace {
@@ -33,12 +31,6 @@ bool Save(const QString& path, const QString& text) {
     QByteArray bytes = Cp1252::ToBytes(Values::Trim(text));
     bytes += "\r\n";
     return WholeFile::Write(path, bytes);
-}
-
-int SizeToAskAbout(const QString& path) {
-    const qint64 size = WholeFile::Size(path);
-    const bool fits = size >= 0 && size <= std::numeric_limits<qint16>::max();
-    return fits ? static_cast<int>(size) : 0;
 }
 
 } // namespace DocumentFiles

@@ -17,8 +17,4 @@ std::optional<QString> ReadInOneGo(const QString& path);
 /// return and line feed more. Returns false where it can't be written; the old file then stands unharmed.
 bool Save(const QString& path, const QString& text);
 
-/// The size that decides whether overwriting a file is asked about: a signed 16-bit number, 0 for a file that
-/// doesn't exist and for one whose size doesn't fit.
-int SizeToAskAbout(const QString& path);
-
 } // namespace DocumentFiles

@@ -24,24 +24,12 @@ FileRequest DocumentRequest() {
     return {.filter = FileFilter::Document, .filterIndex = 2};
 }
 
-bool MayOverwrite(Frame& frame, const QString& path) {
-    if (DocumentFiles::SizeToAskAbout(path) < 2)
-        return true;
-    return frame.Ask().MsgBox(frame.Window(), QStringLiteral("Overwrite File?"), MsgButtons::YesNo,
-                              MsgIcon::Question, QStringLiteral("Overwrite")) != MsgAnswer::No;
-}
-
-/// The file to save as; cancelled where the user wants none. A refused overwrite shows the dialog anew.
+/// The file to save as; cancelled where the user wants none.
 FileAnswer AskWhereToSave(Frame& frame) {
-    while (true) {
-        FileRequest request = DocumentRequest();
-        request.defaultExtension =
-            frame.Store().ReadFlag(Keys::UseHTM) ? QStringLiteral("htm") : QStringLiteral("html");
-        request.folder = frame.State<DialogState>().LastDir;
-        FileAnswer answer = frame.Ask().SaveFile(frame.Window(), request);
-        if (answer.Cancelled() || MayOverwrite(frame, answer.Path()))
-            return answer;
-    }
+    FileRequest request = DocumentRequest();
+    request.defaultExtension =
+        frame.Store().ReadFlag(Keys::UseHTM) ? QStringLiteral("htm") : QStringLiteral("html");
+    return PickFileToSave(frame, frame.Window(), request);
 }
 
 void mnuClose_Click(Frame& frame) {
