@@ -9,6 +9,7 @@
 #include "editor/views/Modes.h"
 #include "support/FakeWebControls.h"
 
+#include <QCheckBox>
 #include <QClipboard>
 #include <QComboBox>
 #include <QLineEdit>
@@ -82,6 +83,7 @@ const QStringList designedIdle = {
     u"mnuSave"_s,        u"mnuSaveAs"_s,
     u"mnuSelectAll"_s,   u"mnuSetUserTemplate"_s,
     u"mnuTile"_s,        u"mnuWebBrowser"_s,
+    u"tb_CSS"_s,         u"tb_Layer"_s,
     u"tb_abc"_s,         u"tb_body"_s,
     u"tb_copy"_s,        u"tb_embed"_s,
     u"tb_ftp"_s,         u"tb_hr"_s,
@@ -151,6 +153,7 @@ TEST_F(OneUndoStep, TheOKOfEveryDialog) {
     ExpectDialog("tb_split", "frmMulti", "txtCols", "Command1");
     ExpectDialog("tb_rectangle", "frmSpacer", "txtWidth");
     ExpectDialog("tb_table", "frmTable", "txtCaption", "cmdOk");
+    ExpectDialog("tb_Layer", "frmDHTML", "txtDivName", "Command1");
     Settings().WriteFlag(Keys::ColoredTags, true);
     Put(withCaret);
     for (const char* list : {"mnuDef", "tb_dots", "tb_onetwothree"}) {
@@ -158,6 +161,24 @@ TEST_F(OneUndoStep, TheOKOfEveryDialog) {
         Form("frmBulletList").findChild<QLineEdit*>(u"txtAddItem"_s)->setText(u"x"_s);
         Press(Form("frmBulletList"), "cmdAddItem");
         ExpectOneStep(list, [&] { Press(Form("frmBulletList"), "cmdDone"); });
+    }
+}
+
+TEST_F(OneUndoStep, WhatStyleSheetsWrite) {
+    for (const QString& marked : {withCaret, withSelection})
+        for (const char* tool : {"tb_Header", "tb_Location", "tb_Import"}) {
+            Put(marked);
+            Run(u"tb_CSS"_s);
+            Press(Form("frmCSS"), "cmdAddSheet");
+            ExpectOneStep(tool, [&] { Press(Form("frmCSS"), tool); });
+        }
+    for (const bool block : {false, true}) {
+        Put(u"<HEAD>\r\n</HEAD>[<BODY>]"_s);
+        Run(u"tb_Layer"_s);
+        for (const QString& field : {u"txtName"_s, u"txtTop"_s, u"txtLeft"_s})
+            Form("frmDHTML").findChild<QLineEdit*>(field)->setText(u"x"_s);
+        Form("frmDHTML").findChild<QCheckBox*>(u"chkAddStyle"_s)->setChecked(block);
+        ExpectOneStep("txtOK", [&] { Press(Form("frmDHTML"), "txtOK"); });
     }
 }
 

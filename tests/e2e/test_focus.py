@@ -98,6 +98,16 @@ def test_a_color_dialog_gives_the_keys_back(desk):
                  ("Font", "Font", "Pick Font Color", [accept("Select Color")])])
 
 
+def test_the_boxes_of_style_sheets_and_layers_give_the_keys_back(desk):
+    sheets = "Cascading Style Sheets"
+    expect_rows(desk, [
+        (sheets, sheets, "Add an element", [cancel("Add Element")]),
+        (sheets, sheets, "Rename an element", [cancel("Add Element")]),
+        (sheets, sheets, "Save to external style sheet", [cancel("Save As")]),
+        ("Create DHTML Layer", "DHTML", "Create Class", [confirm]),
+    ])
+
+
 def options(desk, page):
     desk.key("alt+w")
     desk.key("o")

@@ -116,8 +116,7 @@ TEST_F(CommandSurfaceTest, ExactlyTheseWaitForTheirCommands) {
         Text("mnuConvertFromMac"), Text("mnuConvertToMac"),   Text("mnuConvertFromUNIX"),
         Text("mnuConvertToUNIX"),  Text("tb_print"),          Text("tb_object"),
         Text("tb_find"),           Text("tb_spell"),          Text("tb_form"),
-        Text("tb_frame"),          Text("tb_CSS"),
-        Text("tb_Layer"),
+        Text("tb_frame"),
     };
     QStringList disabled;
     QStringList without;
@@ -172,6 +171,8 @@ TEST_F(CommandSurfaceTest, WithoutADocumentEveryCommandIsSilentOrNeedsNone) {
         {Text("tb_split"), Text("loads frmMulti")},
         {Text("tb_table"), Text("loads frmTable")},
         {Text("tb_rectangle"), Text("loads frmSpacer")},
+        {Text("tb_CSS"), Text("loads frmCSS")},
+        {Text("tb_Layer"), Text("loads frmDHTML")},
         // Entries of the recent files that no path has filled.
         {Text("mnuFileArray_0"), lost},
         {Text("mnuFileArray_1"), lost},
@@ -205,7 +206,8 @@ TEST_F(CommandSurfaceTest, WithoutADocumentADialogComesUpAllTheSame) {
         {"mnuHR", "frmHRInput"},  {"tb_hr", "frmHRInput"},        {"tb_abc", "frmFont"},
         {"tb_body", "frmBody"},   {"tb_java", "frmJava"},         {"tb_java2", "frmParam"},
         {"tb_link", "frmLinks"},  {"tb_image", "frmGraphicLink"}, {"tb_embed", "frmEmbed"},
-        {"tb_split", "frmMulti"}, {"tb_rectangle", "frmSpacer"},
+        {"tb_split", "frmMulti"}, {"tb_rectangle", "frmSpacer"},  {"tb_CSS", "frmCSS"},
+        {"tb_Layer", "frmDHTML"},
     };
     for (const auto& row : rows) {
         Run(Text(row[0]));

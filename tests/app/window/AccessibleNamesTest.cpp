@@ -4,8 +4,8 @@
 #include "app/run/frmSplash.h"
 #include "app/surface/frmTools.h"
 #include "app/surface/UserButtons.h"
+#include "app/window/KnownForms.h"
 #include "app/window/StatusPanels.h"
-#include "builders/commands/BuilderForms.h"
 #include "builders/tables/frmGridInput.h"
 #include "builders/tables/frmTable.h"
 #include "editor/autofill/frmDropDown.h"
@@ -90,7 +90,7 @@ class AccessibleNames : public FrameTest {
     Forms& LoadedForms() { return run.frame->LoadedForms(); }
     /// Every form there is, loaded.
     void LoadAll() {
-        for (const FormRow& row : BuilderForms())
+        for (const FormRow& row : KnownForms())
             if (row.reach.show)
                 row.reach.show(*run.frame);
         LoadedForms().Load<frmGridInput>(*run.frame, LoadedForms().Load<frmTable>(*run.frame));
