@@ -1,6 +1,7 @@
 #include "builders/tables/GridCells.h"
 
 #include "dialogs/TagRows.h"
+#include <QStringList>
 
 namespace {
 

@@ -1,6 +1,7 @@
 #include "builders/tables/ReadTable.h"
 
 #include "dialogs/TagRows.h"
+#include <QStringList>
 
 namespace {
 
