@@ -42,4 +42,48 @@ TEST_F(TextSearchTest, ItFindsWhatLiesAcrossTheEdgesOfWhatItReadsAtATime) {
     }
 }
 
+TEST_F(TextSearchTest, CaseIsIgnoredInAllScripts) {
+    const QString rows[][2] = {
+        {u"Za\u017c\u00f3\u0142\u0107"_s, u"ZA\u017b\u00d3\u0141\u0106"_s},
+        {u"\u03b5\u03bb\u03bb\u03b7\u03bd\u03b9\u03ba\u03cc\u03c2"_s,
+         u"\u0395\u039b\u039b\u0397\u039d\u0399\u039a\u038c\u03a3"_s},
+        {u"\u0441\u043b\u043e\u0432\u043e"_s, u"\u0421\u041b\u041e\u0412\u041e"_s},
+        {u"\u03c3"_s, u"\u03c2"_s},
+        {u"\u00df"_s, u"\u1e9e"_s},
+        {u"k\u00e5"_s, u"\u212a\u212b"_s},
+        {u"\u2c65x"_s, u"\u023aX"_s},
+        {u"\U00010428"_s, u"\U00010400"_s},
+    };
+    for (const auto& [one, other] : rows) {
+        for (const auto& [wanted, text] : {std::pair(one, other), std::pair(other, one)}) {
+            Put(u"<p>\u65e5"_s + text + u"!"_s);
+            const auto size = static_cast<int>(text.toUtf8().size());
+            EXPECT_EQ(Find(wanted), (ByteRange{6, 6 + size})) << wanted.toStdString();
+            EXPECT_EQ(Find(wanted, TextSearch::MatchCase), std::nullopt) << wanted.toStdString();
+            EXPECT_EQ(Find(text, TextSearch::MatchCase), (ByteRange{6, 6 + size})) << text.toStdString();
+        }
+    }
+}
+
+TEST_F(TextSearchTest, CharactersBeyondTheFirstPlaneAreFoundWhole) {
+    Put(u"A\U0001F600\U0001F601b"_s);
+    EXPECT_EQ(Find(u"\U0001F601B"_s), (ByteRange{5, 10}));
+    EXPECT_EQ(Find(u"a\U0001F600"_s), (ByteRange{0, 5}));
+    EXPECT_EQ(Find(u"\U0001F602"_s), std::nullopt);
+}
+
+TEST_F(TextSearchTest, AMarkBelongsToTheWordBeforeIt) {
+    Put(u"cafe\u0301 \U00010428cafe cafe"_s);
+    EXPECT_EQ(Find(u"cafe"_s, TextSearch::WholeWord), (ByteRange{16, 20}));
+}
+
+TEST_F(TextSearchTest, MatchesOfOtherLengthsAreFoundAcrossTheEdgesToo) {
+    for (int before = 505; before <= 515; ++before) {
+        Put(QString(before, u'x') + u"\u212a\u212a\u212a"_s);
+        EXPECT_EQ(Find(u"kkk"_s), (ByteRange{before, before + 9})) << before;
+        Put(QString(before, u'x') + u"kkk"_s);
+        EXPECT_EQ(Find(u"\u212a\u212a\u212a"_s), (ByteRange{before, before + 3})) << before;
+    }
+}
+
 } // namespace
