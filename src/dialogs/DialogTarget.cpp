@@ -130,5 +130,5 @@ bool DialogTarget::Save(const QString& path) const {
         const QPixmap picture = static_cast<QLabel*>(control_)->pixmap(Qt::ReturnByValue);
         return !picture.isNull() && picture.save(&bytes, "BMP") && WholeFile::Write(path, bytes.data());
     }
-    return WholeFile::Write(path, Cp1252::ToBytes(text_ ? *text_ : TextOf(control_)));
+    return WholeFile::Write(path, Cp1252::ToBytes(Cp1252::Accept(text_ ? *text_ : TextOf(control_))));
 }

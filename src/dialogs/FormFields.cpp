@@ -1,7 +1,5 @@
 #include "dialogs/FormFields.h"
 
-#include "platform/values/Cp1252.h"
-
 #include <algorithm>
 #include <QAbstractButton>
 #include <QAbstractItemView>
@@ -39,11 +37,11 @@ QIcon ColorPatch(const QColor& color, const QWidget* button) {
 } // namespace
 
 QString FieldText(const QLineEdit* field) {
-    return Cp1252::Accept(field->text());
+    return field->text();
 }
 
 QString FieldText(const QComboBox* field) {
-    return Cp1252::Accept(field->currentText());
+    return field->currentText();
 }
 
 void NamePartsOf(QComboBox& combo) {

@@ -8,8 +8,7 @@ class QComboBox;
 class QLineEdit;
 class QWidget;
 
-/// What a field holds, as a document can hold it: a character from outside code page 1252 as its decimal
-/// reference.
+/// What a field holds. What the document can't hold of it becomes references where it is written.
 QString FieldText(const QLineEdit* field);
 QString FieldText(const QComboBox* field);
 

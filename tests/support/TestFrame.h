@@ -46,6 +46,11 @@ class TestDocument final : public QWidget, public Document {
     void SetCaption(const QString& path) override { caption = path; }
     bool Modified() const override { return modified; }
     void SetModified(bool value) override { modified = value; }
+    TextEncoding Encoding() const override { return encoding; }
+    void SetEncoding(TextEncoding value) override {
+        encoding = value;
+        input->SetHolds(CharactersOf(value));
+    }
     RichTextBox& txtInput() override { return *input; }
     QWidget& Window() override { return *this; }
     bool Unload() override;
@@ -53,6 +58,7 @@ class TestDocument final : public QWidget, public Document {
 
     QString caption;
     bool modified = false;
+    TextEncoding encoding = TextEncoding::Ascii;
     RecordingBox* input;
     QTimer Timer1;
     /// None until a test gives it some.

@@ -1,6 +1,5 @@
 #include "app/documents/AwaitedFile.h"
 
-#include "app/documents/DocumentFiles.h"
 #include "app/documents/TakeInText.h"
 #include "editor/frame/Document.h"
 #include "editor/frame/Frame.h"
@@ -51,9 +50,9 @@ void AwaitedFile::TryAgain() {
         return;
     }
     if (!UserIsBusy()) {
-        std::optional<QString> text = DocumentFiles::ReadUpToEndOfText(path_);
-        if (text) {
-            TakeIn(std::move(*text));
+        std::optional<FileText> file = DocumentFiles::ReadUpToEndOfText(frame_.Store(), path_);
+        if (file) {
+            TakeIn(std::move(*file));
             return;
         }
         if (frame_.ActiveForm() == &document_)
@@ -63,13 +62,13 @@ void AwaitedFile::TryAgain() {
     timer_.start();
 }
 
-void AwaitedFile::TakeIn(QString text) {
+void AwaitedFile::TakeIn(FileText file) {
     Document* before = frame_.ActiveForm();
     const QPointer<QWidget> focus = QApplication::focusWidget();
     // What the user typed into the waiting window is in no file yet.
     const bool modified = document_.Modified();
     frame_.ActivateDocument(document_);
-    TakeInText(frame_, path_, std::move(text));
+    TakeInText(frame_, path_, std::move(file));
     if (modified)
         document_.SetModified(true);
     if (before && before != &document_) {

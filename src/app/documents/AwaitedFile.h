@@ -1,6 +1,8 @@
 // A file that could not be read when it was opened: its blank window waits for it.
 #pragma once
 
+#include "app/documents/DocumentFiles.h"
+
 #include <chrono>
 #include <QObject>
 #include <QPointer>
@@ -28,7 +30,7 @@ class AwaitedFile : public QObject {
 
   private:
     void TryAgain();
-    void TakeIn(QString text);
+    void TakeIn(FileText file);
     void Announce();
 
     Frame& frame_;

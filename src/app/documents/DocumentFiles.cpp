@@ -1,7 +1,9 @@
 #include "app/documents/DocumentFiles.h"
 
+#include "editor/frame/Document.h"
+#include "platform/store/Settings.h"
 #include "platform/store/WholeFile.h"
-#include "platform/values/Cp1252.h"
+#include "platform/text/RichTextBox.h"
 #include "platform/values/Values.h"
 
 namespace DocumentFiles {
@@ -10,27 +12,44 @@ namespace {
 
 constexpr char endOfText = 26;
 
+FileText TextOf(const Settings& store, QByteArrayView bytes) {
+    const TextEncoding encoding =
+        store.ReadFlag(Keys::Utf8Pages) ? EncodingOf(bytes) : TextEncoding::CodePage1252;
+    return {Decode(bytes, encoding), encoding};
+}
+
+/// With the pages of UTF-8 turned off no document becomes one; one that is open already stays what it is.
+TextEncoding EncodingFor(const Settings& store, TextEncoding encoding, const QString& text) {
+    if (store.ReadFlag(Keys::Utf8Pages))
+        return EncodingToSave(encoding, text);
+    return IsUtf8(encoding) ? encoding : TextEncoding::CodePage1252;
+}
+
 } // namespace
 
-std::optional<QString> ReadUpToEndOfText(const QString& path) {
+std::optional<FileText> ReadUpToEndOfText(const Settings& store, const QString& path) {
     const std::optional<QByteArray> bytes = WholeFile::Read(path);
     if (!bytes)
         return std::nullopt;
     const qsizetype end = bytes->indexOf(endOfText);
-    return Cp1252::FromBytes(QByteArrayView(*bytes).first(end < 0 ? bytes->size() : end));
+    return TextOf(store, QByteArrayView(*bytes).first(end < 0 ? bytes->size() : end));
 }
 
-std::optional<QString> ReadInOneGo(const QString& path) {
+std::optional<FileText> ReadInOneGo(const Settings& store, const QString& path) {
     const std::optional<QByteArray> bytes = WholeFile::Read(path);
     if (!bytes || bytes->contains(endOfText))
         return std::nullopt;
-    return Cp1252::FromBytes(*bytes);
+    return TextOf(store, *bytes);
 }
 
-bool Save(const QString& path, const QString& text) {
-    QByteArray bytes = Cp1252::ToBytes(Values::Trim(text));
-    bytes += "\r\n";
-    return WholeFile::Write(path, bytes);
+bool Save(const Settings& store, const QString& path, Document& document) {
+    const QString text = Values::Trim(document.txtInput().Text());
+    const TextEncoding encoding = EncodingFor(store, document.Encoding(), text);
+    if (!WholeFile::Write(path, Encode(text, encoding) + "\r\n"))
+        return false;
+    document.SetEncoding(encoding);
+    document.SetModified(false);
+    return true;
 }
 
 } // namespace DocumentFiles

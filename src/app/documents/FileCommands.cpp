@@ -69,8 +69,8 @@ void mnuSave_Click(Frame& frame) {
         return;
     if (document->Caption().isEmpty())
         mnuSaveAs_Click(frame);
-    else if (DocumentFiles::Save(document->Caption(), document->txtInput().Text()))
-        document->SetModified(false);
+    else
+        DocumentFiles::Save(frame.Store(), document->Caption(), *document);
 }
 
 void mnuSaveAs_Click(Frame& frame) {
@@ -82,8 +82,7 @@ void mnuSaveAs_Click(Frame& frame) {
         return;
     const QString path = answer.Path();
     // The document takes the new path either way; only what is safely in the file counts as saved.
-    if (DocumentFiles::Save(path, document->txtInput().Text()))
-        document->SetModified(false);
+    DocumentFiles::Save(frame.Store(), path, *document);
     frame.State<DialogState>().LastDir = answer.folder;
     Q_EMIT frame.State<DocumentPaths>().Left(document->Caption());
     document->SetCaption(path);
@@ -98,6 +97,6 @@ void mnuInsertContents_Click(Frame& frame) {
     RichTextBox* txtInput = ActiveText(frame);
     if (answer.Cancelled() || !txtInput)
         return;
-    if (const auto text = DocumentFiles::ReadInOneGo(answer.Path()))
-        txtInput->SetSelText(*text);
+    if (const auto file = DocumentFiles::ReadInOneGo(frame.Store(), answer.Path()))
+        txtInput->SetSelText(file->text);
 }

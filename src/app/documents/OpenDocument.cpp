@@ -31,9 +31,9 @@ void OpenDocumentFile(Frame& frame, const QString& path) {
     Document* document = frame.ActiveForm();
     if (!document)
         return;
-    std::optional<QString> text = DocumentFiles::ReadUpToEndOfText(path);
-    if (text)
-        TakeInText(frame, path, std::move(*text));
+    std::optional<FileText> file = DocumentFiles::ReadUpToEndOfText(frame.Store(), path);
+    if (file)
+        TakeInText(frame, path, std::move(*file));
     else if (!path.isEmpty())
         new AwaitedFile(frame, *document, path);
 }
@@ -50,5 +50,5 @@ void OpenRecentFile(Frame& frame, int n) {
     if (RefusedAsDuplicate(frame, path))
         return;
     frame.NewDocument();
-    TakeInRecentText(frame, path, DocumentFiles::ReadInOneGo(path).value_or(QString()));
+    TakeInRecentText(frame, path, DocumentFiles::ReadInOneGo(frame.Store(), path).value_or(FileText()));
 }

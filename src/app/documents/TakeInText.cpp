@@ -1,6 +1,7 @@
 #include "app/documents/TakeInText.h"
 
 #include "app/documents/DocumentPaths.h"
+#include "app/documents/EncodingNote.h"
 #include "app/documents/RecentFiles.h"
 #include "editor/color/ColoredTags.h"
 #include "editor/color/ColorizeText.h"
@@ -46,23 +47,27 @@ bool IsLoaded(Frame& frame, const QString& path) {
     return false;
 }
 
-void TakeInText(Frame& frame, const QString& path, QString text) {
+void TakeInText(Frame& frame, const QString& path, FileText file) {
     Document* document = frame.ActiveForm();
     if (!document)
         return;
     document->SetCaption(path);
-    WriteAsSet(frame, *document, std::move(text));
+    document->SetEncoding(file.encoding);
+    WriteAsSet(frame, *document, std::move(file.text));
     CountAsLoaded(*document);
     AddToRecentFiles(frame);
     Q_EMIT frame.State<DocumentPaths>().Taken(path, Path::NameOnDisk(path));
+    TellEncoding(frame, *document);
 }
 
-void TakeInRecentText(Frame& frame, const QString& path, QString text) {
+void TakeInRecentText(Frame& frame, const QString& path, FileText file) {
     Document* document = frame.ActiveForm();
     if (!document)
         return;
     document->SetCaption(path);
-    WriteColored(frame, std::move(text));
+    document->SetEncoding(file.encoding);
+    WriteColored(frame, std::move(file.text));
     CountAsLoaded(*document);
     Q_EMIT frame.State<DocumentPaths>().Taken(path, Path::NameOnDisk(path));
+    TellEncoding(frame, *document);
 }

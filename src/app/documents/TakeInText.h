@@ -1,6 +1,8 @@
 // A file's text, just read, becomes the content of a document window.
 #pragma once
 
+#include "app/documents/DocumentFiles.h"
+
 #include <QString>
 
 class Frame;
@@ -8,9 +10,10 @@ class Frame;
 /// Whether a loaded form, document or dialog, has the path for its caption.
 bool IsLoaded(Frame& frame, const QString& path);
 
-/// Makes a text the content of the active window and gives it the path: coloured when ColoredTags is 1, with
-/// an entry in the recent files and a document tab. Nothing is changed since, and nothing can be undone.
-void TakeInText(Frame& frame, const QString& path, QString text);
+/// Makes a file's text the content of the active window and gives it the path and the encoding: coloured when
+/// ColoredTags is 1, with an entry in the recent files and a document tab. Nothing is changed since, and
+/// nothing can be undone.
+void TakeInText(Frame& frame, const QString& path, FileText file);
 
 /// The same for a recent file: coloured whatever ColoredTags says, and the recent files stay as they are.
-void TakeInRecentText(Frame& frame, const QString& path, QString text);
+void TakeInRecentText(Frame& frame, const QString& path, FileText file);

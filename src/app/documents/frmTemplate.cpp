@@ -1,6 +1,7 @@
 #include "app/documents/frmTemplate.h"
 
 #include "app/documents/DocumentPaths.h"
+#include "app/documents/EncodingNote.h"
 #include "app/documents/WordWrap.h"
 #include "app/run/ProgramState.h"
 #include "app/window/Icons.h"
@@ -104,6 +105,7 @@ void frmTemplate::TakeBackground() {
 void frmTemplate::Form_Activate() {
     TakeBackground();
     txtInput_->SetFocus();
+    TellEncoding(frame_, *this);
 }
 
 void frmTemplate::Form_Resize() {
@@ -117,6 +119,11 @@ void frmTemplate::Form_Resize() {
 QSize frmTemplate::sizeHint() const {
     const QMdiArea* area = mdiArea();
     return area ? area->viewport()->size() * 3 / 4 : QMdiSubWindow::sizeHint();
+}
+
+void frmTemplate::SetEncoding(TextEncoding encoding) {
+    encoding_ = encoding;
+    txtInput_->SetHolds(CharactersOf(encoding));
 }
 
 void frmTemplate::SetCaption(const QString& path) {

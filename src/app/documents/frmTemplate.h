@@ -43,6 +43,8 @@ class frmTemplate final : public QMdiSubWindow, public Document {
     void SetCaption(const QString& path) override;
     bool Modified() const override { return modified_; }
     void SetModified(bool modified) override { modified_ = modified; }
+    TextEncoding Encoding() const override { return encoding_; }
+    void SetEncoding(TextEncoding encoding) override;
     RichTextBox& txtInput() override { return *txtInput_; }
     QWidget& Window() override { return *this; }
     DocumentModes* Modes() override { return modes_.get(); }
@@ -68,6 +70,7 @@ class frmTemplate final : public QMdiSubWindow, public Document {
     Frame& frame_;
     QString caption_;
     bool modified_ = false;
+    TextEncoding encoding_ = TextEncoding::Ascii;
     QWidget* client_;
     RichTextBox* txtInput_;
     QTimer* timer1_;

@@ -172,6 +172,7 @@ void tb_meta_Click(Frame& frame) {
         tags += lineEnd + MetaTag(QStringLiteral("keywords"), keywords);
 
     RichTextBox& text = *active;
+    tags = text.Held(tags);
     const int before = text.SelStart();
     const QString head = QStringLiteral("<HEAD>");
     // Where there is no such tag the search gives -1, and the text goes in at 5.

@@ -23,8 +23,8 @@ frmTools::frmTools(Frame& frame, const UserButton& button)
 frmTools::~frmTools() = default;
 
 void frmTools::cmdOK_Click() {
-    Q_EMIT Edited({Cp1252::Accept(ui_->txtName->text()), Cp1252::Accept(ui_->txtFirst->text()),
-                   Cp1252::Accept(ui_->txtSecond->text())});
+    // What the button writes stays as it is typed: the document that it goes into may hold it.
+    Q_EMIT Edited({Cp1252::Accept(ui_->txtName->text()), ui_->txtFirst->text(), ui_->txtSecond->text()});
     Unload();
 }
 

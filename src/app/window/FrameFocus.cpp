@@ -1,5 +1,6 @@
 #include "app/window/FrameFocus.h"
 
+#include "app/documents/EncodingNote.h"
 #include "app/documents/frmTemplate.h"
 #include "app/window/OpenDocuments.h"
 #include "editor/frame/Frame.h"
@@ -44,6 +45,13 @@ void FrameFocus::FrameActivated() {
     // A document that was opened before the frame was on the screen is none of the area's active ones yet,
     // and the area wakes up behind this event.
     QMetaObject::invokeMethod(&documents_, &OpenDocuments::Wake, Qt::QueuedConnection);
+    // The text gets the focus behind this event, and tells its line then.
+    QMetaObject::invokeMethod(this, &FrameFocus::TellDocument, Qt::QueuedConnection);
+}
+
+void FrameFocus::TellDocument() {
+    if (const frmTemplate* document = documents_.Active())
+        TellEncoding(frame_, *document);
 }
 
 void FrameFocus::AreaReleased(const QMouseEvent& release) {

@@ -28,6 +28,7 @@ class FrameFocus final : public QObject {
 
   private:
     void FrameActivated();
+    void TellDocument();
     void AreaReleased(const QMouseEvent& release);
 
     Frame& frame_;

@@ -7,7 +7,6 @@
 #include "editor/frame/Frame.h"
 #include "platform/desktop/Prompts.h"
 #include "platform/text/RichTextBox.h"
-#include "platform/values/Cp1252.h"
 
 #include <QDate>
 #include <QLocale>
@@ -130,7 +129,7 @@ void mnuDef_Click(Frame& frame) {
 }
 
 void mnuTimeDate_Click(Frame& frame) {
-    Insert(frame, Cp1252::Accept(LongDate(QDate::currentDate(), QLocale())));
+    Insert(frame, LongDate(QDate::currentDate(), QLocale()));
 }
 
 } // namespace

@@ -15,12 +15,17 @@
 #include <utility>
 
 WrittenTag InsertTag(Frame& frame, QString open, QString close, KeepCase keepCase) {
+    Document* document = frame.ActiveForm();
+    // Before anything counts or lowers it: what the document can't hold goes in as references.
+    if (document) {
+        open = document->txtInput().Held(open);
+        close = document->txtInput().Held(close);
+    }
     if (keepCase == KeepCase::No) {
         const TagCase tagCase = TagCaseOf(frame.Store());
         open = InCase(open, tagCase);
         close = InCase(close, tagCase);
     }
-    Document* document = frame.ActiveForm();
     if (!document)
         return {open, close};
     RichTextBox& txtInput = document->txtInput();

@@ -1,13 +1,16 @@
 // What the program sees of a document window.
 #pragma once
 
+#include "platform/values/TextEncoding.h"
+
 #include <QString>
 
 class DocumentModes;
 class QWidget;
 class RichTextBox;
 
-/// A document has no object behind it: its window's caption, modified flag and text control are all there is.
+/// A document has no object behind it: its window's caption, modified flag, encoding and text control are all
+/// there is.
 class Document {
   public:
     virtual ~Document() = default;
@@ -17,6 +20,10 @@ class Document {
     /// The window's Tag, "True" or "False": whether the text changed since it was loaded or saved.
     virtual bool Modified() const = 0;
     virtual void SetModified(bool modified) = 0;
+    /// How its characters stand in its file: found where the file is read (DocumentFiles), settled anew where
+    /// it is written, and asked for by nothing else. Setting it lets txtInput hold the encoding's characters.
+    virtual TextEncoding Encoding() const = 0;
+    virtual void SetEncoding(TextEncoding encoding) = 0;
     virtual RichTextBox& txtInput() = 0;
     /// The switch between source, design and browser view; null for a document that has none.
     virtual DocumentModes* Modes() { return nullptr; }

@@ -1,7 +1,6 @@
 #include "platform/desktop/DesktopPrompts.h"
 
 #include "platform/desktop/FileFilters.h"
-#include "platform/values/Cp1252.h"
 #include "platform/values/Path.h"
 
 #include <algorithm>
@@ -228,7 +227,7 @@ QString DesktopPrompts::InputBox(QWidget* owner, const QString& prompt, const QS
     dialog.setLabelText(QString(prompt).replace(QStringLiteral("\r\n"), QStringLiteral("\n")));
     dialog.setTextValue(standard);
     dialog.setMinimumWidth(InputBoxWidth);
-    return dialog.exec() == QDialog::Accepted ? Cp1252::Accept(dialog.textValue()) : QString();
+    return dialog.exec() == QDialog::Accepted ? dialog.textValue() : QString();
 }
 
 std::optional<ColorNumber> DesktopPrompts::ChooseColor(QWidget* owner, QByteArray& customColors) {

@@ -22,7 +22,7 @@ class Prompts {
     /// An empty title is an empty window title.
     virtual MsgAnswer MsgBox(QWidget* owner, const QString& text, MsgButtons buttons, MsgIcon icon,
                              const QString& title) = 0;
-    /// The text typed, empty on Cancel. Characters from outside code page 1252 come as decimal references.
+    /// The text typed, empty on Cancel.
     virtual QString InputBox(QWidget* owner, const QString& prompt, const QString& title,
                              const QString& standard = QString()) = 0;
     /// The system's colour dialog, with no initial colour; nothing on Cancel. The 16 custom colours are

@@ -69,6 +69,7 @@ inline const SettingsKey UseWebTimer = In("Program Options", "UseWebTimer", "0")
 inline const SettingsKey WordWrap = In("Program Options", "WordWrap", "1");
 inline const SettingsKey LowerCaseTags = In("Program Options", "LowerCaseTags", "0");
 inline const SettingsKey UseHTM = In("Program Options", "UseHTM", "0");
+inline const SettingsKey Utf8Pages = In("Program Options", "Utf8Pages", "1");
 inline const SettingsKey WebTimer = In("Program Options", "WebTimer", "False");
 
 // Browser Options

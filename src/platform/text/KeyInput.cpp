@@ -96,8 +96,10 @@ bool KeyInput::RunEditingKey(int key, Qt::KeyboardModifiers modifiers) {
 }
 
 void KeyInput::TypeText(const QString& text) {
-    // Accents that come as characters of their own join their letters first: most pairs have a character.
-    const QString composed = text.normalized(QString::NormalizationForm_C);
+    const bool unicode = editing_.Holds() == CharacterSet::Unicode;
+    // In the code page accents that come as characters of their own join their letters first: most pairs have
+    // a character.
+    const QString composed = unicode ? text : text.normalized(QString::NormalizationForm_C);
     // What comes at once goes at once; single characters in a row are one step by themselves.
     std::optional<UndoAction> step;
     if (composed.size() > 1)
@@ -109,15 +111,36 @@ void KeyInput::TypeText(const QString& text) {
             continue;
         }
         const bool pair = composed[i].isHighSurrogate() && i + 1 < composed.size();
-        editing_.Type(Cp1252::Accept(QStringView(composed).mid(i, pair ? 2 : 1)).toUtf8());
+        TypeBeyondCodePage(composed.mid(i, pair ? 2 : 1));
         i += pair ? 1 : 0;
     }
+}
+
+void KeyInput::TypeBeyondCodePage(const QString& character) {
+    if (editing_.Holds() == CharacterSet::CodePage1252) {
+        editing_.Type(editing_.Held(character));
+        return;
+    }
+    const auto code = static_cast<int>(character.toUcs4().value(0));
+    int answer = code;
+    listeners_.keyPress(answer);
+    if (answer != code) {
+        TypeAnswer(answer);
+        return;
+    }
+    editing_.Type(editing_.Held(character));
+    Sci(Control::SCI_SCROLLCARET);
 }
 
 void KeyInput::TypeCode(int code, bool controlTypes) {
     int answer = code;
     listeners_.keyPress(answer);
-    if (answer <= 0 || answer > 255 || (answer == code && !controlTypes))
+    if (answer != code || controlTypes)
+        TypeAnswer(answer);
+}
+
+void KeyInput::TypeAnswer(int answer) {
+    if (answer <= 0 || answer > 255)
         return;
     switch (answer) {
     case 8:

@@ -16,7 +16,8 @@ class KeyInput {
     struct Listeners {
         /// The virtual key code and 1 for Shift, 2 for Ctrl, 4 for Alt. A code of 0 swallows the key.
         std::function<void(int& KeyCode, int Shift)> keyDown;
-        /// The code page's code of the character that is typed; 0 swallows it.
+        /// The code page's code of the character that is typed, in Unicode its number for one from outside
+        /// the code page, which is above 255; 0 swallows it.
         std::function<void(int& KeyAscii)> keyPress;
     };
 
@@ -35,6 +36,9 @@ class KeyInput {
     long Sci(unsigned int message) const;
     bool RunEditingKey(int key, Qt::KeyboardModifiers modifiers);
     void TypeCode(int code, bool controlTypes);
+    /// A character that the code page lacks: itself, or its reference.
+    void TypeBeyondCodePage(const QString& character);
+    void TypeAnswer(int answer);
 
     QsciScintillaBase& control_;
     const TextBuffer& buffer_;

@@ -100,7 +100,7 @@ QString RichTextBox::Text() const {
 void RichTextBox::SetText(const QString& text) {
     const Settling settling(*this);
     const int style = colors_.StyleAtCaret(editing_.Selection());
-    const QByteArray bytes = text.toUtf8();
+    const QByteArray bytes = editing_.Held(text);
     editing_.Replace(buffer_.Whole(), bytes, StyleRuns(static_cast<int>(bytes.size()), style));
     GoToStart();
 }
@@ -115,13 +115,13 @@ int RichTextBox::TextLength() const {
 }
 
 QString RichTextBox::TextRange(int start, int length) const {
-    return buffer_.Text(buffer_.FromChars(start, qint64{start} + length));
+    return buffer_.TextOfUnits(start, qint64{start} + length);
 }
 
 QChar RichTextBox::CharAt(int position) const {
     if (position < 0 || position >= TextLength())
         return QChar();
-    const QString one = buffer_.Text(buffer_.CharacterAt(buffer_.ByteFromChar(position)));
+    const QString one = buffer_.TextOfUnits(position, qint64{position} + 1);
     return one.isEmpty() ? QChar() : one[0];
 }
 
@@ -162,7 +162,7 @@ QString RichTextBox::SelText() const {
 
 void RichTextBox::SetSelText(const QString& text) {
     const Settling settling(*this);
-    editing_.ReplaceSelection(text.toUtf8());
+    editing_.ReplaceSelection(editing_.Held(text));
 }
 
 ColorNumber RichTextBox::SelColor() const {
@@ -201,7 +201,7 @@ QString RichTextBox::TextRTF() const {
 }
 
 void RichTextBox::ReplaceByRtf(ByteRange range, const QString& rtf) {
-    const RtfText content = ReadRtf(rtf, rawLineEnds_);
+    const RtfText content = ReadRtf(rtf, rawLineEnds_, editing_.Holds());
     StyleRuns styles;
     for (const RtfRun& run : content.runs)
         styles.Append(run.length, colors_.StyleFor(run.color));

@@ -19,9 +19,9 @@ class QPainter;
 class QRectF;
 enum class RawLineEnds;
 
-/// The rich-text control: the face of the classes that it is made of. Text is a QString whose characters are
-/// all of code page 1252, so that one character is one byte of the file; positions count characters from 0,
-/// and a CR and an LF are one each.
+/// The rich-text control: the face of the classes that it is made of. Text is a QString of the characters
+/// that the document holds; positions count from 0 as a QString counts, in UTF-16 units, and a CR and an LF
+/// are one each.
 ///
 /// Every assignment (`Text`, `SelText`, `SelRTF`) is one undo step, and undo and redo bring the colours back.
 /// Signals come after the event or call that caused them is complete, in the order Change, SelChange; one
@@ -52,6 +52,14 @@ class RichTextBox : public QsciScintillaBase, public AccessibleText {
 
     explicit RichTextBox(QWidget* parent = nullptr);
     ~RichTextBox() override;
+
+    /// The characters that the document holds, at first those of code page 1252. What any assignment, key,
+    /// paste or drop brings in is held to them: any other becomes its decimal reference (HeldBy). Setting it
+    /// leaves the text alone.
+    CharacterSet Holds() const { return editing_.Holds(); }
+    void SetHolds(CharacterSet characters) { editing_.SetHolds(characters); }
+    /// A text as an assignment would bring it in, for those who count on its length.
+    QString Held(const QString& text) const { return HeldBy(Holds(), text); }
 
     /// The whole text. Assigning puts the caret at 0 and writes in the colour at the caret.
     QString Text() const;
@@ -174,9 +182,10 @@ class RichTextBox : public QsciScintillaBase, public AccessibleText {
     /// A key goes down. KeyCode is the virtual key code (27 Esc, 37 to 40 the arrows, 48 to 57 the digits);
     /// Shift adds 1 for Shift, 2 for Ctrl, 4 for Alt. A handler that sets KeyCode to 0 swallows the key.
     void KeyDown(int& KeyCode, int Shift);
-    /// A key yields a character: its code of code page 1252 (8 Backspace, 13 Enter). A handler that sets it
-    /// to 0 swallows it; another code is typed in its place. It comes for input methods too, character by
-    /// character.
+    /// A key yields a character: its code of code page 1252 (8 Backspace, 13 Enter); where the document holds
+    /// all of Unicode, one from outside the code page comes by its Unicode number. A handler that sets it to
+    /// 0 swallows it; another code up to 255 is typed in its place. It comes for input methods too, character
+    /// by character.
     void KeyPress(int& KeyAscii);
     /// Mouse buttons: 1 left, 2 right, 4 middle; x and y in pixels of the viewport.
     void MouseDown(int Button, int Shift, QPoint at);

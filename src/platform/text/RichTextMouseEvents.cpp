@@ -2,6 +2,7 @@
 #include "platform/text/RichTextBox.h"
 
 #include "platform/text/RichTextKeys.h"
+#include "platform/values/Utf8.h"
 
 #include <QApplication>
 #include <QClipboard>
@@ -142,7 +143,7 @@ QByteArray RichTextBox::fromMimeData(const QMimeData* source, bool& rectangular)
 }
 
 QMimeData* RichTextBox::toMimeData(const QByteArray& text, bool) const {
-    QString plain = QString::fromUtf8(text);
+    QString plain = Utf8::ToText(text);
     plain.replace(QStringLiteral("\r\n"), QStringLiteral("\n"));
     plain.replace(QLatin1Char('\r'), QLatin1Char('\n'));
 #ifdef Q_OS_WIN

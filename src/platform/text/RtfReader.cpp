@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <array>
 #include <optional>
+#include <QStringConverter>
 #include <utility>
 
 namespace {
@@ -64,8 +65,8 @@ class Utf8Text {
 
 class Reader {
   public:
-    Reader(const QString& rtf, RawLineEnds lineEnds)
-        : rtf_(rtf), keepLineEnds_(lineEnds == RawLineEnds::Keep) {
+    Reader(const QString& rtf, RawLineEnds lineEnds, CharacterSet characters)
+        : rtf_(rtf), keepLineEnds_(lineEnds == RawLineEnds::Keep), characters_(characters) {
         text_.Room(rtf.size());
         for (const char c : {'\\', '{', '}'})
             special_[static_cast<std::size_t>(c)] = true;
@@ -317,9 +318,21 @@ class Reader {
         if (state_.target != GroupState::Target::Text || piece.isEmpty())
             return;
         EndSurrogate();
+        if (characters_ == CharacterSet::Unicode) {
+            PutUnicode(piece);
+            return;
+        }
         const QByteArray bytes = Cp1252::Accept(piece).toUtf8();
         text_.Append(bytes);
         CountRun(static_cast<int>(bytes.size()));
+    }
+
+    void PutUnicode(QStringView piece) {
+        QStringEncoder encoder(QStringConverter::Utf8, QStringConverter::Flag::Stateless);
+        char* const from = text_.Room(encoder.requiredSpace(piece.size()));
+        char* const end = encoder.appendToBuffer(from, piece);
+        text_.End(end);
+        CountRun(static_cast<int>(end - from));
     }
 
     void PutAscii(QByteArrayView piece) {
@@ -340,6 +353,7 @@ class Reader {
 
     const QString& rtf_;
     const bool keepLineEnds_;
+    const CharacterSet characters_;
     std::array<bool, 128> special_{}; ///< the characters that end a stretch of plain text
     qsizetype pos_ = 0;
     bool ended_ = false;
@@ -356,6 +370,6 @@ class Reader {
 
 } // namespace
 
-RtfText ReadRtf(const QString& rtf, RawLineEnds rawLineEnds) {
-    return Reader(rtf, rawLineEnds).Read();
+RtfText ReadRtf(const QString& rtf, RawLineEnds rawLineEnds, CharacterSet characters) {
+    return Reader(rtf, rawLineEnds, characters).Read();
 }

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "platform/text/ColorNumber.h"
+#include "platform/values/CharacterSet.h"
 
 #include <QByteArray>
 #include <QString>
@@ -20,11 +21,12 @@ struct RtfRun {
 };
 
 struct RtfText {
-    QByteArray text;          ///< UTF-8, as the text control holds it; characters of code page 1252 only
+    QByteArray text; ///< UTF-8, as the text control holds it; only characters that its document holds
     std::vector<RtfRun> runs; ///< cover the text without a gap; neighbours differ in colour, none is empty
 };
 
-/// Reads groups, \colortbl, \cfN, \par, \line (both CR LF), \tab, \'hh, \uN (a character outside the code
-/// page comes as its decimal reference), \\ \{ \}. Unknown words are skipped with the one blank behind them,
-/// a raw tab is a tab, an unbalanced } ends the document. One pass, linear in the text.
-RtfText ReadRtf(const QString& rtf, RawLineEnds rawLineEnds);
+/// Reads groups, \colortbl, \cfN, \par, \line (both CR LF), \tab, \'hh, \uN (a character that the
+/// document does not hold comes as its decimal reference), \\ \{ \}. Unknown words are skipped with the one
+/// blank behind them, a raw tab is a tab, an unbalanced } ends the document. One pass, linear in the text.
+RtfText ReadRtf(const QString& rtf, RawLineEnds rawLineEnds,
+                CharacterSet characters = CharacterSet::CodePage1252);

@@ -1,5 +1,7 @@
 #include "platform/text/TextBuffer.h"
 
+#include "platform/values/Utf8.h"
+
 #include <algorithm>
 #include <Qsci/qsciscintillabase.h>
 #include <utility>
@@ -8,16 +10,32 @@ namespace {
 
 using Control = QsciScintillaBase;
 
+/// A byte that begins a character of two UTF-16 units is one of these or above.
+constexpr unsigned char firstOfPair = 0xf0;
+
 /// The UTF-16 units of a text: one for each byte that begins a character, and one more for those beyond the
 /// first plane, which take four bytes.
-int Units(QByteArrayView utf8) {
+int UnitsIn(QByteArrayView utf8) {
     int units = 0;
     for (const char byte : utf8) {
         const auto value = static_cast<unsigned char>(byte);
         units += (value & 0xc0) != 0x80;
-        units += value >= 0xf0;
+        units += value >= firstOfPair;
     }
     return units;
+}
+
+/// The byte at which so many UTF-16 units of a text end, or the text does. Half a character counts for none.
+qsizetype ByteOfUnit(QByteArrayView utf8, qsizetype units) {
+    for (qsizetype at = 0; at < utf8.size(); ++at) {
+        const auto value = static_cast<unsigned char>(utf8[at]);
+        if ((value & 0xc0) == 0x80)
+            continue;
+        units -= value >= firstOfPair ? 2 : 1;
+        if (units < 0)
+            return at;
+    }
+    return utf8.size();
 }
 
 } // namespace
@@ -51,7 +69,7 @@ int TextBuffer::CharFromByte(int byte) const {
     const int line = LineOf(byte);
     return static_cast<int>(
         Ask(Control::SCI_INDEXPOSITIONFROMLINE, line, Control::SC_LINECHARACTERINDEX_UTF16) +
-        Ask(Control::SCI_COUNTCODEUNITS, LineStart(line), byte));
+        UnitsIn(InPlace({LineStart(line), byte})));
 }
 
 int TextBuffer::ByteFromChar(int position) const {
@@ -64,13 +82,27 @@ int TextBuffer::ByteFromChar(int position) const {
     const long rest =
         position - Ask(Control::SCI_INDEXPOSITIONFROMLINE, line, Control::SC_LINECHARACTERINDEX_UTF16);
     const int start = LineStart(static_cast<int>(line));
-    return rest == 0 ? start : static_cast<int>(Ask(Control::SCI_POSITIONRELATIVECODEUNITS, start, rest));
+    constexpr long mostBytesOfUnit = 3;
+    const auto end = static_cast<int>(std::min(start + mostBytesOfUnit * (rest + 1), long{Bytes()}));
+    return start + static_cast<int>(ByteOfUnit(InPlace({start, end}), rest));
 }
 
 ByteRange TextBuffer::FromChars(qint64 start, qint64 end) const {
     const qint64 from = std::clamp<qint64>(start, 0, length_);
     const qint64 to = std::clamp<qint64>(end, from, length_);
-    return {ByteFromChar(static_cast<int>(from)), ByteFromChar(static_cast<int>(to))};
+    const int last = ByteFromChar(static_cast<int>(to));
+    const bool cutsPair = !IsAscii() && CharFromByte(last) < to;
+    return {ByteFromChar(static_cast<int>(from)), cutsPair ? CharacterAt(last).end : last};
+}
+
+QString TextBuffer::TextOfUnits(qint64 start, qint64 end) const {
+    const ByteRange range = FromChars(start, end);
+    const QString text = Text(range);
+    if (IsAscii())
+        return text;
+    const int first = CharFromByte(range.start);
+    const qint64 from = std::max<qint64>(start, 0);
+    return text.mid(from - first, std::max<qint64>(end - from, 0));
 }
 
 ByteRange TextBuffer::CharacterAt(int byte) const {
@@ -82,7 +114,7 @@ ByteRange TextBuffer::CharacterBefore(int byte) const {
 }
 
 QString TextBuffer::Text(ByteRange range) const {
-    return QString::fromUtf8(InPlace(range));
+    return Utf8::ToText(InPlace(range));
 }
 
 QByteArrayView TextBuffer::InPlace(ByteRange range) const {
@@ -117,7 +149,7 @@ QString TextBuffer::LineEnd() const {
 
 void TextBuffer::CountInsertion(ByteRange range) {
     const QByteArrayView text = InPlace(range);
-    length_ += Units(text);
+    length_ += UnitsIn(text);
     const long before = Ask(Control::SCI_GETCHARAT, range.start - 1);
     const long behind = Ask(Control::SCI_GETCHARAT, range.end);
     NoteSeam(before, behind);
@@ -126,7 +158,7 @@ void TextBuffer::CountInsertion(ByteRange range) {
 }
 
 void TextBuffer::CountDeletion(ByteRange range) {
-    length_ -= IsAscii() ? range.Length() : Units(InPlace(range));
+    length_ -= IsAscii() ? range.Length() : UnitsIn(InPlace(range));
     const long before = Ask(Control::SCI_GETCHARAT, range.start - 1);
     const long behind = Ask(Control::SCI_GETCHARAT, range.end);
     NoteSeam(before, behind);

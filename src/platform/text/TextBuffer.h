@@ -29,10 +29,12 @@ class TextBuffer {
     int Bytes() const;
     ByteRange Whole() const { return {0, Bytes()}; }
 
-    /// The character at a byte, and the byte of a character. A position behind the end is the end.
+    /// The character at a byte, and the byte of a character. A position behind the end is the end, and one
+    /// between the two units of a character is that character.
     int CharFromByte(int byte) const;
     int ByteFromChar(int position) const;
-    /// The bytes of the characters from start to end, both cut to what there is.
+    /// The bytes of the characters from start to end, both cut to what there is; one of which only one unit
+    /// lies inside is whole.
     ByteRange FromChars(qint64 start, qint64 end) const;
     /// The bytes of the character that starts at a byte, and of the one that ends there; empty where there is
     /// none. A CR and its LF come together.
@@ -40,6 +42,8 @@ class TextBuffer {
     ByteRange CharacterBefore(int byte) const;
 
     QString Text(ByteRange range) const;
+    /// The units from start to end, both cut to what there is, as a QString cuts them out: a pair may be cut.
+    QString TextOfUnits(qint64 start, qint64 end) const;
     /// The same as bytes, without a copy; for as long as nothing is asked of the control that changes the
     /// text.
     QByteArrayView InPlace(ByteRange range) const;

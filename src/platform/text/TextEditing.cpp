@@ -2,7 +2,6 @@
 
 #include "platform/text/TextColors.h"
 #include "platform/text/UndoAction.h"
-#include "platform/values/Cp1252.h"
 
 #include <QMimeData>
 #include <Qsci/qsciscintillabase.h>
@@ -39,7 +38,7 @@ void TextEditing::MoveCaret(int byte) {
 }
 
 void TextEditing::ShowCaret() {
-    caretMovedInHold_ = holds_ > 0;
+    caretMovedInHold_ = scrollHolds_ > 0;
     if (caretMovedInHold_)
         return;
     Sci(Control::SCI_SCROLLCARET);
@@ -47,7 +46,7 @@ void TextEditing::ShowCaret() {
 }
 
 void TextEditing::ReleaseScrolling() {
-    if (--holds_ == 0 && std::exchange(caretMovedInHold_, false))
+    if (--scrollHolds_ == 0 && std::exchange(caretMovedInHold_, false))
         ShowCaret();
 }
 
@@ -89,7 +88,11 @@ void TextEditing::EndTyping() {
 }
 
 QByteArray TextEditing::Incorporate(const QString& text) const {
-    QString accepted = Cp1252::Accept(text.normalized(QString::NormalizationForm_C));
+    // In the code page a letter and its accent are one character, which few are apart. Elsewhere what comes
+    // in stays as it is.
+    QString accepted = holds_ == CharacterSet::Unicode
+                           ? text
+                           : HeldBy(holds_, text.normalized(QString::NormalizationForm_C));
     accepted.replace(QStringLiteral("\r\n"), QStringLiteral("\n"));
     accepted.replace(QLatin1Char('\r'), QLatin1Char('\n'));
     const QString end = buffer_.LineEnd();

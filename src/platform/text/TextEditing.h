@@ -2,6 +2,7 @@
 #pragma once
 
 #include "platform/text/TextBuffer.h"
+#include "platform/values/CharacterSet.h"
 
 #include <functional>
 #include <QByteArray>
@@ -31,6 +32,13 @@ class TextEditing {
     /// What is typed from here on is an undo step of its own.
     void EndTyping();
 
+    /// The characters that the document holds: all that comes in by an assignment, a key or a paste is held
+    /// to them.
+    CharacterSet Holds() const { return holds_; }
+    void SetHolds(CharacterSet characters) { holds_ = characters; }
+    /// A text as the document holds it, in UTF-8.
+    QByteArray Held(const QString& text) const { return HeldBy(holds_, text).toUtf8(); }
+
     /// Text from outside as the document takes it: in its line ends, and with references for what it can't
     /// hold.
     QByteArray Incorporate(const QString& text) const;
@@ -39,7 +47,7 @@ class TextEditing {
 
     /// While held, the caret is not brought into view: each look at a place lays its lines out. The last
     /// release shows where it stands.
-    void HoldScrolling() { ++holds_; }
+    void HoldScrolling() { ++scrollHolds_; }
     void ReleaseScrolling();
 
     /// Carries out what the control has announced; set by the owner, called before and behind each edit.
@@ -52,6 +60,7 @@ class TextEditing {
     QsciScintillaBase& control_;
     TextBuffer& buffer_;
     TextColors& colors_;
-    int holds_ = 0;
+    CharacterSet holds_ = CharacterSet::CodePage1252;
+    int scrollHolds_ = 0;
     bool caretMovedInHold_ = false;
 };

@@ -1,6 +1,7 @@
 #include "platform/text/TextPrinter.h"
 
 #include "platform/text/TextColors.h"
+#include "platform/values/Utf8.h"
 
 #include <algorithm>
 #include <QPainter>
@@ -76,7 +77,7 @@ QVector<QTextLayout::FormatRange> TextPrinter::Colors(int startByte, const QStri
     for (std::size_t run = 0; run < styles.Count(); ++run) {
         QTextLayout::FormatRange format;
         format.start = character;
-        format.length = static_cast<int>(QString::fromUtf8(bytes.mid(from, styles.LengthOf(run))).size());
+        format.length = static_cast<int>(Utf8::ToText(bytes.mid(from, styles.LengthOf(run))).size());
         format.format.setForeground(ToQColor(colors_.ColorOf(styles.StyleOf(run))));
         formats.push_back(format);
         from += styles.LengthOf(run);

@@ -1,4 +1,4 @@
-// Code page 1252: the 256 characters that a document can hold.
+// Code page 1252: the 256 characters that a document can hold whose file is not in UTF-8.
 #pragma once
 
 #include <QByteArray>

@@ -159,7 +159,7 @@ TEST_F(DesktopPromptsTest, InputBoxGivesTheTextOrNothing) {
         });
         EXPECT_EQ(prompts.InputBox(&owner, QStringLiteral("How many?"), QStringLiteral("Title"),
                                    QStringLiteral("3")),
-                  QStringLiteral("a&#9731;"));
+                  QStringLiteral("a\u2603"));
     }
     WhenUp<QInputDialog> act([](QInputDialog& dialog) {
         EXPECT_EQ(dialog.windowTitle(), QString());

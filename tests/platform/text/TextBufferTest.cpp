@@ -70,4 +70,36 @@ TEST_F(TextBufferTest, LinesStartBehindEachKindOfLineEnd) {
     EXPECT_EQ(buffer.NextLine(7), 8) << "the last line ends with the text";
 }
 
+TEST_F(TextBufferTest, NoPositionLiesInsideACharacter) {
+    const QString text = u"\u00e9\U0001F600b\r\n\U0001F600\U0001F601"_s;
+    Put(text);
+    EXPECT_EQ(buffer.ByteFromChar(2), 2);
+    EXPECT_EQ(buffer.ByteFromChar(7), 9);
+    EXPECT_EQ(buffer.ByteFromChar(9), 13);
+    EXPECT_EQ(buffer.FromChars(2, 3), (ByteRange{2, 6}));
+    EXPECT_EQ(buffer.FromChars(1, 2), (ByteRange{2, 6}));
+    EXPECT_EQ(buffer.FromChars(7, 9), (ByteRange{9, 17}));
+    EXPECT_TRUE(buffer.FromChars(7, 7).Length() == 4);
+}
+
+TEST_F(TextBufferTest, UnitsAreCutOutAsAStringCutsThemOut) {
+    for (const QString& text :
+         {u"plain\r\n"_s, u"\u00e9\U0001F600b\r\n\U0001F600\U0001F601"_s, u"\uFEFFa\uFEFF"_s}) {
+        Put(text);
+        for (int start = -1; start <= text.size() + 1; ++start) {
+            for (int end = start; end <= text.size() + 1; ++end) {
+                const int from = std::max(start, 0);
+                EXPECT_EQ(buffer.TextOfUnits(start, end), text.mid(from, std::max(end - from, 0)))
+                    << start << ' ' << end;
+            }
+        }
+    }
+}
+
+TEST_F(TextBufferTest, AMarkIsACharacterWhereverATextIsCut) {
+    Put(u"a\uFEFF\uFEFFb"_s);
+    EXPECT_EQ(Text(), u"a\uFEFF\uFEFFb"_s);
+    EXPECT_EQ(buffer.Text({1, 7}), u"\uFEFF\uFEFF"_s);
+}
+
 } // namespace
