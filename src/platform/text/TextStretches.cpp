@@ -1,5 +1,7 @@
 #include "platform/text/TextStretches.h"
 
+#include "platform/text/CutPlaces.h"
+
 #include <algorithm>
 
 namespace {
@@ -8,7 +10,7 @@ bool IsBlank(char byte) {
     return byte == ' ' || byte == '\t' || byte == '\r' || byte == '\n';
 }
 
-bool MayCut(char left, char right) {
+bool IsAscii(char left, char right) {
     constexpr int firstBeyondAscii = 0x80;
     return ((left | right) & firstBeyondAscii) == 0;
 }
@@ -18,18 +20,31 @@ bool IsMark(char byte) {
     return byte == '"' || byte == '=' || byte == '/' || byte == '>';
 }
 
-/// Whether a stretch of a length ends between two bytes.
+bool EndsBehind(char left, char right, qsizetype length) {
+    return (IsBlank(left) && !IsBlank(right)) || (IsMark(left) && length >= StretchCutter::shortest);
+}
+
+/// Whether a stretch of a length ends between two bytes of ASCII.
 bool EndsBetween(char left, char right, qsizetype length) {
-    if (!MayCut(left, right))
+    return IsAscii(left, right) && (EndsBehind(left, right, length) || length >= StretchCutter::longest);
+}
+
+/// The same at a byte of a text, beside a character beyond ASCII. Their stretches are longer: so are words in
+/// bytes, and where they may be cut is not as cheap to tell.
+bool EndsBeyondAscii(QByteArrayView text, qsizetype at, qsizetype length) {
+    if (length < StretchCutter::longest)
         return false;
-    return (IsBlank(left) && !IsBlank(right)) || (IsMark(left) && length >= StretchCutter::shortest) ||
-           length >= StretchCutter::longest;
+    const bool ends =
+        EndsBehind(text[at - 1], text[at], length) || length >= StretchCutter::longestBeyondAscii;
+    return ends && MayCutAt(text, at);
 }
 
 /// Where in text the stretch ends that starts at `from` and is `length` bytes long before it.
 qsizetype StretchEnd(QByteArrayView text, qsizetype from, qsizetype length) {
     for (qsizetype at = from + 1; at < text.size(); ++at) {
-        if (EndsBetween(text[at - 1], text[at], length + at - from))
+        const qsizetype soFar = length + at - from;
+        if (IsAscii(text[at - 1], text[at]) ? EndsBetween(text[at - 1], text[at], soFar)
+                                            : EndsBeyondAscii(text, at, soFar))
             return at;
     }
     return text.size();
@@ -39,7 +54,7 @@ qsizetype StretchEnd(QByteArrayView text, qsizetype from, qsizetype length) {
 int CutNear(QByteArrayView text, int place, int reach) {
     for (int away = 0; away <= reach; ++away) {
         for (const int at : {place - away, place + away}) {
-            if (MayCut(text[at - 1], text[at]))
+            if (MayCutAt(text, at))
                 return at;
         }
     }
@@ -71,7 +86,7 @@ void StretchCutter::Append(QByteArrayView text, int style, QByteArray& cells) {
     for (qsizetype from = 0; from < text.size();) {
         const qsizetype end = StretchEnd(text, from, length_);
         cells.append(end - from, cell_);
-        length_ = static_cast<int>(std::min<qsizetype>(length_ + end - from, longest + 1));
+        length_ = static_cast<int>(std::min<qsizetype>(length_ + end - from, longestBeyondAscii));
         from = end;
         if (from < text.size()) {
             cell_ = StyleCells::Twin(cell_);

@@ -30,15 +30,16 @@ struct CellText {
 };
 
 /// Hands out the cells of a text from left to right. A stretch ends behind blanks, behind a quote, "=", "/"
-/// or ">", and at the latest where it is long enough: what pages repeat is then measured once. Only between
-/// two ASCII characters is there a cut: letters that join, combining marks and words from right to left stay
-/// whole. Cuts inside words ask of the control that it wraps lines at blanks alone; in its other mode it
-/// takes each change of cells for a place to wrap.
+/// or ">", and at the latest where it is long enough: what pages repeat is then measured once. A cut is only
+/// where the text looks the same with it (MayCutAt): letters that join, combining marks and words from right
+/// to left stay whole. Cuts inside words ask of the control that it wraps lines at blanks alone; in its other
+/// mode it takes each change of cells for a place to wrap.
 class StretchCutter {
   public:
     /// In bytes. The longest is what costs least in pages of tables and of prose; the control remembers up
     /// to 29.
     static constexpr int longest = 8;
+    static constexpr int longestBeyondAscii = 24;
     static constexpr int shortest = 2;
 
     /// The text goes on behind this one, of which no more than the last longest + 1 bytes are looked at.

@@ -69,6 +69,12 @@ INSTANTIATE_TEST_SUITE_P(
                     CutRow{"ManyBlanks", "        |  |x"},
                     CutRow{"NeverBesideOtherThanAscii", "\xd7\xa9\xd7\x9c \xd7\xa9 |a |b\xcc\x81 \xc3\xa9"},
                     CutRow{"LongForeignWords", QByteArray("\xd8\xa7").repeated(40) + "a|b"},
+                    CutRow{"WordsBeyondAscii", QByteArray("\xce\xb1").repeated(4) + " |" +
+                                                   QByteArray("\xce\xb2").repeated(12) + "|" +
+                                                   QByteArray("\xce\xb3").repeated(3)},
+                    CutRow{"LongLinesWithoutABlank", QByteArray("\xe6\x97\xa5").repeated(8) + "|" +
+                                                         QByteArray("\xe6\x9c\xac").repeated(8) +
+                                                         "|\xe6\x97\xa5"},
                     CutRow{"LongWordsBeforeACombiningMark", "abcdefgh\xcc\x81y|z"}),
     [](const auto& row) { return std::string(row.param.name); });
 
