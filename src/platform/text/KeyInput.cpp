@@ -1,6 +1,8 @@
 #include "platform/text/KeyInput.h"
 
+#include "platform/text/Clusters.h"
 #include "platform/text/RichTextKeys.h"
+#include "platform/text/TextColors.h"
 #include "platform/text/TextEditing.h"
 #include "platform/text/UndoAction.h"
 #include "platform/values/Cp1252.h"
@@ -14,11 +16,13 @@ namespace {
 
 using Control = QsciScintillaBase;
 
-/// True for a character that a key types. A soft hyphen does not print where it stands, and is typed all the
-/// same; a character may come as a pair.
+/// True for a character that a key types. A soft hyphen does not print where it stands, nor do those that
+/// join letters or keep them apart, and all are typed the same; a character may come as a pair.
 bool IsTyped(const QKeyEvent& event) {
-    return !event.text().isEmpty() &&
-           (event.text()[0].isPrint() || event.text()[0].isHighSurrogate() || event.text()[0] == QChar(0xad));
+    if (event.text().isEmpty())
+        return false;
+    const QChar first = event.text()[0];
+    return first.isPrint() || first.isHighSurrogate() || first.category() == QChar::Other_Format;
 }
 
 } // namespace
@@ -60,9 +64,11 @@ bool KeyInput::RunEditingKey(int key, Qt::KeyboardModifiers modifiers) {
     const std::optional<EditingKey> command = EditingKeyOf(key, modifiers);
     if (!command)
         return false;
+    const int caret = editing_.Caret();
     switch (command->action) {
     case EditingKey::Action::Message:
         Sci(command->message);
+        LeaveCluster(buffer_, editing_, key == Qt::Key_Left ? ClusterEdge::Start : ClusterEdge::End);
         break;
     case EditingKey::Action::Undo:
         Sci(Control::SCI_UNDO);
@@ -89,7 +95,11 @@ bool KeyInput::RunEditingKey(int key, Qt::KeyboardModifiers modifiers) {
         Sci(editing_.Selection().Empty() ? Control::SCI_DELWORDRIGHT : Control::SCI_CLEAR);
         break;
     case EditingKey::Action::Delete:
-        Sci(Control::SCI_CLEAR);
+        if (const int end = ClusterEnd(buffer_, caret);
+            editing_.Selection().Empty() && end > buffer_.CharacterAt(caret).end)
+            editing_.Replace({caret, end}, QByteArray(), StyleRuns());
+        else
+            Sci(Control::SCI_CLEAR);
         break;
     }
     return true;

@@ -1,6 +1,7 @@
 // The text control: mouse, drag and drop, and the form in which text leaves and comes in.
 #include "platform/text/RichTextBox.h"
 
+#include "platform/text/Clusters.h"
 #include "platform/text/RichTextKeys.h"
 #include "platform/values/Utf8.h"
 
@@ -15,6 +16,13 @@ namespace {
 
 int ButtonCode(Qt::MouseButton button) {
     return button == Qt::LeftButton ? 1 : button == Qt::RightButton ? 2 : button == Qt::MiddleButton ? 4 : 0;
+}
+
+/// A selection grows by the whole cluster, whichever way it goes.
+void LeaveClusterByMouse(const TextBuffer& buffer, TextEditing& editing) {
+    const ByteRange selection = editing.Selection();
+    const bool toTheLeft = !selection.Empty() && editing.Caret() == selection.start;
+    LeaveCluster(buffer, editing, toTheLeft ? ClusterEdge::Start : ClusterEdge::End);
 }
 
 bool HoldsFiles(const QMimeData* data) {
@@ -41,6 +49,7 @@ void RichTextBox::mousePressEvent(QMouseEvent* event) {
     } else {
         QMouseEvent plain = ForBase(*event);
         QsciScintillaBase::mousePressEvent(&plain);
+        LeaveClusterByMouse(buffer_, editing_);
     }
     Outside([&] {
         Q_EMIT MouseDown(ButtonCode(event->button()), ShiftState(event->modifiers()),
@@ -68,6 +77,7 @@ void RichTextBox::mouseMoveEvent(QMouseEvent* event) {
         return;
     QMouseEvent plain = ForBase(*event);
     QsciScintillaBase::mouseMoveEvent(&plain);
+    LeaveClusterByMouse(buffer_, editing_);
 }
 
 void RichTextBox::mouseReleaseEvent(QMouseEvent* event) {
@@ -76,6 +86,7 @@ void RichTextBox::mouseReleaseEvent(QMouseEvent* event) {
         return;
     QMouseEvent plain = ForBase(*event);
     QsciScintillaBase::mouseReleaseEvent(&plain);
+    LeaveClusterByMouse(buffer_, editing_);
     Outside([&] {
         Q_EMIT MouseUp(ButtonCode(event->button()), ShiftState(event->modifiers()),
                        event->position().toPoint());
