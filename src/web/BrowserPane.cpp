@@ -4,6 +4,7 @@
 
 #include <QFileInfo>
 #include <QUrl>
+#include <QWebEngineSettings>
 
 BrowserPane::~BrowserPane() {
     BrowserPage* page = Browsed();
@@ -51,6 +52,9 @@ void BrowserPane::Show(const QString& path) {
             [shown](const QUrl& origin, QWebEnginePage::Feature feature) {
                 shown->setFeaturePermission(origin, feature, QWebEnginePage::PermissionDeniedByUser);
             });
+    // A page that names no encoding has that of its document.
+    if (IsUtf8(encoding_))
+        shown->settings()->setDefaultTextEncoding(QStringLiteral("utf-8"));
     ShowPage(std::move(page));
     shown->load(QUrl::fromLocalFile(path));
 }

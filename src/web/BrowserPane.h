@@ -16,6 +16,7 @@ class BrowserPane final : public WebPane, public BrowserControl {
     ~BrowserPane() override;
 
     QWidget& widget() override { return *this; }
+    void TakeEncoding(TextEncoding encoding) override { encoding_ = encoding; }
     bool Navigate(const QString& path) override;
 
   protected:
@@ -28,4 +29,5 @@ class BrowserPane final : public WebPane, public BrowserControl {
     void OnceAnswered(std::function<void()> step);
 
     std::function<void()> onceAnswered_;
+    TextEncoding encoding_ = TextEncoding::Ascii;
 };

@@ -35,7 +35,7 @@ void DesignPane::Load(const QString& path) {
     state_ = State::Empty;
     const std::optional<QByteArray> bytes = WholeFile::Read(path);
     if (bytes) {
-        source_.emplace(*bytes);
+        source_.emplace(*bytes, encoding_);
         path_ = path;
         state_ = State::Loading;
     }

@@ -18,6 +18,7 @@ class DesignPane final : public WebPane, public DesignControl {
     explicit DesignPane(QWidget* parent) : WebPane(parent) {}
 
     QWidget& widget() override { return *this; }
+    void TakeEncoding(TextEncoding encoding) override { encoding_ = encoding; }
     void Load(const QString& path) override;
     QString LoadedPath() const override { return path_; }
     /// Waits for a page that is still coming up, with the user's input held back, and no longer than some
@@ -41,5 +42,6 @@ class DesignPane final : public WebPane, public DesignControl {
 
     State state_ = State::Empty;
     QString path_;
+    TextEncoding encoding_ = TextEncoding::Ascii;
     std::optional<PageSource> source_;
 };

@@ -1,9 +1,10 @@
 #include "web/PageEncoding.h"
 
 #include "platform/values/Cp1252.h"
+#include "platform/values/DeclaredEncoding.h"
+#include "platform/values/Utf8.h"
 
 #include <QHash>
-#include <QRegularExpression>
 #include <QStringConverter>
 
 namespace {
@@ -20,14 +21,7 @@ constexpr Mark marks[] = {{"\xEF\xBB\xBF", "utf-8"}, {"\xFF\xFE", "utf-16le"}, {
 /// The name in the first meta tag that has one, as browsers look for it; empty where there is none.
 QString DeclaredName(const QByteArray& bytes) {
     constexpr qsizetype browsersLookAt = 4096;
-    static const QRegularExpression comment(QStringLiteral("<!--.*?(-->|$)"),
-                                            QRegularExpression::DotMatchesEverythingOption);
-    static const QRegularExpression declaration(
-        QStringLiteral("<meta\\s[^>]*charset\\s*=\\s*[\"']?\\s*([\\w:.-]+)"),
-        QRegularExpression::CaseInsensitiveOption);
-    QString head = QString::fromLatin1(bytes.first(std::min(bytes.size(), browsersLookAt)));
-    head.remove(comment);
-    return declaration.match(head).captured(1).toLower();
+    return CharsetOfMetaTag(bytes.first(std::min(bytes.size(), browsersLookAt)));
 }
 
 /// What the web takes a name for: the small Latin sets are code page 1252, and a page whose meta tag could be
@@ -50,7 +44,9 @@ QString Reference(char32_t character) {
 
 } // namespace
 
-PageEncoding PageEncoding::Of(const QByteArray& bytes) {
+PageEncoding PageEncoding::Of(const QByteArray& bytes, TextEncoding document) {
+    if (IsUtf8(document) && bytes.isValidUtf8())
+        return PageEncoding(utf8, bytes.startsWith(Utf8::Mark) ? Utf8::Mark.toByteArray() : QByteArray());
     for (const Mark& mark : marks) {
         if (!bytes.startsWith(mark.bytes))
             continue;
@@ -82,6 +78,8 @@ QByteArray PageEncoding::Encode(const QString& text) const {
 QString PageEncoding::DecodePlain(const QByteArray& bytes) const {
     if (name_ == windows1252)
         return Cp1252::FromBytes(bytes);
+    if (name_ == utf8)
+        return Utf8::ToText(bytes);
     QStringDecoder decoder(name_.toLatin1().constData(), QStringConverter::Flag::Stateless);
     return decoder.isValid() ? QString(decoder.decode(bytes)) : QString();
 }

@@ -1,6 +1,8 @@
 // The encoding of a page's file: found, decoded, and encoded back with nothing lost.
 #pragma once
 
+#include "platform/values/TextEncoding.h"
+
 #include <QByteArray>
 #include <QString>
 
@@ -8,8 +10,8 @@
 /// bytes don't fit the name, has code page 1252, which fits any bytes.
 class PageEncoding {
   public:
-    /// The encoding of these bytes.
-    static PageEncoding Of(const QByteArray& bytes);
+    /// The encoding of these bytes. A page whose document is in UTF-8 is, whatever it names.
+    static PageEncoding Of(const QByteArray& bytes, TextEncoding document = TextEncoding::Ascii);
 
     /// As the web names it, in small letters: "utf-8", "windows-1252".
     const QString& Name() const { return name_; }

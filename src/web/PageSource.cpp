@@ -128,8 +128,8 @@ QString LineFeeds(QString text) {
 
 } // namespace
 
-PageSource::PageSource(const QByteArray& bytes)
-    : bytes_(bytes), encoding_(PageEncoding::Of(bytes)), text_(encoding_.Decode(bytes)) {
+PageSource::PageSource(const QByteArray& bytes, TextEncoding document)
+    : bytes_(bytes), encoding_(PageEncoding::Of(bytes, document)), text_(encoding_.Decode(bytes)) {
     FindBody();
 }
 

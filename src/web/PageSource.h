@@ -7,7 +7,7 @@
 /// body's start tag and all from its end tag on, the doctype, the head and the spelling of its tags included.
 class PageSource {
   public:
-    explicit PageSource(const QByteArray& bytes);
+    explicit PageSource(const QByteArray& bytes, TextEncoding document = TextEncoding::Ascii);
 
     const QByteArray& Bytes() const { return bytes_; }
     const QString& Text() const { return text_; }

@@ -7,12 +7,14 @@
 #include <QString>
 #include <QStringList>
 #include <QWidget>
+#include <vector>
 
 /// The path that was loaded is the path of its page; an edit is what a test says it is.
 class FakeDesign final : public QWidget, public DesignControl {
   public:
     explicit FakeDesign(QWidget* parent) : QWidget(parent) { hide(); }
     QWidget& widget() override { return *this; }
+    void TakeEncoding(TextEncoding encoding) override { encodings.push_back(encoding); }
     void Load(const QString& path) override {
         loads << path;
         loaded = path;
@@ -29,12 +31,14 @@ class FakeDesign final : public QWidget, public DesignControl {
     /// What saving does to the file; nothing by itself.
     std::function<void(const QString& path)> writes;
     QStringList loads, saves;
+    std::vector<TextEncoding> encodings;
 };
 
 class FakeBrowser final : public QWidget, public BrowserControl {
   public:
     explicit FakeBrowser(QWidget* parent) : QWidget(parent) { hide(); }
     QWidget& widget() override { return *this; }
+    void TakeEncoding(TextEncoding encoding) override { encodings.push_back(encoding); }
     bool Navigate(const QString& path) override {
         pages << path;
         return works;
@@ -42,6 +46,7 @@ class FakeBrowser final : public QWidget, public BrowserControl {
 
     bool works = true;
     QStringList pages;
+    std::vector<TextEncoding> encodings;
 };
 
 /// Makes the two, and counts.

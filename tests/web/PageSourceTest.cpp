@@ -36,6 +36,22 @@ TEST(PageEncoding, IsTheMarksOrTheMetaTagsOrWindows1252) {
     }
 }
 
+TEST(PageEncoding, IsTheDocumentsWhereThatIsUtf8) {
+    const QByteArray pages[] = {
+        "<p>caf\xC3\xA9",  "<meta charset=iso-8859-2><p>caf\xC3\xA9",
+        "\xEF\xBB\xBF<p>", "\xEF\xBB\xBF\xEF\xBB\xBF<p>",
+        "<p>\xEF\xBB\xBF",
+    };
+    for (const QByteArray& bytes : pages) {
+        const PageEncoding encoding = PageEncoding::Of(bytes, EncodingOf(bytes));
+        EXPECT_EQ(encoding.Name(), QStringLiteral("utf-8")) << bytes.constData();
+        EXPECT_EQ(encoding.Encode(encoding.Decode(bytes)), bytes) << bytes.constData();
+        EXPECT_EQ(encoding.Decode(bytes), Decode(bytes, EncodingOf(bytes))) << bytes.constData();
+    }
+    EXPECT_EQ(PageEncoding::Of("<p>\xE9", TextEncoding::Utf8).Name(), QStringLiteral("windows-1252"))
+        << "the file has been changed behind the document's back";
+}
+
 TEST(PageEncoding, EveryByteComesBack) {
     QByteArray all;
     for (int byte = 0; byte < 256; ++byte)

@@ -97,14 +97,18 @@ void DocumentModes::EditClicked() {
 
 void DocumentModes::DesignClicked() {
     Show(Shown::Design);
-    if (design_ && !document_.Caption().isEmpty())
-        design_->Load(document_.Caption());
+    if (!design_ || document_.Caption().isEmpty())
+        return;
+    design_->TakeEncoding(document_.Encoding());
+    design_->Load(document_.Caption());
 }
 
 void DocumentModes::ViewClicked() {
     Show(Shown::Browser);
     frame_.SaveActiveDocument();
     const QString path = document_.Caption();
+    if (browser_)
+        browser_->TakeEncoding(document_.Encoding());
     if (browser_ && !path.isEmpty() && browser_->Navigate(path))
         return;
     frame_.Ask().MsgBox(frame_.Window(), cannotDisplay, MsgButtons::OK, MsgIcon::Exclamation, ProgramTitle);

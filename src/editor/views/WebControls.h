@@ -1,6 +1,8 @@
 // The two controls that show a page as a browser does, and where they come from.
 #pragma once
 
+#include "platform/values/TextEncoding.h"
+
 #include <functional>
 #include <QString>
 #include <QtPlugin>
@@ -12,6 +14,8 @@ class DesignControl {
   public:
     virtual ~DesignControl() = default;
     virtual QWidget& widget() = 0;
+    /// The encoding of the document whose page Load takes in next.
+    virtual void TakeEncoding(TextEncoding) {}
     /// Begins to load a page; returns before it is shown. A file that can't be read leaves the view empty.
     virtual void Load(const QString& path) = 0;
     /// The path of the page that Load took in; empty for none.
@@ -26,6 +30,8 @@ class BrowserControl {
   public:
     virtual ~BrowserControl() = default;
     virtual QWidget& widget() = 0;
+    /// The encoding of the document whose page Navigate shows next: that of a page that names none.
+    virtual void TakeEncoding(TextEncoding) {}
     /// Begins to show the page of a file. Returns false without a path and for a file that can't be read.
     virtual bool Navigate(const QString& path) = 0;
 };
@@ -40,7 +46,7 @@ class WebControlsFactory {
     virtual BrowserControl* MakeBrowser(QWidget* parent) = 0;
 };
 
-Q_DECLARE_INTERFACE(WebControlsFactory, "tarnwick.WebControlsFactory/1")
+Q_DECLARE_INTERFACE(WebControlsFactory, "tarnwick.WebControlsFactory/2")
 
 /// The frame's road to the controls: they cost memory and start-up time, so they come with the first document
 /// that asks for them.

@@ -129,6 +129,17 @@ TEST(Modes, ViewSavesThenNavigates) {
     EXPECT_FALSE(frame.ComingFromDesign());
 }
 
+TEST(Modes, TheViewsHearOfTheDocumentsEncoding) {
+    ModesFrame frame;
+    frame.active->SetEncoding(TextEncoding::Utf8WithMark);
+    frame.Click(QStringLiteral("Design"));
+    EXPECT_THAT(frame.Design()->encodings, ElementsAre(TextEncoding::Utf8WithMark));
+    frame.active->SetEncoding(TextEncoding::CodePage1252);
+    frame.prompts.messageAnswers = {MsgAnswer::No};
+    frame.Click(QStringLiteral("View"));
+    EXPECT_EQ(frame.Browser()->encodings.back(), TextEncoding::CodePage1252);
+}
+
 TEST(Modes, ClickingTheTabThatIsShownSavesAgain) {
     ModesFrame frame;
     frame.Click(view);
