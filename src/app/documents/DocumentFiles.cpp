@@ -52,4 +52,10 @@ bool Save(const Settings& store, const QString& path, Document& document) {
     return true;
 }
 
+void SuitEncoding(const Settings& store, Document& document, const QString& text) {
+    const TextEncoding suiting = EncodingFor(store, document.Encoding(), text);
+    if (document.Encoding() == TextEncoding::Ascii && IsUtf8(suiting))
+        document.SetEncoding(suiting);
+}
+
 } // namespace DocumentFiles

@@ -30,4 +30,8 @@ std::optional<FileText> ReadInOneGo(const Settings& store, const QString& path);
 /// Returns false where it can't be written; the old file then stands unharmed, and the document is as it was.
 bool Save(const Settings& store, const QString& path, Document& document);
 
+/// A document that is about to get a whole new text becomes one in UTF-8 where the text declares it or needs
+/// it, as long as nothing beyond ASCII stands in its file: a page of ASCII, or one that has no file yet.
+void SuitEncoding(const Settings& store, Document& document, const QString& text);
+
 } // namespace DocumentFiles

@@ -1,5 +1,6 @@
 #include "app/documents/Skeletons.h"
 
+#include "app/documents/DocumentFiles.h"
 #include "app/run/ProgramState.h"
 #include "app/run/Version.h"
 #include "editor/color/ColorizeText.h"
@@ -63,8 +64,10 @@ void mnuUserTemplate_Click(Frame& frame) {
     const UndoAction step(document->txtInput());
     document->txtInput().SetText(QString());
     const QString& text = frame.State<ProgramState>().UserTemplate;
-    if (!text.isEmpty())
-        ColorizeText(frame, text, KeepDocument::Yes, CaretToTop::No);
+    if (text.isEmpty())
+        return;
+    DocumentFiles::SuitEncoding(frame.Store(), *document, text);
+    ColorizeText(frame, text, KeepDocument::Yes, CaretToTop::No);
 }
 
 void mnuSetUserTemplate_Click(Frame& frame) {

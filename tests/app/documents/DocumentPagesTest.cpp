@@ -1,7 +1,8 @@
 // Real pages, opened, coloured, saved and opened again: every byte comes back. TARNWICK_PAGES names the
 // folders of more pages, colon-separated.
 #include "app/documents/FilesFrame.h"
-#include "platform/values/Cp1252.h"
+#include "platform/values/TextEncoding.h"
+#include "platform/values/Utf8.h"
 #include "support/SourceFolder.h"
 
 #include <iostream>
@@ -27,11 +28,14 @@ QStringList PagesBelow(const QString& folder) {
     return pages;
 }
 
-/// What the window shows of a file: nothing from an end-of-text byte on, and the whole once more behind the
-/// last tag where a "<" behind it is never closed.
-QByteArray Shown(const QByteArray& file) {
-    const qsizetype end = file.indexOf(endOfText);
-    const QByteArray text = end < 0 ? file : file.left(end);
+/// What of a file is no part of its text.
+QByteArrayView MarkOf(const QByteArray& file) {
+    return EncodingOf(file) == TextEncoding::Utf8WithMark ? Utf8::Mark : QByteArrayView();
+}
+
+/// What the window shows of a file's text: nothing from an end-of-text byte on, and the whole once more
+/// behind the last tag where a "<" behind it is never closed.
+QByteArray ShownText(const QByteArray& text) {
     qsizetype behindTag = 0;
     while (true) {
         const qsizetype open = text.indexOf('<', behindTag);
@@ -44,12 +48,21 @@ QByteArray Shown(const QByteArray& file) {
     }
 }
 
-QByteArray Trimmed(QByteArray text) {
+QByteArray Shown(const QByteArray& file) {
+    const qsizetype end = file.indexOf(endOfText);
+    const QByteArray taken = end < 0 ? file : file.left(end);
+    const QByteArrayView mark = MarkOf(taken);
+    return mark.toByteArray() + ShownText(taken.mid(mark.size()));
+}
+
+QByteArray Trimmed(const QByteArray& shown) {
+    const QByteArrayView mark = MarkOf(shown);
+    QByteArray text = shown.mid(mark.size());
     while (text.startsWith(' '))
         text.remove(0, 1);
     while (text.endsWith(' '))
         text.chop(1);
-    return text;
+    return mark.toByteArray() + text;
 }
 
 /// Texts of a whole page are no use in a failure: tells where they part.
@@ -64,20 +77,29 @@ testing::AssertionResult Same(const QByteArray& is, const QByteArray& expected) 
            << expected.mid(at, 20).toPercentEncoding().constData() << "\"";
 }
 
-void ComesBack(FilesFrame& frame, const QString& page) {
+/// The text of the active document as its bytes.
+QByteArray Bytes(FilesFrame& frame) {
+    return Encode(frame.Box().Text(), frame.active->Encoding());
+}
+
+/// Returns the encoding it had.
+TextEncoding ComesBack(FilesFrame& frame, const QString& page) {
     const QByteArray original = FilesFrame::Content(page);
     const QString copy = FilesFrame::Make(QFileInfo(page).fileName(), original);
     OpenDocumentFile(frame, copy);
     const QByteArray shown = Shown(original);
-    EXPECT_TRUE(Same(Cp1252::ToBytes(frame.Box().Text()), shown)) << page.toStdString();
+    EXPECT_TRUE(Same(Bytes(frame), shown)) << page.toStdString();
     frame.Run("mnuSave");
     const QByteArray saved = Trimmed(shown) + "\r\n";
     EXPECT_TRUE(Same(FilesFrame::Content(copy), saved)) << page.toStdString();
     frame.CloseDocument();
     OpenDocumentFile(frame, copy);
-    EXPECT_TRUE(Same(Cp1252::ToBytes(frame.Box().Text()), Shown(saved))) << page.toStdString();
+    EXPECT_TRUE(Same(Bytes(frame), Shown(saved))) << page.toStdString();
+    const TextEncoding encoding = frame.active->Encoding();
+    EXPECT_EQ(encoding, EncodingOf(saved)) << page.toStdString();
     frame.CloseDocument();
     QFile::remove(copy);
+    return encoding;
 }
 
 TEST(DocumentPagesTest, TheExampleSiteComesBack) {
@@ -91,16 +113,37 @@ TEST(DocumentPagesTest, TheExampleSiteComesBack) {
 TEST(DocumentPagesTest, InstalledPagesComeBack) {
     FilesFrame frame;
     qsizetype count = 0;
+    qsizetype utf8 = 0;
     const QString folders = qEnvironmentVariable("TARNWICK_PAGES");
     for (const QString& folder : folders.split(u':', Qt::SkipEmptyParts)) {
         const QStringList pages = PagesBelow(folder);
         for (const QString& page : pages)
-            ComesBack(frame, page);
+            utf8 += IsUtf8(ComesBack(frame, page));
         count += pages.size();
     }
     if (count == 0)
         GTEST_SKIP() << "no pages in TARNWICK_PAGES (\"" << folders.toStdString() << "\")";
-    std::cout << count << " pages\n";
+    std::cout << count << " pages, " << utf8 << " of them in UTF-8\n";
+}
+
+/// Every character there is, page by page, a tag beside each stretch; every other page behind a mark.
+TEST(DocumentPagesTest, AllOfUnicodeComesBack) {
+    constexpr char32_t step = 0x4000;
+    FilesFrame frame;
+    // Nobody looks: to find a font for each would take a minute.
+    frame.window->hide();
+    for (char32_t first = 0; first <= QChar::LastValidCodePoint; first += step) {
+        QByteArray page;
+        for (char32_t c = first; c < first + step; ++c) {
+            if (c != endOfText && c != U'<' && !QChar::isSurrogate(c))
+                page += QStringView(QChar::fromUcs4(c)).toUtf8();
+            if (c % 0x100 == 0)
+                page += "<b>";
+        }
+        if (first / step % 2 == 1)
+            page.prepend(Utf8::Mark.toByteArray());
+        ComesBack(frame, FilesFrame::Make(QStringLiteral("plane.html"), page));
+    }
 }
 
 } // namespace
