@@ -1,6 +1,7 @@
 // What opening, colouring and saving cost by the size of the page, until the control has nothing left to do,
-// and how much memory opening takes at its peak. Ends with 1 where the cost of a byte grows with the page, or
-// the memory is more than 16 bytes a byte.
+// and how much memory opening takes at its peak. Ends with 1 where the cost of a byte grows with the page,
+// where a page with a third of its characters beyond ASCII costs much more than one of ASCII, or the memory
+// is more than 16 bytes a byte.
 #include "app/documents/FileCommands.h"
 #include "app/documents/OpenDocument.h"
 #include "editor/color/ColorizeText.h"
@@ -22,12 +23,17 @@ constexpr qint64 kilobyte = 1'000;
 constexpr qint64 megabyte = 1'000'000;
 constexpr double bytesOfMemoryAByte = 16;
 constexpr double longestToShortest = 2;
+constexpr double foreignToAscii = 1.5;
 
 /// What pages are made of: words with a tag for every twenty bytes, lines without a tag, scripts full of
 /// braces.
 const QByteArray words("<P>Some words to read, then a few <B>bold</B> ones, a line's end,\r\n"
                        "and a way <A HREF=\"next.html\">on to the next</A> page.</P>\r\n");
 const QByteArray lines("a line\r\n");
+/// A third of their characters is beyond ASCII.
+const QByteArray
+    foreignWords("<P>Несколько слов, then a few <B>πολλές</B> ones, a line's end,\r\n"
+                 "and żółty way <A HREF=\"next.html\">на другую страницу 日本語</A> page.</P>\r\n");
 const QByteArray braces("<B>{ {a\\b} }</B>\n");
 
 QString PageFile(qint64 size, const QByteArray& row = words) {
@@ -180,6 +186,21 @@ bool CostIsLinear(const char* what, const QByteArray& row) {
     return large <= longestToShortest * small;
 }
 
+/// The cost of a page in UTF-8 against that of one of ASCII that is as large.
+bool ForeignWordsAreCheap() {
+    SavingFrame frame;
+    constexpr qint64 size = 10 * megabyte;
+    const QString paths[] = {PageFile(size, words), PageFile(size, foreignWords)};
+    double best[] = {OpenOnce(frame, paths[0]), OpenOnce(frame, paths[1])};
+    for (int run = 0; run < 2; ++run) {
+        for (int i = 0; i < 2; ++i)
+            best[i] = std::min(best[i], OpenOnce(frame, paths[i]));
+    }
+    std::printf("opening 10 MB: %.0f ms of ASCII, %.0f ms with a third beyond it\n", best[0] * 1e3,
+                best[1] * 1e3);
+    return best[1] <= foreignToAscii * best[0];
+}
+
 } // namespace
 
 int main(int argc, char** argv) {
@@ -189,7 +210,8 @@ int main(int argc, char** argv) {
         return OpenAndTellMemory(QFile::decodeName(argv[2]));
     const bool shapesHold = RunBenchmarks(argc, argv) == 0;
     const bool linear[] = {CostIsLinear("words", words), CostIsLinear("lines", lines),
-                           CostIsLinear("braces", braces)};
+                           CostIsLinear("braces", braces), CostIsLinear("foreign words", foreignWords)};
+    const bool cheap = ForeignWordsAreCheap();
     const bool lean = MemoryIsLean();
-    return shapesHold && linear[0] && linear[1] && linear[2] && lean ? 0 : 1;
+    return shapesHold && linear[0] && linear[1] && linear[2] && linear[3] && cheap && lean ? 0 : 1;
 }

@@ -15,11 +15,15 @@ namespace {
 constexpr int shortest = 10'000;
 constexpr int longest = 10'000'000;
 
-/// A coloured page with a tag for every twenty characters; every hundredth line has letters of two and three
-/// bytes.
-QString Page(benchmark::IterationCount size, bool ascii) {
+/// Letters of two and three bytes: none, some in every hundredth line, or a third of all.
+enum class Beyond { None, Some, Third };
+
+/// A coloured page with a tag for every twenty characters.
+QString Page(benchmark::IterationCount size, Beyond beyond) {
     const QString plain =
         QStringLiteral("\\cf1 Some words, \\cf2 <B>\\cf1 bold ones\\cf2 </B>\\cf1 and more.\\par ");
+    const QString third =
+        QString::fromUtf8("\\cf1 Вот слова, \\cf2 <B>\\cf1 żółte\\cf2 </B>\\cf1 and 日本語.\\par ");
     const QString foreign =
         QString::fromUtf8("\\cf1 Schöne Wörter für 5 € – \\cf2 <B>\\cf1 ja\\cf2 </B>\\par ");
     QString rtf = QStringLiteral("{{\\colortbl ;\\red0\\green0\\blue0;\\red0\\green0\\blue255;}");
@@ -27,7 +31,7 @@ QString Page(benchmark::IterationCount size, bool ascii) {
     // Of 73 characters of RTF, 47 are text.
     const auto lines = size / 47 + 1;
     for (benchmark::IterationCount i = 0; i < lines; ++i) {
-        rtf += !ascii && i % 100 == 0 ? foreign : plain;
+        rtf += beyond == Beyond::Third ? third : beyond == Beyond::Some && i % 100 == 0 ? foreign : plain;
     }
     return rtf + QLatin1Char('}');
 }
@@ -35,10 +39,11 @@ QString Page(benchmark::IterationCount size, bool ascii) {
 /// A control of that many characters, shown, wrapped and idle, with its caret in the middle.
 class Filled {
   public:
-    explicit Filled(benchmark::IterationCount size, bool ascii = true) {
+    explicit Filled(benchmark::IterationCount size, Beyond beyond = Beyond::None) {
+        box.SetHolds(CharacterSet::Unicode);
         box.resize(800, 600);
         box.show();
-        box.SetSelRTF(Page(size, ascii));
+        box.SetSelRTF(Page(size, beyond));
         box.EmptyUndoBuffer();
         box.SetSelStart(box.LineStart(box.TextLength() / 2) + 5);
         QObject::connect(&box, &RichTextBox::SCN_PAINTED, &box, [this] { ++paints; });
@@ -57,8 +62,8 @@ void Press(RichTextBox& box, int key, const QString& text) {
     QCoreApplication::processEvents();
 }
 
-void TypeKey(benchmark::State& state, bool ascii) {
-    Filled filled(state.range(0), ascii);
+void TypeKey(benchmark::State& state, Beyond beyond) {
+    Filled filled(state.range(0), beyond);
     const int before = filled.paints;
     for ([[maybe_unused]] auto step : state) {
         Press(filled.box, Qt::Key_X, QStringLiteral("x"));
@@ -70,12 +75,19 @@ void TypeKey(benchmark::State& state, bool ascii) {
     state.SetComplexityN(state.range(0));
 }
 void KeyUntilPainted(benchmark::State& state) {
-    TypeKey(state, true);
+    TypeKey(state, Beyond::None);
 }
 BENCHMARK(KeyUntilPainted)->RangeMultiplier(10)->Range(shortest, longest)->Complexity(benchmark::o1);
 void KeyUntilPaintedWithAccents(benchmark::State& state) {
-    TypeKey(state, false);
+    TypeKey(state, Beyond::Some);
 }
+void KeyUntilPaintedWithAThirdBeyondAscii(benchmark::State& state) {
+    TypeKey(state, Beyond::Third);
+}
+BENCHMARK(KeyUntilPaintedWithAThirdBeyondAscii)
+    ->RangeMultiplier(10)
+    ->Range(shortest, longest)
+    ->Complexity(benchmark::o1);
 BENCHMARK(KeyUntilPaintedWithAccents)
     ->RangeMultiplier(10)
     ->Range(shortest, longest)
@@ -189,7 +201,7 @@ BENCHMARK(AssignRtf)
     ->Complexity(benchmark::oN);
 
 void ReplaceAllAndUndo(benchmark::State& state) {
-    Filled filled(state.range(0), false);
+    Filled filled(state.range(0), Beyond::Some);
     for ([[maybe_unused]] auto step : state) {
         filled.box.SetText(QStringLiteral("x"));
         filled.box.Send(RichTextBox::Message::Undo);
@@ -203,7 +215,7 @@ BENCHMARK(ReplaceAllAndUndo)
     ->Complexity(benchmark::oN);
 
 void FindAtTheEnd(benchmark::State& state) {
-    Filled filled(state.range(0), false);
+    Filled filled(state.range(0), Beyond::Some);
     filled.box.SetSelStart(filled.box.TextLength());
     filled.box.SetSelText(QStringLiteral("</HTML>"));
     for ([[maybe_unused]] auto step : state)
@@ -222,7 +234,7 @@ BENCHMARK(FindAtTheEnd)
 void TakeTagsOut(benchmark::State& state) {
     for ([[maybe_unused]] auto step : state) {
         state.PauseTiming();
-        Filled filled(state.range(0), false);
+        Filled filled(state.range(0), Beyond::Some);
         const RichTextBox::PaintHold hold(filled.box);
         state.ResumeTiming();
         int at = 0;
@@ -242,7 +254,7 @@ BENCHMARK(TakeTagsOut)
     ->Complexity(benchmark::oN);
 
 void DrawOnePage(benchmark::State& state) {
-    Filled filled(state.range(0), false);
+    Filled filled(state.range(0), Beyond::Some);
     QImage sheet(1000, 1400, QImage::Format_RGB32);
     QPainter painter(&sheet);
     const int middle = filled.box.SelStart();

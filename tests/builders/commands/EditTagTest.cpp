@@ -318,3 +318,12 @@ TEST_F(EditTagTest, WithoutADocumentNothingHappens) {
     EXPECT_EQ(Shown(), QString());
     EXPECT_TRUE(frame.prompts.asked.isEmpty());
 }
+
+TEST_F(EditTagTest, APageInUtf8ComesBackAsItStands) {
+    frame.active->SetEncoding(TextEncoding::Utf8);
+    EditAt(QStringLiteral("日本 😀<img s|rc=\"łódź.gif\" alt=\"שלום\">ł"));
+    EXPECT_EQ(Shown(), QStringLiteral("frmGraphicLink"));
+    EXPECT_EQ(Field(QStringLiteral("txtALT")), QStringLiteral("שלום"));
+    Press(QStringLiteral("cmdOK"));
+    EXPECT_EQ(Text(), QStringLiteral("日本 😀<IMG ALT=\"שלום\" SRC=\"łódź.gif\" USEMAP=\"#\">ł"));
+}

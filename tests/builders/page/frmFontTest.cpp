@@ -105,6 +105,13 @@ TEST_F(frmFontTest, WritesACharacterFromOutsideTheCodePageAsItsReference) {
     EXPECT_EQ(Text(), T(u"<FONT FACE=\"&#9731; \u20AC\"></FONT>"));
 }
 
+TEST_F(frmFontTest, WritesAnyCharacterIntoAPageInUtf8) {
+    frame.active->SetEncoding(TextEncoding::Utf8);
+    Fill(T(u"txtFontFace"), T(u"\u2603 \u20AC \U0001F600"));
+    Press(T(u"cmdOK"));
+    EXPECT_EQ(Text(), T(u"<FONT FACE=\"\u2603 \u20AC \U0001F600\"></FONT>"));
+}
+
 const AnyDialog inAnyDialogTest({.form = u"frmFont",
                                  .entries = {u"tb_abc"},
                                  .field = u"txtFontColor",
