@@ -1,6 +1,6 @@
 """What keeps a fault from becoming a way into the program, read off what the build made of each type that users get.
 
-    hardening.py SOURCE BUILD PROGRAM [PLUGIN]
+    hardening.py SOURCE BUILD PROGRAM [PLUGIN] [CLIENT]
 """
 import json
 import os

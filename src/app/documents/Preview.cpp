@@ -4,8 +4,7 @@
 #include "editor/frame/Commands.h"
 #include "editor/frame/Document.h"
 #include "editor/frame/Frame.h"
-
-#include <QProcess>
+#include "platform/desktop/StartProgram.h"
 
 void FillPreviewCommands(Frame& frame) {
     frame.Commands().Set(QStringLiteral("mnuReload"), [&frame] { PreviewInBrowser(frame); });
@@ -26,7 +25,7 @@ void PreviewInBrowser(Frame& frame, const QString& path) {
         return;
     QStringList words = BrowserCommandLine(browser, target);
     const QString program = words.takeFirst();
-    QProcess::startDetached(program, words);
+    StartProgram(program, words);
 }
 
 QStringList BrowserCommandLine(const QString& browser, const QString& target) {

@@ -2,7 +2,6 @@
 
 #include "app/run/ProgramState.h"
 #include "app/surface/EditCommands.h"
-#include "app/window/KnownForms.h"
 #include "builders/commands/MenuTagCommands.h"
 #include "builders/lists/frmBulletList.h"
 #include "editor/color/ColoredTags.h"
@@ -10,11 +9,14 @@
 #include "editor/frame/ActiveText.h"
 #include "editor/frame/Commands.h"
 #include "editor/frame/Document.h"
+#include "editor/frame/Forms.h"
 #include "editor/frame/Frame.h"
 #include "platform/desktop/Prompts.h"
+#include "platform/desktop/StartProgram.h"
 #include "platform/store/Settings.h"
 #include "platform/text/RichTextBox.h"
 #include "platform/text/UndoAction.h"
+#include "tools/upload/frmFTP.h"
 
 #include <QFileInfo>
 #include <QProcess>
@@ -184,18 +186,14 @@ void tb_meta_Click(Frame& frame) {
 void tb_ftp_Click(Frame& frame) {
     const ProgramState& state = frame.State<ProgramState>();
     if (state.LocalFTP) {
-        const QString upload = QString::fromLatin1(UploadForm);
-        if (frame.Commands().Has(upload))
-            frame.Commands().Run(upload);
-        else
-            frame.SetStatusPanel(QStringLiteral("The upload window is not part of this version."));
+        frame.LoadedForms().Show<frmFTP>(frame);
         return;
     }
     if (!state.FtpPath.isEmpty()) {
         QStringList words = QProcess::splitCommand(state.FtpPath);
         if (QFileInfo::exists(state.FtpPath))
             words = QStringList{state.FtpPath};
-        if (!words.isEmpty() && QProcess::startDetached(words.first(), words.mid(1)))
+        if (!words.isEmpty() && StartProgram(words.first(), words.mid(1)))
             return;
     }
     frame.Ask().MsgBox(frame.Window(), QStringLiteral("The FTP Program was not found."), MsgButtons::OKCancel,

@@ -3,9 +3,8 @@
 
 #include "editor/frame/FormTable.h"
 
-/// Forms that this version lacks and that something asks for: whoever brings one fills a command of its name.
+/// A form that this version lacks and that something asks for: whoever brings it fills a command of its name.
 inline constexpr const char* WebTimerForm = "frmTime";
-inline constexpr const char* UploadForm = "frmFTP";
 
 /// The forms of the application itself.
 std::span<const FormRow> AppForms();

@@ -5,6 +5,7 @@
 #include "builders/lists/frmBulletList.h"
 #include "support/CommandTest.h"
 #include "support/FreshUser.h"
+#include "tools/upload/frmFTP.h"
 
 #include <algorithm>
 #include <gtest/gtest.h>
@@ -340,10 +341,14 @@ class UploadTest : public ToolbarCommandsTest {
 
 TEST_F(UploadTest, TheBuiltInWindowIsShown) {
     frame.State<ProgramState>().LocalFTP = true;
-    int shown = 0;
-    frame.Commands().Set(Latin("frmFTP"), [&shown] { ++shown; });
     Run("tb_ftp");
-    EXPECT_EQ(shown, 1);
+    const auto* form = frame.LoadedForms().Find<frmFTP>();
+    ASSERT_TRUE(form);
+    EXPECT_TRUE(form->isVisible());
+    EXPECT_FALSE(form->isModal());
+    EXPECT_EQ(form->parentWidget(), frame.Window());
+    Run("tb_ftp");
+    EXPECT_EQ(frame.LoadedForms().Count(), 1);
     EXPECT_EQ(options, 0);
     EXPECT_TRUE(frame.prompts.asked.isEmpty());
 }
