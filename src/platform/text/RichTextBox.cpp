@@ -284,6 +284,17 @@ int RichTextBox::Find(const QString& text, std::optional<int> start, std::option
     return buffer_.CharFromByte(match->start);
 }
 
+int RichTextBox::ReplaceEach(const QString& text, const QString& replacement, int start, int gap,
+                             int options) {
+    if (text.isEmpty())
+        return 0;
+    const Settling settling(*this);
+    const ByteRange range{buffer_.ByteFromChar(std::max(start, 0)), buffer_.Bytes()};
+    const std::vector<ByteRange> matches = search_.Each(text, range, gap, options);
+    editing_.ReplaceEach(matches, replacement.toUtf8());
+    return static_cast<int>(matches.size());
+}
+
 int RichTextBox::FindForward(QChar character, int from) const {
     const ByteRange range = buffer_.FromChars(from, TextLength());
     const std::optional<ByteRange> match = search_.Forward(QString(character), range, MatchCase);
@@ -328,6 +339,10 @@ QString RichTextBox::LineEnd() const {
 void RichTextBox::InsertForeign(const QString& text) {
     const Settling settling(*this);
     editing_.ReplaceSelection(editing_.Incorporate(text));
+}
+
+QString RichTextBox::Incorporated(const QString& text) const {
+    return QString::fromUtf8(editing_.Incorporate(text));
 }
 
 int RichTextBox::FormatRange(bool draw, QPainter& painter, const QRectF& page, int from) {

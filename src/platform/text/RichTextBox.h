@@ -121,6 +121,10 @@ class RichTextBox : public QsciScintillaBase, public AccessibleText {
     /// text is never found.
     int Find(const QString& text, std::optional<int> start = std::nullopt,
              std::optional<int> end = std::nullopt, int options = 0);
+    /// Replaces all matches from start (0-based) on, searched for as Find does, as one undo step: each in the
+    /// colour of its first character. The search goes on so many characters behind a match as gap says. The
+    /// caret stands behind the last one; nothing changes where there is none. Returns how many there were.
+    int ReplaceEach(const QString& text, const QString& replacement, int start, int gap, int options = 0);
     /// The position of the first given character at or after a position (0-based), or -1. Looks at no more of
     /// the text than needed, and no selection changes.
     int FindForward(QChar character, int from) const;
@@ -155,6 +159,8 @@ class RichTextBox : public QsciScintillaBase, public AccessibleText {
     /// Replaces the selection as pasting does: characters that a document can't hold become references, line
     /// ends become the document's.
     void InsertForeign(const QString& text) override;
+    /// The text that InsertForeign would put in.
+    QString Incorporated(const QString& text) const;
 
     /// What assistive technology is told.
     AssistantNews& News() { return news_; }

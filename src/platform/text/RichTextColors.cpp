@@ -34,6 +34,11 @@ void StyleRuns::Append(int length, int style) {
     }
 }
 
+void StyleRuns::Append(const StyleRuns& more) {
+    for (std::size_t run = 0; run < more.Count(); ++run)
+        Append(more.LengthOf(run), more.StyleOf(run));
+}
+
 StyleTable::Found StyleTable::StyleFor(ColorNumber color) {
     if (color < 0)
         return {0, false};

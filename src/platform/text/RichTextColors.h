@@ -17,6 +17,8 @@ class StyleRuns {
     StyleRuns(int length, int style) { Append(length, style); }
     /// Adds a stretch at the end; it melts into the last one if that has the same style.
     void Append(int length, int style);
+    /// Adds what another list holds.
+    void Append(const StyleRuns& more);
     bool Empty() const { return packed_.empty(); }
     std::size_t Count() const { return packed_.size(); }
     int StyleOf(std::size_t run) const { return static_cast<int>(packed_[run] & 0xff); }

@@ -1,41 +1,55 @@
-// A text as a search compares it with bytes of UTF-8.
+// A text that is searched for in UTF-8, with its case or without.
 #pragma once
 
-#include <array>
+#include "platform/text/ByteSearch.h"
+
 #include <optional>
 #include <QByteArray>
 #include <QByteArrayView>
 #include <QString>
+#include <utility>
 #include <vector>
 
 /// Without case a character stands for all those that Unicode takes for the same one but for case, whatever
-/// their number of bytes: a match may be shorter or longer than the pattern.
+/// their number of bytes: a match may be shorter or longer than the pattern. The time grows with the two
+/// lengths, never with their product.
 class SearchPattern {
   public:
+    /// The text must not be empty.
     SearchPattern(const QString& text, bool matchCase);
 
-    /// Where a match lies, in bytes.
+    /// A stretch of text as the pattern is compared with it.
+    class Stretch {
+      public:
+        /// Where a place in the folded bytes lies in the stretch.
+        qsizetype Source(qsizetype folded) const;
+
+      private:
+        friend class SearchPattern;
+        QByteArray bytes_;
+        /// Behind each character whose folded one has another number of bytes: the place in the folded bytes
+        /// and in the stretch.
+        std::vector<std::pair<qsizetype, qsizetype>> moved_;
+    };
+    /// A copy; the stretch may begin and end within a character.
+    Stretch Comparable(QByteArrayView utf8) const;
+
+    /// Where a match lies in a stretch, in bytes.
     struct Match {
         qsizetype at;
         qsizetype size;
+        qsizetype next; ///< from here the search goes on for the next one
     };
-    /// The first match that begins at a byte or behind it.
-    std::optional<Match> FirstIn(QByteArrayView bytes, qsizetype from) const;
+    /// The first match; with the next of a match, the first that begins behind that one's beginning.
+    std::optional<Match> FirstIn(const Stretch& stretch, qsizetype next = 0) const;
 
-    /// The fewest and the most bytes that a match can have.
+    /// Bounds of the bytes that a match can have.
     int Shortest() const { return shortest_; }
     int Longest() const { return longest_; }
 
   private:
-    /// The forms that one character may have in the text.
-    using Forms = std::vector<QByteArray>;
-
-    /// How many bytes of those that come next match, or -1.
-    qsizetype LengthAt(QByteArrayView bytes) const;
-
-    std::vector<Forms> characters_;
-    QByteArray only_; ///< the pattern itself, where no character has a second form
-    std::array<bool, 256> starts_{};
-    int shortest_ = 0;
-    int longest_ = 0;
+    bool matchCase_;
+    ByteSearch search_;
+    int shortest_;
+    int longest_;
 };

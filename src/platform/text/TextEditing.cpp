@@ -66,6 +66,23 @@ void TextEditing::Replace(ByteRange range, const QByteArray& text, const StyleRu
     MoveCaret(range.start + static_cast<int>(text.size()));
 }
 
+void TextEditing::ReplaceEach(const std::vector<ByteRange>& stretches, const QByteArray& text) {
+    if (stretches.empty())
+        return;
+    const ByteRange whole{stretches.front().start, stretches.back().end};
+    QByteArray result;
+    StyleRuns styles;
+    int kept = whole.start;
+    for (const ByteRange& stretch : stretches) {
+        result += buffer_.InPlace({kept, stretch.start});
+        styles.Append(colors_.StylesOf({kept, stretch.start}));
+        result += text;
+        styles.Append(static_cast<int>(text.size()), colors_.StyleAt(stretch.start));
+        kept = stretch.end;
+    }
+    Replace(whole, result, styles);
+}
+
 void TextEditing::ReplaceSelection(const QByteArray& text) {
     const ByteRange selection = Selection();
     Replace(selection, text, StyleRuns(static_cast<int>(text.size()), colors_.StyleAtCaret(selection)));

@@ -6,6 +6,7 @@
 
 #include <functional>
 #include <QByteArray>
+#include <vector>
 
 class QMimeData;
 class StyleRuns;
@@ -25,6 +26,9 @@ class TextEditing {
 
     /// Replaces a stretch as one undo step; the caret stands behind what came in.
     void Replace(ByteRange range, const QByteArray& text, const StyleRuns& styles);
+    /// Replaces stretches, in order and apart, by one text as one undo step; it takes the style of each
+    /// stretch's first byte. The caret stands behind the last; without a stretch it stays.
+    void ReplaceEach(const std::vector<ByteRange>& stretches, const QByteArray& text);
     /// Replaces the selection, in the colour at the caret.
     void ReplaceSelection(const QByteArray& text);
     /// The same for what is typed: with nothing selected, what is typed in a row is one undo step.

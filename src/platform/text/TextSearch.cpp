@@ -26,15 +26,30 @@ bool Joined(const QString& left, const QString& right) {
 } // namespace
 
 std::optional<ByteRange> TextSearch::Forward(const QString& text, ByteRange range, int options) const {
+    return Forward(SearchPattern(text, (options & MatchCase) != 0), range, options);
+}
+
+std::vector<ByteRange> TextSearch::Each(const QString& text, ByteRange range, int gap, int options) const {
     const SearchPattern pattern(text, (options & MatchCase) != 0);
+    std::vector<ByteRange> matches;
+    while (const std::optional<ByteRange> match = Forward(pattern, range, options)) {
+        matches.push_back(*match);
+        range.start = match->end;
+        for (int i = 0; i < gap && range.start < range.end; ++i)
+            range.start += LengthAt(range.start);
+    }
+    return matches;
+}
+
+std::optional<ByteRange> TextSearch::Forward(const SearchPattern& pattern, ByteRange range,
+                                             int options) const {
     int from = range.start;
     int chunk = std::max(firstChunk, 2 * pattern.Longest());
     while (range.end - from >= pattern.Shortest()) {
         const int to = static_cast<int>(std::min<qint64>(qint64{from} + chunk, range.end));
         // A copy: looking at the characters around a match may move what lies in place.
-        const QByteArray bytes = buffer_.InPlace({from, to}).toByteArray();
-        auto found = pattern.FirstIn(bytes, 0);
-        for (; found; found = pattern.FirstIn(bytes, found->at + 1)) {
+        const SearchPattern::Stretch stretch = pattern.Comparable(buffer_.InPlace({from, to}));
+        for (auto found = pattern.FirstIn(stretch); found; found = pattern.FirstIn(stretch, found->next)) {
             const int at = from + static_cast<int>(found->at);
             const ByteRange match{at, at + static_cast<int>(found->size)};
             if ((options & WholeWord) == 0 || IsWholeWord(match))
@@ -47,6 +62,12 @@ std::optional<ByteRange> TextSearch::Forward(const QString& text, ByteRange rang
         chunk = std::max(std::min(2 * chunk, longestChunk), 2 * pattern.Longest());
     }
     return std::nullopt;
+}
+
+/// The bytes of the character at a byte; a CR and its LF are two.
+int TextSearch::LengthAt(int byte) const {
+    const bool isPair = buffer_.InPlace({byte, byte + 1}).startsWith('\r');
+    return isPair ? 1 : buffer_.CharacterAt(byte).Length();
 }
 
 bool TextSearch::IsWholeWord(ByteRange match) const {

@@ -4,7 +4,9 @@
 #include <optional>
 #include <QChar>
 #include <QString>
+#include <vector>
 
+class SearchPattern;
 class TextBuffer;
 struct ByteRange;
 
@@ -19,8 +21,12 @@ class TextSearch {
     /// that have one: a match may have more or fewer characters than the text. With WholeWord no
     /// letter, digit or "_" joins on to the match. The text must not be empty.
     std::optional<ByteRange> Forward(const QString& text, ByteRange range, int options) const;
+    /// The matches in order. The search goes on so many characters behind each as gap says.
+    std::vector<ByteRange> Each(const QString& text, ByteRange range, int gap, int options) const;
 
   private:
+    std::optional<ByteRange> Forward(const SearchPattern& pattern, ByteRange range, int options) const;
+    int LengthAt(int byte) const;
     bool IsWholeWord(ByteRange match) const;
 
     const TextBuffer& buffer_;

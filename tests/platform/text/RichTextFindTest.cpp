@@ -136,6 +136,46 @@ TEST_F(RichTextFindTest, ForwardLooksForOneCharacterAndSelectsNothing) {
     EXPECT_EQ(Signalled(), QStringList());
 }
 
+TEST_F(RichTextFindTest, EachMatchIsReplacedInTheColourOfItsFirstCharacter) {
+    Put(u"xab-AB-ab"_s, u"rgbrgbkkk"_s);
+    EXPECT_EQ(box.ReplaceEach(u"ab"_s, u"123"_s, 0, 0), 3);
+    EXPECT_EQ(box.Text(), u"x123-123-123"_s);
+    EXPECT_EQ(Colors(), u"rgggrgggkkkk"_s);
+    EXPECT_EQ(box.SelStart(), 12);
+    EXPECT_EQ(box.SelLength(), 0);
+    EXPECT_EQ(Signalled(), (QStringList{u"Change"_s, u"SelChange"_s}));
+    Undo();
+    EXPECT_EQ(box.Text(), u"xab-AB-ab"_s);
+    EXPECT_EQ(Colors(), u"rgbrgbkkk"_s);
+    EXPECT_FALSE(CanUndo());
+}
+
+TEST_F(RichTextFindTest, MatchesAreReplacedFromAPlaceOn) {
+    box.SetText(u"éa aa aaa"_s);
+    EXPECT_EQ(box.ReplaceEach(u"a"_s, QString(), 2, 1), 3);
+    EXPECT_EQ(box.Text(), u"éa a a"_s);
+    EXPECT_EQ(box.ReplaceEach(u"É"_s, u"e"_s, 0, 0, matchCase), 0);
+    EXPECT_EQ(box.ReplaceEach(QString(), u"e"_s, 0, 0), 0);
+    EXPECT_EQ(box.ReplaceEach(u"a"_s, u"e"_s, 99, 0), 0);
+    EXPECT_EQ(box.Text(), u"éa a a"_s);
+}
+
+TEST_F(RichTextFindTest, WhereNothingIsReplacedNothingChanges) {
+    box.SetText(u"abc"_s);
+    Select(1, 1);
+    Signalled();
+    EXPECT_EQ(box.ReplaceEach(u"x"_s, u"y"_s, 0, 0), 0);
+    EXPECT_EQ(box.SelText(), u"b"_s);
+    EXPECT_EQ(Signalled(), QStringList());
+}
+
+TEST_F(RichTextFindTest, ATextFromOutsideIsToldAsItWouldComeIn) {
+    EXPECT_EQ(box.Incorporated(u"a\nb\rc\r\nd☃"_s), u"a\r\nb\r\nc\r\nd&#9731;"_s);
+    box.SetText(u"x\ny"_s);
+    EXPECT_EQ(box.Incorporated(u"a\r\nb"_s), u"a\nb"_s);
+    EXPECT_EQ(box.Text(), u"x\ny"_s);
+}
+
 TEST_F(RichTextFindTest, FindTellsOfTheSelection) {
     box.SetText(u"abc"_s);
     Signalled();

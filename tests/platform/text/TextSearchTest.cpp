@@ -86,4 +86,25 @@ TEST_F(TextSearchTest, MatchesOfOtherLengthsAreFoundAcrossTheEdgesToo) {
     }
 }
 
+TEST_F(TextSearchTest, EachMatchComesOnceAndBehindTheGap) {
+    using Ranges = std::vector<ByteRange>;
+    const auto each = [&](const QString& wanted, int gap, int options = 0) {
+        return search.Each(wanted, buffer.Whole(), gap, options);
+    };
+    Put(u"aaaaa"_s);
+    EXPECT_EQ(each(u"aa"_s, 0), (Ranges{{0, 2}, {2, 4}}));
+    EXPECT_EQ(each(u"aa"_s, 1), (Ranges{{0, 2}, {3, 5}}));
+    EXPECT_EQ(each(u"aa"_s, 99), (Ranges{{0, 2}}));
+    EXPECT_EQ(each(u"b"_s, 0), Ranges{});
+    Put(u"aéaa€😀a\r\na"_s);
+    EXPECT_EQ(each(u"a"_s, 1), (Ranges{{0, 1}, {3, 4}, {12, 13}, {15, 16}}));
+    EXPECT_EQ(each(u"€"_s, 1), (Ranges{{5, 8}}));
+    EXPECT_EQ(each(u"\n"_s, 0), (Ranges{{14, 15}}));
+    // The gap takes a CR and leaves its LF.
+    Put(u"\n\r\n"_s);
+    EXPECT_EQ(each(u"\n"_s, 1), (Ranges{{0, 1}, {2, 3}}));
+    Put(u"a cat a"_s);
+    EXPECT_EQ(each(u"a"_s, 0, TextSearch::WholeWord), (Ranges{{0, 1}, {6, 7}}));
+}
+
 } // namespace
