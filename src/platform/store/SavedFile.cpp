@@ -77,28 +77,30 @@ std::optional<SavedFile> SavedFile::At(const QByteArray& path) {
     return std::nullopt;
 }
 
-SavedFile::Outcome SavedFile::Replace(QByteArrayView content, mode_t mode) const {
+SavedFile::Outcome SavedFile::Replace(QByteArrayView content, mode_t mode, Wait wait) const {
     if (old_ && old_->st_nlink > 1)
         return Outcome::NotReplaceable;
     // With the old file's rights, or none for others until it has these.
     NewFile fresh(NameBeside(path_), old_ ? 0600 : mode);
     if (!fresh.File().IsOpen())
         return Outcome::NotReplaceable;
-    if (const Outcome filled = Fill(fresh.File(), fresh.Record(), content); filled != Outcome::Written)
+    if (const Outcome filled = Fill(fresh.File(), fresh.Record(), content, wait); filled != Outcome::Written)
         return filled;
     // The content is on the disk: what fails now is the name. It may be in the way itself (a mount of its
     // own).
     if (!GiveName(fresh.Path()))
         return Outcome::NotReplaceable;
     fresh.SetNamed();
-    return FlushFolderOf(path_) ? Outcome::Written : Outcome::Failed;
+    return wait == Wait::No || FlushFolderOf(path_) ? Outcome::Written : Outcome::Failed;
 }
 
-SavedFile::Outcome SavedFile::Fill(OpenFile& file, SaveRecord* record, QByteArrayView content) const {
+SavedFile::Outcome SavedFile::Fill(OpenFile& file, SaveRecord* record, QByteArrayView content,
+                                   Wait wait) const {
     const std::optional<struct stat> status = file.Status();
     if (!status || (record && !record->SetFile(*status)) || (old_ && !TakeOver(path_, *old_, file)))
         return Outcome::NotReplaceable;
-    return file.Write(content) && file.Flush() && file.Close() ? Outcome::Written : Outcome::Failed;
+    const bool isThere = file.Write(content) && (wait == Wait::No || file.Flush()) && file.Close();
+    return isThere ? Outcome::Written : Outcome::Failed;
 }
 
 /// A file that was not there must not be replaced if it is there after all: nothing is known of it.

@@ -15,6 +15,7 @@ class SaveRecord;
 class SavedFile {
   public:
     enum class Outcome { Written, Failed, NotReplaceable };
+    enum class Wait { ForTheDisk, No };
 
     /// The file of a path, or the one that its symbolic links lead to; it need not be there yet. Nothing
     /// where that can't be learnt, is no plain file, or may not be written.
@@ -24,14 +25,14 @@ class SavedFile {
     const QByteArray& Path() const { return path_; }
 
     /// Puts a new file in its place. One that is not there yet gets the mode, less the user's mask.
-    Outcome Replace(QByteArrayView content, mode_t mode) const;
+    Outcome Replace(QByteArrayView content, mode_t mode, Wait wait = Wait::ForTheDisk) const;
     /// Writes over the old content. Should the disk fail in the middle of it, the old content is put back.
     bool Overwrite(QByteArrayView content) const;
 
   private:
     SavedFile(QByteArray path, std::optional<struct stat> old) : path_(std::move(path)), old_(old) {}
 
-    Outcome Fill(OpenFile& file, SaveRecord* record, QByteArrayView content) const;
+    Outcome Fill(OpenFile& file, SaveRecord* record, QByteArrayView content, Wait wait) const;
     bool GiveName(const QByteArray& from) const;
 
     QByteArray path_;

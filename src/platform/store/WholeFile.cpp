@@ -43,9 +43,10 @@ class NoSizeSignal {
     struct sigaction before_ = {};
 };
 
-bool Save(SavedFile& file, QByteArrayView content, Readers readers) {
+bool Save(SavedFile& file, QByteArrayView content, Readers readers, Flush flush) {
     const mode_t mode = readers == Readers::TheUserAlone ? 0600 : 0666;
-    const SavedFile::Outcome outcome = file.Replace(content, mode);
+    const auto wait = flush == Flush::Now ? SavedFile::Wait::ForTheDisk : SavedFile::Wait::No;
+    const SavedFile::Outcome outcome = file.Replace(content, mode, wait);
     return outcome == SavedFile::Outcome::Written ||
            (outcome == SavedFile::Outcome::NotReplaceable && file.Overwrite(content));
 }
@@ -60,7 +61,7 @@ std::optional<QByteArray> Read(const QString& path) {
     return file.IsOpen() ? file.Read() : std::nullopt;
 }
 
-bool Write(const QString& path, QByteArrayView content, Readers readers) {
+bool Write(const QString& path, QByteArrayView content, Readers readers, Flush flush) {
     if (path.isEmpty())
         return false;
     const NoSizeSignal noSignal;
@@ -68,7 +69,7 @@ bool Write(const QString& path, QByteArrayView content, Readers readers) {
     if (!file)
         return false;
     const QList<QByteArray> unsettled = SaveRecord::SettleAll(file->Path());
-    if (!Save(*file, content, readers))
+    if (!Save(*file, content, readers, flush))
         return false;
     // What could not be finished is now out of date.
     for (const QByteArray& record : unsettled)
@@ -92,7 +93,7 @@ std::optional<QByteArray> Read(const QString& path) {
     return file.error() == QFileDevice::NoError ? std::optional(content) : std::nullopt;
 }
 
-bool Write(const QString& path, QByteArrayView content, Readers) {
+bool Write(const QString& path, QByteArrayView content, Readers, Flush) {
     QSaveFile file(path);
     if (!file.open(QIODevice::WriteOnly))
         return false;

@@ -10,6 +10,11 @@ namespace WholeFile {
 /// Who may read a file that is created; one that is there keeps its mode.
 enum class Readers { AsTheUsersMaskAsks, TheUserAlone };
 
+/// When a new content reaches the disk: before Write returns, or when the system comes to it, as the files of
+/// most programs do. Until then a power cut may leave the old content, or on some disks none. To wait for
+/// each of a thousand files takes many times as long as to write them.
+enum class Flush { Now, Later };
+
 /// The size in bytes; -1 where there is no plain file of that path.
 qint64 Size(const QString& path);
 
@@ -26,7 +31,8 @@ std::optional<QByteArray> Read(const QString& path);
 /// Returns false on failure: the old file then stands as it was, or, where the disk failed too late to tell,
 /// holds the new content whole. Nothing else is left behind. What a save leaves whose process is killed is
 /// settled by the next one, and by SettleInterrupted().
-bool Write(const QString& path, QByteArrayView content, Readers readers = Readers::AsTheUsersMaskAsks);
+bool Write(const QString& path, QByteArrayView content, Readers readers = Readers::AsTheUsersMaskAsks,
+           Flush flush = Flush::Now);
 
 /// Settles the saves whose process was killed: their new files are taken away, and a file that was half
 /// overwritten gets its new content.

@@ -455,4 +455,23 @@ TEST_F(WholeFileTest, AFullDiskLeavesTheOldFileAndNoLitter) {
     EXPECT_EQ(answer, 0);
 }
 
+TEST_F(WholeFileTest, WhatMayReachTheDiskLaterIsNotWaitedFor) {
+    static int flushes = 0;
+    flushes = 0;
+    Calls().fsync = [](int) {
+        ++flushes;
+        return 0;
+    };
+    using enum WholeFile::Readers;
+    const QString path = Make("page", "old", 0640);
+    EXPECT_TRUE(WholeFile::Write(path, "new", AsTheUsersMaskAsks, WholeFile::Flush::Later));
+    EXPECT_EQ(flushes, 0);
+    EXPECT_EQ(Content(path), "new");
+    EXPECT_EQ(Mode(path), 0640u);
+    EXPECT_EQ(Listing(), QStringList(QStringLiteral("page")));
+    EXPECT_TRUE(WholeFile::Write(path, "newer"));
+    EXPECT_EQ(flushes, 2) << "the file and its folder";
+    Calls() = FileCalls();
+}
+
 } // namespace
