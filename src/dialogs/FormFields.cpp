@@ -11,27 +11,33 @@
 
 namespace {
 
-/// A colour patch on the screen's own pixels; without a colour an empty one, crossed out.
-QIcon ColorPatch(const QColor& color, const QWidget* button) {
+/// A square picture on the screen's own pixels, as a button shows them.
+template <typename Draw> QIcon Picture(const QWidget* button, Draw draw) {
     const int side = button->style()->pixelMetric(QStyle::PM_ButtonIconSize, nullptr, button);
     const QSize size(side, side);
     const qreal ratio = button->devicePixelRatioF();
-    QPixmap patch(size * ratio);
-    patch.setDevicePixelRatio(ratio);
-    patch.fill(Qt::transparent);
-    QPainter painter(&patch);
+    QPixmap picture(size * ratio);
+    picture.setDevicePixelRatio(ratio);
+    picture.fill(Qt::transparent);
+    QPainter painter(&picture);
     painter.setRenderHint(QPainter::Antialiasing);
-    const QRectF edge = QRectF(QPointF(0, 0), QSizeF(size)).adjusted(0.5, 0.5, -0.5, -0.5);
-    painter.setPen(button->palette().color(QPalette::Mid));
-    if (color.isValid()) {
-        painter.setBrush(color);
-        painter.drawRect(edge);
-    } else {
-        painter.drawRect(edge);
-        painter.drawLine(edge.bottomLeft(), edge.topRight());
-    }
+    draw(painter, QRectF(QPointF(0, 0), QSizeF(size)).adjusted(0.5, 0.5, -0.5, -0.5));
     painter.end();
-    return QIcon(patch);
+    return QIcon(picture);
+}
+
+/// A colour patch; without a colour an empty one, crossed out.
+QIcon ColorPatch(const QColor& color, const QWidget* button) {
+    return Picture(button, [&](QPainter& painter, const QRectF& edge) {
+        painter.setPen(button->palette().color(QPalette::Mid));
+        if (color.isValid()) {
+            painter.setBrush(color);
+            painter.drawRect(edge);
+        } else {
+            painter.drawRect(edge);
+            painter.drawLine(edge.bottomLeft(), edge.topRight());
+        }
+    });
 }
 
 } // namespace
@@ -74,6 +80,18 @@ void PrepareComboBoxes(QWidget& form) {
 
 void ShowBrowseIcon(QAbstractButton* button) {
     button->setIcon(button->style()->standardIcon(QStyle::SP_DirOpenIcon, nullptr, button));
+}
+
+void ShowExitIcon(QAbstractButton* button) {
+    button->setIcon(Picture(button, [button](QPainter& painter, QRectF edge) {
+        constexpr qreal margin = 3;
+        constexpr qreal width = 2;
+        edge.adjust(margin, margin, -margin, -margin);
+        painter.setPen(
+            QPen(button->palette().color(QPalette::ButtonText), width, Qt::SolidLine, Qt::RoundCap));
+        painter.drawLine(edge.topLeft(), edge.bottomRight());
+        painter.drawLine(edge.bottomLeft(), edge.topRight());
+    }));
 }
 
 void ShowColorIcon(QAbstractButton* button, const QString& text) {

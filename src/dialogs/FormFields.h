@@ -26,6 +26,9 @@ void PrepareComboBoxes(QWidget& form);
 /// The face of a button that picks a file: the desktop's open folder.
 void ShowBrowseIcon(QAbstractButton* button);
 
+/// The face of a button that leaves a form: a cross in the colour of its text.
+void ShowExitIcon(QAbstractButton* button);
+
 /// The face of a button that picks a colour: a patch of the colour that text names (`#RRGGBB` or a name), or
 /// an empty patch where it names none.
 void ShowColorIcon(QAbstractButton* button, const QString& text);
