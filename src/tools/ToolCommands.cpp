@@ -1,3 +1,7 @@
 #include "tools/ToolCommands.h"
 
-void FillToolCommands(Frame& /*frame*/) {}
+#include "tools/find/FindCommands.h"
+
+void FillToolCommands(Frame& frame) {
+    FillFindCommands(frame);
+}

@@ -109,13 +109,11 @@ class CommandSurfaceTest : public testing::Test {
 // What waits for its part of the program. A command that comes leaves this list.
 TEST_F(CommandSurfaceTest, ExactlyTheseWaitForTheirCommands) {
     const QStringList waiting = {
-        Text("mnuPrint"),          Text("mnuSpellCheck"),     Text("mnuFind"),
-        Text("mnuFindAgain"),      Text("mnuReplace"),        Text("mnuMultiFile"),
-        Text("mnuShowLinks"),      Text("mnuAddBreaks"),      Text("mnuAddLi"),
-        Text("mnuRemoveTags"),     Text("mnuInsertImageMap"), Text("mnuWizard"),
-        Text("mnuConvertFromMac"), Text("mnuConvertToMac"),   Text("mnuConvertFromUNIX"),
-        Text("mnuConvertToUNIX"),  Text("tb_print"),          Text("tb_object"),
-        Text("tb_find"),           Text("tb_spell"),          Text("tb_form"),
+        Text("mnuPrint"),          Text("mnuSpellCheck"),      Text("mnuShowLinks"),
+        Text("mnuAddBreaks"),      Text("mnuAddLi"),           Text("mnuRemoveTags"),
+        Text("mnuInsertImageMap"), Text("mnuWizard"),          Text("mnuConvertFromMac"),
+        Text("mnuConvertToMac"),   Text("mnuConvertFromUNIX"), Text("mnuConvertToUNIX"),
+        Text("tb_print"),          Text("tb_spell"),           Text("tb_form"),
         Text("tb_frame"),
     };
     QStringList disabled;
@@ -156,6 +154,12 @@ TEST_F(CommandSurfaceTest, WithoutADocumentEveryCommandIsSilentOrNeedsNone) {
         {Text("tb_ftp"), Text("shows The upload window is not part of this version.")},
         // Saving a template is the one command of a text that says what it lacks.
         {Text("mnuSetUserTemplate"), Text("says Load document first.")},
+        {Text("mnuFind"), Text("loads frmFindReplace")},
+        {Text("mnuFindAgain"), Text("loads frmFindReplace")},
+        {Text("mnuReplace"), Text("loads frmFindReplace")},
+        {Text("mnuMultiFile"), Text("loads frmFindReplace")},
+        {Text("tb_find"), Text("loads frmFindReplace")},
+        {Text("tb_object"), Text("loads frmProject")},
         {Text("mnuLink"), Text("loads frmLinks")},
         {Text("tb_link"), Text("loads frmLinks")},
         {Text("mnuImage"), Text("loads frmGraphicLink")},
@@ -202,12 +206,12 @@ TEST_F(CommandSurfaceTest, WithoutADocumentEveryCommandIsSilentOrNeedsNone) {
 
 TEST_F(CommandSurfaceTest, WithoutADocumentADialogComesUpAllTheSame) {
     const char* const rows[][2] = {
-        {"mnuLink", "frmLinks"},  {"mnuImage", "frmGraphicLink"}, {"mnuEmbed", "frmEmbed"},
-        {"mnuHR", "frmHRInput"},  {"tb_hr", "frmHRInput"},        {"tb_abc", "frmFont"},
-        {"tb_body", "frmBody"},   {"tb_java", "frmJava"},         {"tb_java2", "frmParam"},
-        {"tb_link", "frmLinks"},  {"tb_image", "frmGraphicLink"}, {"tb_embed", "frmEmbed"},
-        {"tb_split", "frmMulti"}, {"tb_rectangle", "frmSpacer"},  {"tb_CSS", "frmCSS"},
-        {"tb_Layer", "frmDHTML"},
+        {"mnuLink", "frmLinks"},     {"mnuImage", "frmGraphicLink"}, {"mnuEmbed", "frmEmbed"},
+        {"mnuHR", "frmHRInput"},     {"tb_hr", "frmHRInput"},        {"tb_abc", "frmFont"},
+        {"tb_body", "frmBody"},      {"tb_java", "frmJava"},         {"tb_java2", "frmParam"},
+        {"tb_link", "frmLinks"},     {"tb_image", "frmGraphicLink"}, {"tb_embed", "frmEmbed"},
+        {"tb_split", "frmMulti"},    {"tb_rectangle", "frmSpacer"},  {"mnuFind", "frmFindReplace"},
+        {"tb_object", "frmProject"}, {"tb_CSS", "frmCSS"},           {"tb_Layer", "frmDHTML"},
     };
     for (const auto& row : rows) {
         Run(Text(row[0]));
