@@ -31,6 +31,7 @@
 #include "builders/commands/EditTag.h"
 #include "builders/commands/MenuTagCommands.h"
 #include "editor/spelling/SpellChecker.h"
+#include "editor/spelling/SpellCommands.h"
 #include "editor/views/Modes.h"
 #include "editor/views/WebControls.h"
 #include "platform/text/RichTextBox.h"
@@ -108,6 +109,7 @@ void frmTarnwick::FillCommands() {
     FillPreviewCommands(*this);
     FillMenuTagCommands(*this);
     FillToolbarCommands(*this);
+    FillSpellCommands(*this, *vsSpell1_);
     FillStyleCommands(*this);
     FillToolCommands(*this);
     FillHelpCommands(*this);

@@ -109,12 +109,10 @@ class CommandSurfaceTest : public testing::Test {
 // What waits for its part of the program. A command that comes leaves this list.
 TEST_F(CommandSurfaceTest, ExactlyTheseWaitForTheirCommands) {
     const QStringList waiting = {
-        Text("mnuPrint"),          Text("mnuSpellCheck"),      Text("mnuShowLinks"),
-        Text("mnuAddBreaks"),      Text("mnuAddLi"),           Text("mnuRemoveTags"),
-        Text("mnuInsertImageMap"), Text("mnuWizard"),          Text("mnuConvertFromMac"),
-        Text("mnuConvertToMac"),   Text("mnuConvertFromUNIX"), Text("mnuConvertToUNIX"),
-        Text("tb_print"),          Text("tb_spell"),           Text("tb_form"),
-        Text("tb_frame"),
+        Text("mnuShowLinks"),      Text("mnuAddBreaks"),      Text("mnuAddLi"),
+        Text("mnuRemoveTags"),     Text("mnuInsertImageMap"), Text("mnuWizard"),
+        Text("mnuConvertFromMac"), Text("mnuConvertToMac"),   Text("mnuConvertFromUNIX"),
+        Text("mnuConvertToUNIX"),  Text("tb_form"),           Text("tb_frame"),
     };
     QStringList disabled;
     QStringList without;
@@ -152,6 +150,11 @@ TEST_F(CommandSurfaceTest, WithoutADocumentEveryCommandIsSilentOrNeedsNone) {
         {Text("mnuMainHelp"), Text("shows The help file tarnwick.chm is not installed.")},
         {Text("mnuAbout"), Text("loads frmSplash")},
         {Text("tb_ftp"), Text("shows The upload window is not part of this version.")},
+        // The report of the spell check comes all the same, with the counts of the last one.
+        {Text("mnuSpellCheck"), Text("says Spellcheck complete!\n 0 Words Checked\n 0 Words Replaced")},
+        {Text("tb_spell"), Text("says Spellcheck complete!\n 0 Words Checked\n 0 Words Replaced")},
+        {Text("mnuPrint"), Text("asks Number of copies:, says There is nothing to print.")},
+        {Text("tb_print"), Text("asks Number of copies:, says There is nothing to print.")},
         // Saving a template is the one command of a text that says what it lacks.
         {Text("mnuSetUserTemplate"), Text("says Load document first.")},
         {Text("mnuFind"), Text("loads frmFindReplace")},
@@ -195,6 +198,7 @@ TEST_F(CommandSurfaceTest, WithoutADocumentEveryCommandIsSilentOrNeedsNone) {
         needNone.insert(Text("tb_") + Text(row.reach.button.key), Text("loads ") + Text(row.name));
     const auto added = static_cast<qsizetype>(newEntries.size() + newButtons.size());
     prompts.openAnswers = {ScriptedPrompts::Cancelled(), ScriptedPrompts::Cancelled()};
+    prompts.inputAnswers = {Text("1"), Text("1")};
     int silent = 0;
     for (const QString& name : AllNames()) {
         const QString happened = RunAlone(name);
@@ -281,7 +285,6 @@ TEST_F(CommandSurfaceTest, TheKeysThatEditCaptionsShowAreTheTextsOwn) {
 TEST_F(CommandSurfaceTest, AKeyWhoseEntryWaitsTypesNothing) {
     RichTextBox& text = NewDocument();
     ASSERT_TRUE(QTest::qWaitFor([&] { return text.hasFocus(); }));
-    QTest::keyClick(&text, Qt::Key_P, Qt::ControlModifier);
     QTest::keyClick(&text, Qt::Key_R, Qt::ControlModifier);
     QTest::keyClick(&text, Qt::Key_F, Qt::ControlModifier);
     EXPECT_EQ(text.Text(), QString());
