@@ -21,6 +21,8 @@ frmSpell::frmSpell(QWidget* owner) : QDialog(owner), ui_(std::make_unique<Ui::fr
     setObjectName(QStringLiteral("frmSpell"));
     setModal(true);
     ui_->cmdChange->setDefault(true);
+    // As low as it can be, since it stands over the page.
+    resize(minimumSizeHint());
     const auto correction = [this] { return ui_->txtChange->text(); };
     const auto on = [this](QPushButton* button, auto answer) {
         connect(button, &QPushButton::clicked, this, [this, answer] {
@@ -79,8 +81,6 @@ void frmSpell::ShowSentence(const Sentence& sentence) {
 void frmSpell::MoveBeside(const QRect& word) {
     if (word.isEmpty())
         return;
-    if (!isVisible())
-        adjustSize();
     const QRect area = (parentWidget() ? parentWidget()->screen() : screen())->availableGeometry();
     const QPoint now = isVisible() ? frameGeometry().topLeft() : word.bottomLeft() + QPoint(0, 24);
     const QSize edges = frameGeometry().size() - size();

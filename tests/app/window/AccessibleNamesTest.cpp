@@ -9,6 +9,7 @@
 #include "builders/tables/frmGridInput.h"
 #include "builders/tables/frmTable.h"
 #include "editor/autofill/frmDropDown.h"
+#include "editor/spelling/frmSpell.h"
 #include "support/SourceFolder.h"
 
 #include <QAccessible>
@@ -97,6 +98,7 @@ class AccessibleNames : public FrameTest {
         LoadedForms().Load<frmExternal>(*run.frame);
         LoadedForms().Load<frmTools>(*run.frame, UserButton());
         LoadedForms().Load<frmSplash>(*run.frame);
+        LoadedForms().Load<frmSpell>(run.frame.get());
         LoadedForms().Load<frmDropDown>(*run.frame).Fill({{}}, QStringLiteral("Attributes"));
     }
     ProgramRun run;
