@@ -31,6 +31,7 @@ void SpellChecker::ClearCounters() {
 }
 
 void SpellChecker::SetText(const QString& piece) {
+    dictionaries_ = {StandardDic, CustomDic};
     piece_ = piece;
     cutter_ = WordCutter(piece_);
     corrected_.clear();
@@ -43,9 +44,9 @@ void SpellChecker::SetText(const QString& piece) {
 }
 
 void SpellChecker::LoadDictionary() {
-    const QStringList paths{StandardDic, CustomDic};
+    const Dictionaries paths = dictionaries_;
     auto loaded = std::make_shared<std::unique_ptr<Dictionary>>();
-    background_.Run([loaded, paths] { *loaded = Dictionary::LoadBest(paths[0], paths[1]); },
+    background_.Run([loaded, paths] { *loaded = Dictionary::LoadBest(paths.first, paths.second); },
                     [this, loaded, paths] {
                         dictionary_ = std::move(*loaded);
                         loadedFrom_ = paths;
@@ -67,13 +68,14 @@ void SpellChecker::Continue() {
         turn_.start(longestTurn);
         return;
     }
+    const bool loaded = dictionary_ && loadedFrom_ == dictionaries_;
     const QDeadlineTimer end(longestTurn);
     for (int words = 1;; ++words) {
         const std::optional<TextWord> word = cutter_.Next();
         if (!word)
             return Finish(0);
-        if (!dictionary_ || loadedFrom_ != QStringList{StandardDic, CustomDic}) {
-            // The word is read again once there is something to look it up in.
+        if (!loaded) {
+            // It is the piece's first word: read again once there is something to look it up in.
             cutter_ = WordCutter(piece_);
             LoadDictionary();
             break;
@@ -112,7 +114,6 @@ void SpellChecker::Ask() {
                         if (state_ == Asking && check == check_)
                             ShowDialog(*suggestions);
                     });
-    Q_EMIT Idle();
 }
 
 void SpellChecker::ShowDialog(const QStringList& suggestions) {

@@ -13,6 +13,7 @@
 #include <QString>
 #include <QStringList>
 #include <QTimer>
+#include <utility>
 
 class Dictionary;
 class frmSpell;
@@ -73,6 +74,9 @@ class SpellChecker final : public QObject {
     void NotAdded(const QString& path);
 
   private:
+    /// The paths of the standard one and of the custom one.
+    using Dictionaries = std::pair<QString, QString>;
+
     void LoadDictionary();
     void Continue();
     bool Passes(const TextWord& word);
@@ -86,7 +90,8 @@ class SpellChecker final : public QObject {
     void Finish(int resultCode);
 
     std::unique_ptr<Dictionary> dictionary_;
-    QStringList loadedFrom_; ///< the two paths as they were when the dictionary was loaded
+    Dictionaries dictionaries_; ///< those of the piece
+    Dictionaries loadedFrom_;   ///< as they were told when the dictionary was loaded
     QSet<QString> ignored_;
     QHash<QString, QString> changedAll_;
 

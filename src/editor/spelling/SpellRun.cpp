@@ -155,6 +155,8 @@ void SpellRun::WordFound() {
     RichTextBox* text = PieceText();
     if (!text)
         return;
+    // Which tells the line: the status bar is the text's again.
+    told_ = false;
     text->SetSelStart(state_.SpellPos + checker_.WordPosition() - 1);
     text->SetSelLength(static_cast<int>(checker_.MisspelledWord().size()));
     text->ScrollTo(text->SelStart(), text->SelStart() + text->SelLength());
