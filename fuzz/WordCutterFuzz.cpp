@@ -9,6 +9,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <cstdlib>
+#include <cstring>
 
 namespace {
 
@@ -38,9 +39,9 @@ QString Letters(QStringView written) {
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     const QByteArrayView bytes(data, static_cast<qsizetype>(size));
-    for (const QString& text :
-         {Cp1252::FromBytes(bytes), QString::fromUtf8(bytes),
-          QString(reinterpret_cast<const QChar*>(QByteArray(bytes).constData()), bytes.size() / 2)}) {
+    QString units(static_cast<qsizetype>(size / 2), Qt::Uninitialized);
+    std::memcpy(units.data(), data, size / 2 * 2);
+    for (const QString& text : {Cp1252::FromBytes(bytes), QString::fromUtf8(bytes), units}) {
         qsizetype last = 0;
         WordCutter cutter(text);
         while (const auto word = cutter.Next()) {

@@ -3,6 +3,8 @@
 #include "editor/spelling/LetterEntities.h"
 #include "editor/spelling/TextCharacter.h"
 
+#include <QList>
+
 namespace {
 
 /// The first apostrophe as the text has it, "&rsquo;" or the like; a straight one where there is none.
