@@ -107,6 +107,8 @@ void SpellChecker::Ask() {
     state_ = Asking;
     wordPlace_ = QRect();
     Q_EMIT WordFound();
+    if (state_ != Asking)
+        return;
     auto suggestions = std::make_shared<QStringList>();
     background_.Run([dictionary = dictionary_.get(), word = word_.letters,
                      suggestions] { *suggestions = dictionary->Suggestions(word); },

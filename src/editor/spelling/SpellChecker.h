@@ -58,6 +58,8 @@ class SpellChecker final : public QObject {
 
     /// As the dialog's Cancel, at any time between two checks too.
     void Cancel();
+    /// Ends the check of a piece that is no longer what it was, within WordFound: nothing follows.
+    void Drop() { state_ = Resting; }
     /// Takes the dialog off the screen: no piece follows.
     void Dismiss();
 

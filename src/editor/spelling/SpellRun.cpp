@@ -53,6 +53,7 @@ void SpellRun::SpellCheckDocument() {
     state_.SpellFinished = false;
     state_.DocumentLength = 0;
     followed_ = false;
+    stale_ = false;
     text_.clear();
     // With no document the steps in between fail, and the report has the old counts.
     if (Document* document = frame_.ActiveForm()) {
@@ -97,7 +98,6 @@ bool SpellRun::NextPiece() {
         Follow();
     TakePiece(document->txtInput());
     checking_ = true;
-    LockText(true);
     assigning_ = true;
     checker_.SetText(state_.SpellPiece);
     assigning_ = false;
@@ -135,6 +135,8 @@ bool SpellRun::AfterPiece() {
         Finish();
         return false;
     }
+    if (std::exchange(stale_, false))
+        return true;
     if (state_.TagPosition == 0) {
         Report();
         return false;
@@ -155,6 +157,13 @@ void SpellRun::WordFound() {
     RichTextBox* text = PieceText();
     if (!text)
         return;
+    if (!PieceStands()) {
+        checking_ = false;
+        checker_.Drop();
+        turn_.start(0);
+        return;
+    }
+    LockText(true);
     // Which tells the line: the status bar is the text's again.
     told_ = false;
     text->SetSelStart(state_.SpellPos + checker_.WordPosition() - 1);
@@ -169,13 +178,12 @@ void SpellRun::PieceChanged() {
     RichTextBox* text = PieceText();
     if (!text)
         return;
-    const int start = state_.SpellPos != 1 ? state_.SpellPos - 1 : 0;
-    const auto length = static_cast<int>(state_.SpellPiece.size());
     // What else changed the text meanwhile is not written over.
-    if (text->TextRange(start, length) != state_.SpellPiece)
+    stale_ = !PieceStands();
+    if (stale_)
         return;
-    text->SetSelStart(start);
-    text->SetSelLength(length);
+    text->SetSelStart(state_.SpellPos != 1 ? state_.SpellPos - 1 : 0);
+    text->SetSelLength(static_cast<int>(state_.SpellPiece.size()));
     text->SetSelText(checker_.Text());
 }
 
@@ -254,7 +262,12 @@ RichTextBox* SpellRun::PieceText() const {
     return DocumentClosed() ? nullptr : text_.data();
 }
 
-// Keys typed into a piece while it is checked would be written over by its corrections.
+bool SpellRun::PieceStands() const {
+    const auto length = static_cast<int>(state_.SpellPiece.size());
+    return text_ && text_->TextRange(state_.SpellPos - 1, length) == state_.SpellPiece;
+}
+
+// From the first question about a piece to its end: keys are for the dialog.
 void SpellRun::LockText(bool lock) {
     if (text_)
         text_->SetEnabled(!lock);

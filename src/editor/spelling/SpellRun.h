@@ -60,6 +60,8 @@ class SpellRun final : public QObject {
     bool DocumentClosed() const;
     /// The text that the piece is from; null once its document is closed.
     RichTextBox* PieceText() const;
+    /// The piece still stands where it was taken from.
+    bool PieceStands() const;
     void LockText(bool lock);
     void Follow();
 
@@ -74,6 +76,7 @@ class SpellRun final : public QObject {
     bool running_ = false;
     bool assigning_ = false; ///< within the assignment of a piece
     bool checking_ = false;  ///< the piece is not finished
+    bool stale_ = false;     ///< the piece was edited under its check: it is taken anew
     bool told_ = false;      ///< the status bar tells of the run
     bool followed_ = false;  ///< a piece was taken
 };

@@ -39,10 +39,15 @@ class Printer : public PrintDevice {
     bool Close() override { return true; }
     void Abort() override {
         printer_.abort();
-        painter_.end();
+        Leave();
     }
 
   protected:
+    /// Leaves the page as it is, if there is one.
+    void Leave() {
+        if (painter_.isActive())
+            painter_.end();
+    }
     bool Works() const {
         const QPrinter::PrinterState state = printer_.printerState();
         return state != QPrinter::Error && state != QPrinter::Aborted;
@@ -58,7 +63,7 @@ class PdfFile final : public Printer {
         printer_.setOutputFormat(QPrinter::PdfFormat);
         printer_.setOutputFileName(Draft());
     }
-    ~PdfFile() override { painter_.end(); }
+    ~PdfFile() override { Leave(); }
 
     bool Start() override { return painter_.isActive() ? NewPage() : Printer::Start(); }
     bool End() override { return Works(); }

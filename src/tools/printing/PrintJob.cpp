@@ -36,7 +36,11 @@ PrintJob::PrintJob(Frame& frame, const RichTextBox& text, std::unique_ptr<PrintD
     turn_.start(0);
 }
 
-PrintJob::~PrintJob() = default;
+// A frame that goes takes a job with it that is under way.
+PrintJob::~PrintJob() {
+    if (device_)
+        device_->Abort();
+}
 
 void PrintJob::Turn() {
     if (!copy_) {
@@ -71,6 +75,7 @@ void PrintJob::Fail(PrintError error) {
 
 void PrintJob::End() {
     turn_.stop();
+    device_.reset();
     frame_.SetStatusPanel(QString());
     setParent(nullptr);
     deleteLater();

@@ -246,10 +246,27 @@ TEST_F(SpellRunTest, WhatChangedUnderTheCheckIsNotWrittenOver) {
     frame.SetText(u"the teh fox"_s);
     frame.Start();
     frame.WaitForQuestion();
-    frame.Box().SetText(u"something else altogether"_s);
+    frame.Box().SetText(u"quite another text"_s);
     frame.Give({"cmdChange", "the"});
+    // The piece is taken anew, of the length that the run began with.
+    frame.Give({"cmdCancel"});
     frame.WaitForEnd();
-    EXPECT_EQ(frame.Box().Text(), u"something else altogether"_s);
+    EXPECT_EQ(frame.Found(), u"4:teh 0:quite"_s);
+    EXPECT_EQ(frame.Box().Text(), u"quite another text"_s);
+}
+
+TEST_F(SpellRunTest, KeysTypedBeforeTheFirstQuestionAreNotLost) {
+    frame.SetText(u"the quick brown fox "_s.repeated(50'000) + u"teh"_s);
+    frame.Start();
+    ASSERT_FALSE(frame.Asking());
+    frame.Box().SetSelStart(0);
+    QTest::keyClicks(&frame.Box(), u"a "_s);
+    frame.WaitForQuestion();
+    EXPECT_TRUE(frame.Box().Text().startsWith(u"a the quick"_s));
+    // The run has the length that it began with: the end of the text lies behind it now.
+    EXPECT_EQ(frame.found.last(), u"1000002:t"_s);
+    frame.Give({"cmdCancel"});
+    frame.WaitForEnd();
 }
 
 TEST_F(SpellRunTest, ASecondRunDoesNotStartWithinOne) {

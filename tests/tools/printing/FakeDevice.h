@@ -18,7 +18,7 @@ struct PrintRecord {
 class FakeDevice final : public PrintDevice {
   public:
     explicit FakeDevice(PrintRecord& record) : record_(record) {}
-    ~FakeDevice() override { painter_.end(); }
+    ~FakeDevice() override { Leave(); }
 
     QSizeF Paper() const override { return {5760, 4320}; }
     QPointF Offset() const override { return {720, 360}; }
@@ -35,7 +35,7 @@ class FakeDevice final : public PrintDevice {
     }
     bool Close() override { return Call("close"); }
     void Abort() override {
-        painter_.end();
+        Leave();
         Call("abort");
     }
 
@@ -52,8 +52,12 @@ class FakeDevice final : public PrintDevice {
         page_.fill(Qt::white);
         return painter_.begin(&page_);
     }
+    void Leave() {
+        if (painter_.isActive())
+            painter_.end();
+    }
     void Keep() {
-        painter_.end();
+        Leave();
         record_.pages.push_back(page_);
     }
 

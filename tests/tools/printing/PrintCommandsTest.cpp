@@ -233,6 +233,7 @@ TEST_F(PrintTest, AFrameThatGoesEndsThePrint) {
     other.reset();
     QCoreApplication::processEvents();
     EXPECT_EQ(record.pages.size(), 2u);
+    EXPECT_TRUE(Calls().endsWith(u" abort"_s));
 }
 
 TEST_F(PrintTest, WithoutAPrinterAPdfFileIsAskedFor) {
