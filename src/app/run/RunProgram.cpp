@@ -6,7 +6,7 @@
 #include "app/run/SingleInstance.h"
 #include "app/run/Startup.h"
 #include "app/window/frmTarnwick.h"
-#include "app/window/Icons.h"
+#include "dialogs/Icons.h"
 
 #include <QApplication>
 #include <QDeadlineTimer>

@@ -2,9 +2,9 @@
 
 #include "app/surface/CommandActions.h"
 #include "app/window/FlowLayout.h"
-#include "app/window/Icons.h"
 #include "app/window/KnownForms.h"
 #include "app/window/LeaveByEscape.h"
+#include "dialogs/Icons.h"
 #include "editor/frame/Frame.h"
 
 #include <algorithm>

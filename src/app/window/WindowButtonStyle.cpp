@@ -1,6 +1,6 @@
 #include "app/window/WindowButtonStyle.h"
 
-#include "app/window/Icons.h"
+#include "dialogs/Icons.h"
 
 QIcon WindowButtonStyle::standardIcon(StandardPixmap face, const QStyleOption* option,
                                       const QWidget* widget) const {

@@ -1,5 +1,5 @@
 // The icons: one a button, all different, readable at every size and on every palette.
-#include "app/window/Icons.h"
+#include "dialogs/Icons.h"
 
 #include "app/surface/Toolbar.h"
 #include "support/Text.h"
@@ -125,8 +125,11 @@ TEST_F(IconsTest, AccentsStandOutOnLightAndOnDark) {
 
 TEST_F(IconsTest, NoIconLiesUnused) {
     ToolbarIcon(QStringLiteral("new"));
-    QStringList wanted{QStringLiteral("tarnwick.svg"), QStringLiteral("window-close.svg"),
-                       QStringLiteral("window-minimise.svg"), QStringLiteral("window-restore.svg")};
+    QStringList wanted{QStringLiteral("tarnwick.svg"),      QStringLiteral("tree-files.svg"),
+                       QStringLiteral("tree-ftp.svg"),      QStringLiteral("tree-mail.svg"),
+                       QStringLiteral("tree-page.svg"),     QStringLiteral("tree-web.svg"),
+                       QStringLiteral("window-close.svg"),  QStringLiteral("window-minimise.svg"),
+                       QStringLiteral("window-restore.svg")};
     for (const ToolbarRow& row : ToolbarTable())
         wanted << QString::fromLatin1(row.key) + QStringLiteral(".svg");
     QStringList there = QDir(QStringLiteral(":/icons")).entryList(QDir::Files);

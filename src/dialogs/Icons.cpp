@@ -1,4 +1,4 @@
-#include "app/window/Icons.h"
+#include "dialogs/Icons.h"
 
 #include <QFile>
 #include <QGuiApplication>
@@ -17,12 +17,14 @@ static void LoadResources() {
 namespace {
 
 QColor LineColor(QIcon::Mode mode) {
+    if (mode == QIcon::Selected)
+        return QGuiApplication::palette().color(QPalette::Active, QPalette::HighlightedText);
     const auto group = mode == QIcon::Disabled ? QPalette::Disabled : QPalette::Active;
     return QGuiApplication::palette().color(group, QPalette::ButtonText);
 }
 
-// Draws an SVG whose lines are "currentColor". The accents in it keep their colour, but for a disabled
-// button.
+// Draws an SVG whose lines are "currentColor". The accents in it keep their colour, but for a disabled button
+// and on a selection, whose own colour may be theirs.
 class LineDrawing final : public QIconEngine {
   public:
     explicit LineDrawing(QString path) : path_(std::move(path)) {}
@@ -67,7 +69,7 @@ class LineDrawing final : public QIconEngine {
         renderer.setAspectRatioMode(Qt::KeepAspectRatio);
         QPainter painter(&pixmap);
         renderer.render(&painter);
-        if (mode == QIcon::Disabled) {
+        if (mode == QIcon::Disabled || mode == QIcon::Selected) {
             painter.setCompositionMode(QPainter::CompositionMode_SourceIn);
             painter.fillRect(pixmap.rect(), color);
         }
@@ -80,12 +82,15 @@ class LineDrawing final : public QIconEngine {
 
 } // namespace
 
-QIcon ToolbarIcon(const QString& key) {
+QIcon LineIcon(const QString& name) {
     LoadResources();
-    return QIcon(new LineDrawing(QStringLiteral(":/icons/") + key + QStringLiteral(".svg")));
+    return QIcon(new LineDrawing(QStringLiteral(":/icons/") + name + QStringLiteral(".svg")));
+}
+
+QIcon ToolbarIcon(const QString& key) {
+    return LineIcon(key);
 }
 
 QIcon ProgramIcon() {
-    LoadResources();
-    return QIcon(new LineDrawing(QStringLiteral(":/icons/tarnwick.svg")));
+    return LineIcon(QStringLiteral("tarnwick"));
 }
