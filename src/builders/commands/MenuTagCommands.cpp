@@ -7,6 +7,7 @@
 #include "editor/frame/Frame.h"
 #include "platform/desktop/Prompts.h"
 #include "platform/text/RichTextBox.h"
+#include "platform/values/Dates.h"
 
 #include <QDate>
 #include <QLocale>
@@ -148,10 +149,6 @@ void FillMenuTagCommands(Frame& frame) {
     commands.Set(QStringLiteral("mnuImageMap"), [&frame] { mnuImageMap_Click(frame); });
     commands.Set(QStringLiteral("mnuDef"), [&frame] { mnuDef_Click(frame); });
     commands.Set(QStringLiteral("mnuTimeDate"), [&frame] { mnuTimeDate_Click(frame); });
-}
-
-QString LongDate(const QDate& date, const QLocale& locale) {
-    return locale.toString(date, QStringLiteral("dddd, MMMM dd, yyyy"));
 }
 
 void WrapSelectionAsList(Frame& frame, const QString& open, const QString& close, bool ignoreCase) {

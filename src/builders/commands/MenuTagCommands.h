@@ -4,17 +4,11 @@
 #include <QString>
 
 class Frame;
-class QDate;
-class QLocale;
 
 /// Registers the wrappers, single tags, character entities and attributes of the Tags menu, with mnuImageMap,
 /// mnuDef and mnuTimeDate. Each of them writes through InsertTag under the case rule; with no document open
 /// it returns at once and asks nothing.
 void FillMenuTagCommands(Frame& frame);
-
-/// A date as mnuTimeDate writes it: the weekday and month in full, in a locale's words, the day in two digits
-/// and the year in four ("Sunday, March 05, 2023").
-QString LongDate(const QDate& date, const QLocale& locale);
 
 /// Turns the selection into a list: the opening tag and a line end in front, the closing tag behind, and
 /// "<LI>" behind each line end of the whole. Written in the colour at the caret, as it stands, without the

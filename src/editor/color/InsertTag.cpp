@@ -11,6 +11,7 @@
 #include "platform/store/Settings.h"
 #include "platform/text/RichTextBox.h"
 #include "platform/text/UndoAction.h"
+#include "platform/values/ReplaceAll.h"
 
 #include <utility>
 
@@ -45,11 +46,8 @@ WrittenTag InsertTag(Frame& frame, QString open, QString close, KeepCase keepCas
 
 QString ReplaceInSelection(Frame& frame, const QString& text, const QString& find, const QString& replacement,
                            Compare compare) {
-    QString result = text;
-    // An empty text would be found everywhere, for ever.
-    if (!find.isEmpty())
-        result.replace(find, replacement,
-                       compare == Compare::IgnoreCase ? Qt::CaseInsensitive : Qt::CaseSensitive);
+    const QString result = ReplaceAll(
+        text, find, replacement, compare == Compare::IgnoreCase ? Qt::CaseInsensitive : Qt::CaseSensitive);
     if (RichTextBox* txtInput = ActiveText(frame))
         txtInput->SetSelText(result);
     else

@@ -13,6 +13,10 @@ QString Forms::CaptionAt(int index) const {
     return form->windowTitle();
 }
 
+bool Forms::Holds(const QWidget* form) const {
+    return std::ranges::find(forms_, form) != forms_.end();
+}
+
 void Forms::Add(QWidget* form) {
     forms_.push_back(form);
     connect(form, &QObject::destroyed, this, [this, form] { std::erase(forms_, form); });
@@ -29,7 +33,7 @@ QWidget* Forms::Find(const QString& name) const {
 }
 
 void Forms::Unload(QWidget& form) {
-    if (std::ranges::find(forms_, &form) == forms_.end())
+    if (!Holds(&form))
         return;
     Q_EMIT Unloading(&form);
     form.hide();

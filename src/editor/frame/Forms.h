@@ -18,6 +18,8 @@ class Forms : public QObject {
     int Count() const { return static_cast<int>(forms_.size()); }
     /// The form at a place counted from 0.
     QWidget* At(int index) const { return forms_[static_cast<size_t>(index)]; }
+    /// Whether the list holds a form. It is only compared: one that is gone is not there.
+    bool Holds(const QWidget* form) const;
     /// A document's Caption, the window title of any other form.
     QString CaptionAt(int index) const;
     /// Puts a form at the list's end; it leaves by itself when it is destroyed.

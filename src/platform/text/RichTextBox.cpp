@@ -4,6 +4,7 @@
 #include "platform/text/RtfReader.h"
 #include "platform/text/RtfWriter.h"
 #include "platform/text/TextPrinter.h"
+#include "platform/text/TextRemoval.h"
 
 #include <algorithm>
 #include <QApplication>
@@ -163,6 +164,20 @@ QString RichTextBox::SelText() const {
 void RichTextBox::SetSelText(const QString& text) {
     const Settling settling(*this);
     editing_.ReplaceSelection(editing_.Held(text));
+}
+
+void RichTextBox::Remove(std::span<const CharRange> stretches) {
+    if (stretches.empty())
+        return;
+    const Settling settling(*this);
+    std::vector<ByteRange> gone = buffer_.FromChars(stretches);
+    const ByteRange around{gone.front().start, gone.back().end};
+    const StyledText whole{buffer_.InPlace(around).toByteArray(), colors_.StylesOf(around)};
+    for (ByteRange& stretch : gone)
+        stretch = {stretch.start - around.start, stretch.end - around.start};
+    const StyledText rest = Without(whole, gone);
+    editing_.Replace(around, rest.text, rest.styles);
+    colors_.ForgetTyping();
 }
 
 ColorNumber RichTextBox::SelColor() const {

@@ -13,6 +13,7 @@
 #include <optional>
 #include <Qsci/qsciscintillabase.h>
 #include <QString>
+#include <span>
 #include <utility>
 
 class QPainter;
@@ -85,6 +86,9 @@ class RichTextBox : public QsciScintillaBase, public AccessibleText {
     /// behind the new text with nothing selected.
     QString SelText() const;
     void SetSelText(const QString& text);
+    /// Takes many stretches out of the text in one step; what stays keeps its colours. They come in their
+    /// order and don't overlap. The caret stands where the last one stood.
+    void Remove(std::span<const CharRange> stretches);
     /// The colour of the selection's first character, or with nothing selected the colour that typed text
     /// gets. Assigning colours the selection, or with nothing selected what is typed or assigned next there,
     /// until the caret moves away. Undo counts no colouring, but coloured text has changed.

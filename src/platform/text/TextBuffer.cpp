@@ -38,6 +38,28 @@ qsizetype ByteOfUnit(QByteArrayView utf8, qsizetype units) {
     return utf8.size();
 }
 
+/// Goes through a text from left to right, and tells where its characters lie.
+class CharacterWalk {
+  public:
+    explicit CharacterWalk(QByteArrayView utf8) : utf8_(utf8) {}
+
+    /// The byte of a character that lies no further left than the last one asked for; the text's end for one
+    /// behind it.
+    int ByteOf(int character) {
+        while (character_ < character && byte_ < utf8_.size()) {
+            const auto lead = static_cast<unsigned char>(utf8_[byte_]);
+            byte_ += lead < 0x80 ? 1 : lead < 0xe0 ? 2 : lead < 0xf0 ? 3 : 4;
+            character_ += lead < 0xf0 ? 1 : 2;
+        }
+        return static_cast<int>(byte_);
+    }
+
+  private:
+    QByteArrayView utf8_;
+    qsizetype byte_ = 0;
+    int character_ = 0;
+};
+
 } // namespace
 
 TextBuffer::TextBuffer(const QsciScintillaBase& control) : control_(control) {}
@@ -103,6 +125,17 @@ QString TextBuffer::TextOfUnits(qint64 start, qint64 end) const {
     const int first = CharFromByte(range.start);
     const qint64 from = std::max<qint64>(start, 0);
     return text.mid(from - first, std::max<qint64>(end - from, 0));
+}
+
+std::vector<ByteRange> TextBuffer::FromChars(std::span<const CharRange> stretches) const {
+    std::vector<ByteRange> ranges;
+    ranges.reserve(stretches.size());
+    CharacterWalk walk(InPlace(Whole()));
+    for (const CharRange& stretch : stretches) {
+        const int start = walk.ByteOf(stretch.start);
+        ranges.push_back({start, walk.ByteOf(stretch.end)});
+    }
+    return ranges;
 }
 
 ByteRange TextBuffer::CharacterAt(int byte) const {

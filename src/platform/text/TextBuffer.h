@@ -3,6 +3,8 @@
 
 #include <QByteArrayView>
 #include <QString>
+#include <span>
+#include <vector>
 
 class QsciScintillaBase;
 
@@ -13,6 +15,14 @@ struct ByteRange {
     int Length() const { return end - start; }
     bool Empty() const { return start == end; }
     bool operator==(const ByteRange&) const = default;
+};
+
+/// A stretch of the text, in characters.
+struct CharRange {
+    int start;
+    int end;
+    int Length() const { return end - start; }
+    bool operator==(const CharRange&) const = default;
 };
 
 /// The one place that knows how characters and bytes correspond. Characters are counted from 0 as a QString
@@ -36,6 +46,8 @@ class TextBuffer {
     /// The bytes of the characters from start to end, both cut to what there is; one of which only one unit
     /// lies inside is whole.
     ByteRange FromChars(qint64 start, qint64 end) const;
+    /// The bytes of many stretches, which come in their order; one walk however many there are.
+    std::vector<ByteRange> FromChars(std::span<const CharRange> stretches) const;
     /// The bytes of the character that starts at a byte, and of the one that ends there; empty where there is
     /// none. A CR and its LF come together.
     ByteRange CharacterAt(int byte) const;

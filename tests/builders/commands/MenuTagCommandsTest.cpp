@@ -2,6 +2,7 @@
 #include "builders/commands/MenuTagCommands.h"
 
 #include "builders/lists/frmBulletList.h"
+#include "platform/values/Dates.h"
 #include "support/CommandTest.h"
 
 #include <gmock/gmock.h>
@@ -241,12 +242,6 @@ TEST_F(MenuTagCommands, DefinitionListOfNothingShowsTheListsDialog) {
     EXPECT_FALSE(dialog->isModal());
     EXPECT_EQ(dialog->Tag(), Latin("D"));
     EXPECT_EQ(frame.Box().Text(), Latin("ab"));
-}
-
-TEST(LongDate, TwoDigitsForTheDayAndTheLocalesWords) {
-    EXPECT_EQ(LongDate(QDate(2023, 3, 5), QLocale::c()), Latin("Sunday, March 05, 2023"));
-    EXPECT_EQ(LongDate(QDate(1999, 12, 31), QLocale::c()), Latin("Friday, December 31, 1999"));
-    EXPECT_EQ(LongDate(QDate(2023, 3, 5), QLocale(QLocale::German)), Latin("Sonntag, M\xE4rz 05, 2023"));
 }
 
 TEST_F(MenuTagCommands, TheDateIsTodays) {

@@ -34,6 +34,19 @@ TEST(Forms, AFormHasTheNameOfItsClassAndExistsOnce) {
     delete forms.At(0);
 }
 
+TEST(Forms, HoldsAFormUntilItIsUnloadedOrGone) {
+    Forms forms;
+    frmOne& one = forms.Load<frmOne>();
+    const frmTwo* two = &forms.Load<frmTwo>();
+    EXPECT_TRUE(forms.Holds(&one));
+    EXPECT_TRUE(forms.Holds(two));
+    forms.Unload(one);
+    EXPECT_FALSE(forms.Holds(&one));
+    delete two;
+    EXPECT_FALSE(forms.Holds(two));
+    EXPECT_FALSE(forms.Holds(nullptr));
+}
+
 TEST(Forms, AFormIsFoundByItsTypeAndByItsName) {
     Forms forms;
     EXPECT_EQ(forms.Find<frmOne>(), nullptr);
