@@ -3,5 +3,5 @@
 
 #include "editor/frame/FormTable.h"
 
-/// The dialogs of the site tools, and those that the program's end names already.
+/// The dialogs of the site tools.
 std::span<const FormRow> ToolForms();

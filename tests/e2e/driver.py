@@ -219,6 +219,11 @@ class Desk:
         text = widget.queryText()
         return text.getText(0, text.characterCount)
 
+    def widget_text(self, name):
+        """What a text field of a name holds."""
+        text = self.widget(name, "text").queryText()
+        return text.getText(0, text.characterCount)
+
     def widgets(self, name, role):
         """All showing widgets of a name and role name."""
         import pyatspi

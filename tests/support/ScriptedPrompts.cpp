@@ -42,8 +42,8 @@ MsgAnswer ScriptedPrompts::MsgBox(QWidget* owner, const QString& text, MsgButton
 }
 
 QString ScriptedPrompts::InputBox(QWidget* owner, const QString& prompt, const QString& title,
-                                  const QString&) {
-    asked.push_back({Asked::Input, prompt, title, MsgButtons::OKCancel, MsgIcon::None, {}, owner});
+                                  const QString& standard) {
+    asked.push_back({Asked::Input, prompt, title, MsgButtons::OKCancel, MsgIcon::None, {}, owner, standard});
     return Next(inputAnswers, "input box", prompt).value_or(QString());
 }
 

@@ -16,6 +16,7 @@ struct Asked {
     MsgIcon icon = MsgIcon::None;
     FileRequest request;
     QWidget* owner = nullptr;
+    QString standard = {}; ///< what an input box holds at first
 };
 
 /// Answers come from queues, in order; a prompt with no answer left fails the test and is answered as Cancel

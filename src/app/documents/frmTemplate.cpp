@@ -4,12 +4,10 @@
 #include "app/documents/EncodingNote.h"
 #include "app/documents/WordWrap.h"
 #include "app/run/ProgramState.h"
-#include "app/window/KnownForms.h"
 #include "app/window/WindowState.h"
 #include "dialogs/Icons.h"
 #include "editor/autofill/frmDropDown.h"
 #include "editor/color/WriteColoredText.h"
-#include "editor/frame/Commands.h"
 #include "editor/frame/EditorFont.h"
 #include "editor/frame/EditorOptions.h"
 #include "editor/frame/Forms.h"
@@ -21,6 +19,7 @@
 #include "platform/text/RichTextBox.h"
 #include "platform/values/Twips.h"
 #include "platform/values/Values.h"
+#include "tools/timer/frmTime.h"
 
 #include <QAction>
 #include <QCloseEvent>
@@ -91,7 +90,7 @@ void frmTemplate::ReadSettings() {
         modes_->LoadControls();
     SetWordWrap(*txtInput_, store.ReadFlag(Keys::WordWrap));
     if (store.ReadFlag(Keys::UseWebTimer))
-        frame_.Commands().Run(QString::fromLatin1(WebTimerForm));
+        ShowWebTimer(frame_);
     Form_Resize();
     if (const int background = frame_.State<EditorOptions>().Background2; background > 0)
         txtInput_->SetBackColor(background);
@@ -154,8 +153,7 @@ bool frmTemplate::Form_QueryUnload() {
     auto& program = frame_.State<ProgramState>();
     --program.DocumentCount;
     program.TemplateWindowState = WindowStateDigit(*this);
-    if (QWidget* timer = frame_.LoadedForms().Find(QString::fromLatin1(WebTimerForm)))
-        frame_.LoadedForms().Unload(*timer);
+    frame_.LoadedForms().Unload<frmTime>();
     return true;
 }
 

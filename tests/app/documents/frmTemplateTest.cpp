@@ -7,6 +7,7 @@
 #include "editor/autofill/frmDropDown.h"
 #include "editor/views/Modes.h"
 #include "editor/views/WebControls.h"
+#include "tools/timer/frmTime.h"
 
 #include <QDialog>
 #include <QMdiArea>
@@ -252,14 +253,20 @@ TEST_F(frmTemplateOf, WindowTakesTheStateOfTheTemplate) {
 }
 
 TEST_F(frmTemplateOf, TimerComesUpOnlyIfUsed) {
-    int shown = 0;
     Fresh();
-    run->frame->Commands().Set(QStringLiteral("frmTime"), [&shown] { ++shown; });
-    run->New();
-    EXPECT_EQ(shown, 0);
+    Forms& forms = run->frame->LoadedForms();
+    EXPECT_EQ(forms.Find<frmTime>(), nullptr);
     run->store.Write(Keys::UseWebTimer, QStringLiteral("1"));
     run->New();
-    EXPECT_EQ(shown, 1);
+    const frmTime* timer = forms.Find<frmTime>();
+    ASSERT_NE(timer, nullptr);
+    EXPECT_TRUE(timer->isVisible());
+    EXPECT_EQ(timer->parentWidget(), run->frame.get());
+    // A later document finds it up; the keys are the document's.
+    run->New();
+    EXPECT_EQ(forms.Find<frmTime>(), timer);
+    EXPECT_EQ(run->frame->ActiveForm(), static_cast<Document*>(&run->Active()));
+    EXPECT_TRUE(run->frame->isActiveWindow());
 }
 
 TEST_F(frmTemplateOf, TextCoversTheInsideAndItsBorderLiesOutside) {
@@ -382,7 +389,7 @@ TEST_F(frmTemplateOf, CancelChangesNothing) {
     frmTemplate& document = run->Active();
     document.SetModified(true);
     run->Program().TemplateWindowState = QStringLiteral("7");
-    run->ShowStandIn("frmTime");
+    run->frame->LoadedForms().Load<frmTime>(*run->frame);
     run->prompts.messageAnswers = {MsgAnswer::Cancel};
     EXPECT_FALSE(document.Unload());
     EXPECT_EQ(run->frame->ActiveForm(), static_cast<Document*>(&document));
@@ -390,7 +397,8 @@ TEST_F(frmTemplateOf, CancelChangesNothing) {
     EXPECT_EQ(run->frame->TabStrip2().count(), 1);
     EXPECT_EQ(run->Program().DocumentCount, 2);
     EXPECT_EQ(run->Program().TemplateWindowState, QStringLiteral("7"));
-    EXPECT_NE(run->frame->LoadedForms().Find(QStringLiteral("frmTime")), nullptr);
+    EXPECT_NE(run->frame->LoadedForms().Find<frmTime>(), nullptr);
+    EXPECT_EQ(Read(Keys::DateList), QString());
     EXPECT_TRUE(document.Modified());
 }
 
@@ -398,19 +406,21 @@ TEST_F(frmTemplateOf, ClosingTakesListAndTimerDown) {
     frmTemplate& document = Fresh();
     Forms& forms = run->frame->LoadedForms();
     forms.Show<frmDropDown>(*run->frame);
-    run->ShowStandIn("frmTime");
+    forms.Load<frmTime>(*run->frame);
     EXPECT_TRUE(document.Unload());
     EXPECT_EQ(forms.Find<frmDropDown>(), nullptr);
-    EXPECT_EQ(forms.Find(QStringLiteral("frmTime")), nullptr);
+    EXPECT_EQ(forms.Find<frmTime>(), nullptr);
 }
 
 TEST_F(frmTemplateOf, ClosingAnyDocumentTakesTheTimerDown) {
     frmTemplate& behind = Fresh();
     run->New();
     Forms& forms = run->frame->LoadedForms();
-    run->ShowStandIn("frmTime");
+    forms.Load<frmTime>(*run->frame);
     EXPECT_TRUE(behind.Unload());
-    EXPECT_EQ(forms.Find(QStringLiteral("frmTime")), nullptr);
+    EXPECT_EQ(forms.Find<frmTime>(), nullptr);
+    run->store.Sync();
+    EXPECT_TRUE(Read(Keys::DateList).endsWith(QStringLiteral(" - 0 Hrs 0 Mins 0 Secs")));
     EXPECT_EQ(run->Program().DocumentCount, 1);
 }
 

@@ -100,6 +100,21 @@ TEST_F(IconsTest, ADisabledOneIsAllOfThePalettesGrey) {
         }
 }
 
+TEST_F(IconsTest, OnASelectionAllOfItIsOfTheColorOfSelectedText) {
+    QPalette changed = QGuiApplication::palette();
+    changed.setColor(QPalette::HighlightedText, Qt::white);
+    QGuiApplication::setPalette(changed);
+    const QImage image = Drawn(LineIcon(QStringLiteral("tree-web")), 48, QIcon::Selected);
+    EXPECT_GT(Inked(image), 0.08);
+    for (int y = 0; y < 48; ++y)
+        for (int x = 0; x < 48; ++x) {
+            const QColor pixel = image.pixelColor(x, y);
+            if (pixel.alpha() == 255) {
+                EXPECT_EQ(pixel, QColor(Qt::white)) << x << "," << y;
+            }
+        }
+}
+
 // 3 to 1 is what guidelines ask of graphics that carry a meaning.
 TEST_F(IconsTest, AccentsStandOutOnLightAndOnDark) {
     const QRegularExpression colour(QStringLiteral("#[0-9a-f]{6}"));
