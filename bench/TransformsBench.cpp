@@ -1,6 +1,7 @@
 // The commands that rewrite a whole document, by its length: none works line by line or tag by tag in the
 // control.
 #include "support/Files.h"
+#include "support/FreshUser.h"
 #include "support/TestFrame.h"
 #include "tools/transforms/TransformCommands.h"
 #include "UntilIdle.h"
@@ -9,10 +10,11 @@
 
 namespace {
 
-/// 47,000 tags in a megabyte, in the colours of a page.
+/// 56,000 tags in a megabyte, in the colours of a page.
 QString PageOfTags(qsizetype size) {
-    const QString row = QStringLiteral("<TR><TD>cell of a row</TD><TD>next</TD></TR>\r\n"
-                                       "<!-- a remark about it --><P>and words<BR>\r\n");
+    const QString row =
+        QStringLiteral("<TR><TD>what stands in the first cell of a row</TD><TD>and in the next</TD></TR>\r\n"
+                       "<!-- a remark about it --><P>and some words of a line, as pages have them<BR>\r\n");
     return row.repeated(size / row.size());
 }
 
