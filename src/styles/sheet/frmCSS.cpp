@@ -62,6 +62,9 @@ void frmCSS::WireToolbar() {
     connect(ui_->tb_Add, &QAction::triggered, elements_, &ElementList::Add);
     connect(ui_->tb_Rename, &QAction::triggered, elements_, &ElementList::Rename);
     connect(ui_->tb_Remove, &QAction::triggered, elements_, &ElementList::Remove);
+    // What shows the buttons that a narrow form has no room for.
+    if (auto* more = ui_->Toolbar1->findChild<QWidget*>(QStringLiteral("qt_toolbar_ext_button")))
+        more->setAccessibleName(tr("More buttons"));
     // Behind the last field comes the first button, and the lists behind the last one.
     QWidget* before = ui_->txtCSS;
     for (QAction* action : ui_->Toolbar1->actions()) {

@@ -4,12 +4,13 @@
 #include "app/run/frmSplash.h"
 #include "app/surface/frmTools.h"
 #include "app/surface/UserButtons.h"
-#include "app/window/KnownForms.h"
 #include "app/window/StatusPanels.h"
+#include "builders/commands/BuilderForms.h"
 #include "builders/tables/frmGridInput.h"
 #include "builders/tables/frmTable.h"
 #include "editor/autofill/frmDropDown.h"
 #include "editor/spelling/frmSpell.h"
+#include "styles/StyleForms.h"
 #include "support/SourceFolder.h"
 
 #include <QAccessible>
@@ -91,9 +92,10 @@ class AccessibleNames : public FrameTest {
     Forms& LoadedForms() { return run.frame->LoadedForms(); }
     /// Every form there is, loaded.
     void LoadAll() {
-        for (const FormRow& row : KnownForms())
-            if (row.reach.show)
-                row.reach.show(*run.frame);
+        for (const auto& forms : {BuilderForms(), StyleForms()})
+            for (const FormRow& row : forms)
+                if (row.reach.show)
+                    row.reach.show(*run.frame);
         LoadedForms().Load<frmGridInput>(*run.frame, LoadedForms().Load<frmTable>(*run.frame));
         LoadedForms().Load<frmExternal>(*run.frame);
         LoadedForms().Load<frmTools>(*run.frame, UserButton());
