@@ -4,6 +4,7 @@
 #include "platform/values/Values.h"
 
 #include <algorithm>
+#include <QList>
 
 namespace {
 
