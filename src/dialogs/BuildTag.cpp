@@ -1,8 +1,12 @@
 #include "dialogs/BuildTag.h"
 
 QString BuildTag(const QString& opening, const QVector<TagPart>& parts, TagCase tagCase) {
-    QString tag = InCase(opening, tagCase);
+    return InCase(opening, tagCase) + BuildAttributes(parts, tagCase) + u'>';
+}
+
+QString BuildAttributes(const QVector<TagPart>& parts, TagCase tagCase) {
+    QString text;
     for (const TagPart& part : parts)
-        tag += BuildAttribute(part, tagCase).text;
-    return tag + u'>';
+        text += BuildAttribute(part, tagCase).text;
+    return text;
 }

@@ -114,6 +114,8 @@ const QStringList designedIdle = {
     u"tb_copy"_s,
     u"tb_embed"_s,
     u"tb_find"_s,
+    u"tb_form"_s,
+    u"tb_frame"_s,
     u"tb_ftp"_s,
     u"tb_hr"_s,
     u"tb_image"_s,
@@ -190,6 +192,8 @@ TEST_F(OneUndoStep, TheOKOfEveryDialog) {
     ExpectDialog("tb_rectangle", "frmSpacer", "txtWidth");
     ExpectDialog("tb_table", "frmTable", "txtCaption", "cmdOk");
     ExpectDialog("tb_Layer", "frmDHTML", "txtDivName", "Command1");
+    ExpectDialog("tb_form", "frmForm", "txtAction", "cmdApply");
+    ExpectDialog("tb_frame", "VisFrame", "txtSizes_0");
     Settings().WriteFlag(Keys::ColoredTags, true);
     Put(withCaret);
     for (const char* list : {"mnuDef", "tb_dots", "tb_onetwothree"}) {

@@ -1,5 +1,6 @@
 // The buttons of all tag dialogs that pick a file into a field: the same rules in each.
 #include "builders/DialogTest.h"
+#include "builders/frames/frmFrame.h"
 #include "dialogs/DialogState.h"
 #include "dialogs/FileDialogs.h"
 #include "dialogs/TagRows.h"
@@ -8,7 +9,7 @@
 namespace {
 
 struct BrowseRow {
-    const char16_t* entry;
+    const char16_t* entry; ///< empty for a form that no command shows
     const char16_t* form;
     const char16_t* button;
     const char16_t* field;
@@ -31,6 +32,7 @@ const BrowseRow rows[] = {
     {u"mnuLink", u"frmLinks", u"cmdOpen", u"txtURL", FileFilter::Document, 2, false, true, true, u"../../",
      true},
     {u"mnuEmbed", u"frmEmbed", u"cmdGetFle", u"txtURL", FileFilter::AnyFile, 2},
+    {u"", u"frmFrame", u"cmdOpen", u"txtSrc", FileFilter::Document, 2},
 };
 
 class BrowseButtonsTest : public DialogTest, public testing::WithParamInterface<BrowseRow> {
@@ -38,7 +40,10 @@ class BrowseButtonsTest : public DialogTest, public testing::WithParamInterface<
     void SetUp() override {
         DialogTest::SetUp();
         frame.active->caption = T(u"C:\\site\\pages\\a.htm");
-        Open(T(GetParam().entry), T(GetParam().form));
+        if (*GetParam().entry)
+            Open(T(GetParam().entry), T(GetParam().form));
+        else
+            form = &frame.LoadedForms().Show<frmFrame>(frame);
         Fill(Target(), T(u"old"));
     }
     QString Target() const { return T(GetParam().field); }

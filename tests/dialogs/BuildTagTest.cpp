@@ -17,3 +17,11 @@ TEST(BuildTag, PartsInOrderEmptyOnesLeftOut) {
               QStringLiteral("<img alt=\"A \"b\" C\" width=10 ismap>"));
     EXPECT_EQ(BuildTag(QStringLiteral("<HR"), {}, TagCase::Lower), QStringLiteral("<hr>"));
 }
+
+TEST(BuildTag, PartsAloneHaveNeitherStartNorEnd) {
+    const QVector<TagPart> parts{TagPart::Quoted(QStringLiteral("NAME"), QStringLiteral("A")),
+                                 TagPart::Quoted(QStringLiteral("VALUE"), QString())};
+    EXPECT_EQ(BuildAttributes(parts, TagCase::AsWritten), QStringLiteral(" NAME=\"A\""));
+    EXPECT_EQ(BuildAttributes(parts, TagCase::Lower), QStringLiteral(" name=\"A\""));
+    EXPECT_EQ(BuildAttributes({}, TagCase::Lower), QString());
+}

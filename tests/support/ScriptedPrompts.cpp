@@ -7,6 +7,10 @@ namespace {
 
 template <typename T> std::optional<T> Next(std::deque<T>& answers, const char* what, const QString& text) {
     if (answers.empty()) {
+        // Whoever asks until an answer suits would ask for ever.
+        static int unanswered = 0;
+        if (++unanswered > 1000)
+            qFatal("asked in vain for a %s: %s", what, qPrintable(text));
         ADD_FAILURE() << "unexpected " << what << ": " << text.toStdString();
         return std::nullopt;
     }
@@ -35,6 +39,8 @@ FileAnswer ScriptedPrompts::Picked(const QString& path) {
 MsgAnswer ScriptedPrompts::MsgBox(QWidget* owner, const QString& text, MsgButtons buttons, MsgIcon icon,
                                   const QString& title) {
     asked.push_back({Asked::Message, text, title, buttons, icon, {}, owner});
+    if (whileAsked)
+        whileAsked();
     if (buttons == MsgButtons::OK)
         return MsgAnswer::OK;
     const MsgAnswer refusal = buttons == MsgButtons::YesNo ? MsgAnswer::No : MsgAnswer::Cancel;
@@ -44,6 +50,8 @@ MsgAnswer ScriptedPrompts::MsgBox(QWidget* owner, const QString& text, MsgButton
 QString ScriptedPrompts::InputBox(QWidget* owner, const QString& prompt, const QString& title,
                                   const QString& standard) {
     asked.push_back({Asked::Input, prompt, title, MsgButtons::OKCancel, MsgIcon::None, {}, owner, standard});
+    if (whileAsked)
+        whileAsked();
     return Next(inputAnswers, "input box", prompt).value_or(QString());
 }
 

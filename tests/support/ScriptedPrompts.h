@@ -30,6 +30,8 @@ class ScriptedPrompts final : public Prompts {
     std::deque<FileAnswer> saveAnswers;
     /// Called while a file dialog is up, before it answers: where a person would click about in the list.
     std::function<void(const FileRequest&)> whileOpen;
+    /// Called while a message or input box is up, before it answers.
+    std::function<void()> whileAsked;
     /// Custom colours that the next colour prompt hands back.
     QByteArray customColorsLeft;
     QByteArray customColorsSeen;

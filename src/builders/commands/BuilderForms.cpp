@@ -4,6 +4,9 @@
 #include "builders/applets/frmEmbed.h"
 #include "builders/applets/frmJava.h"
 #include "builders/applets/frmParam.h"
+#include "builders/forms/frmForm.h"
+#include "builders/frames/frmFrame.h"
+#include "builders/frames/VisFrame.h"
 #include "builders/links/frmGraphicLink.h"
 #include "builders/links/frmLinks.h"
 #include "builders/links/ImageTag.h"
@@ -49,6 +52,8 @@ std::span<const FormRow> BuilderForms() {
         FormOf<frmEmbed>(
             {.entry = {"mnuEmbed"}, .button = {"embed"}, .edits = {"embed", 3, EditEmbed}, .unload = 2}),
         FormOf<frmFont>({.button = {"abc"}, .unload = 3}),
+        FormOf<frmForm>({.button = {"form"}, .unload = 4}),
+        FormOf<frmFrame>({.unload = 5}),
         FormOf<frmGraphicLink>(
             {.entry = {"mnuImage"}, .button = {"image"}, .edits = {"img ", 1, EditImage}, .unload = 6}),
         FormOf<frmHRInput>({.entry = {"mnuHR"}, .button = {"hr"}, .unload = 7}),
@@ -61,10 +66,7 @@ std::span<const FormRow> BuilderForms() {
         FormOf<frmGridInput>({.unload = 19}),
         FormOf<frmImage>({.unload = 20}),
         FormOf<frmMulti>({.button = {"split"}, .unload = 21}),
-        // Still to come; their turn at the end is settled.
-        {"frmForm", {.unload = 4}},
-        {"frmFrame", {.unload = 5}},
-        {"VisFrame", {.unload = 23}},
+        FormOf<VisFrame>({.button = {"frame"}, .unload = 23}),
     };
     return forms;
 }

@@ -1,0 +1,37 @@
+#include "builders/frames/FrameButton.h"
+
+#include <algorithm>
+#include <QFontInfo>
+#include <QKeySequence>
+#include <QStyleOptionButton>
+#include <QStylePainter>
+
+void FrameButton::SetCaption(const QString& caption) {
+    setText(caption);
+    // A button makes a key of what follows an "&", and takes the "&" out of its name.
+    setShortcut(QKeySequence());
+    setAccessibleName(caption);
+    setToolTip(caption);
+}
+
+QFont FrameButton::FittingFont() const {
+    constexpr int edges = 5;
+    constexpr int smallest = 6;
+    QFont fitting = font();
+    fitting.setPixelSize(std::clamp(height() - edges, smallest, QFontInfo(font()).pixelSize()));
+    return fitting;
+}
+
+void FrameButton::paintEvent(QPaintEvent* /*event*/) {
+    constexpr int margin = 3;
+    QStyleOptionButton option;
+    initStyleOption(&option);
+    option.text.clear();
+    QStylePainter painter(this);
+    painter.drawControl(QStyle::CE_PushButton, option);
+    painter.setFont(FittingFont());
+    const QRect inside = rect().adjusted(margin, 0, -margin, 0);
+    const QString shown = painter.fontMetrics().elidedText(text(), Qt::ElideRight, inside.width());
+    style()->drawItemText(&painter, inside, Qt::AlignCenter | Qt::TextSingleLine, option.palette, isEnabled(),
+                          shown, QPalette::ButtonText);
+}

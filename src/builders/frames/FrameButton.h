@@ -1,0 +1,25 @@
+// A frame in the picture of the page.
+#pragma once
+
+#include <QPushButton>
+
+/// Its caption may be any text: an "&" stands for itself, and what does not fit is told by the tool tip.
+class FrameButton final : public QPushButton {
+    Q_OBJECT
+    Q_PROPERTY(QString Tag MEMBER Tag)
+
+  public:
+    using QPushButton::QPushButton;
+
+    void SetCaption(const QString& caption);
+
+    /// The frame's tag; empty for one that was never edited.
+    QString Tag;
+
+  protected:
+    void paintEvent(QPaintEvent* event) override;
+
+  private:
+    /// The button's font, smaller where the button is lower than a line of it.
+    QFont FittingFont() const;
+};
