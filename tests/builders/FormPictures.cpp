@@ -1,5 +1,6 @@
 // Pictures of every tag dialog for the eye: set TARNWICK_PICTURES to a folder and run FormPictures.*.
 #include "builders/DialogTest.h"
+#include "builders/frames/frmFrame.h"
 #include "builders/lists/frmBulletList.h"
 #include "builders/tables/frmTable.h"
 #include "builders/tables/Grid.h"
@@ -8,6 +9,8 @@
 #include "support/Site.h"
 #include <QDir>
 #include <QStyleFactory>
+#include <QTabBar>
+#include <QTimer>
 
 namespace {
 
@@ -33,10 +36,39 @@ QPalette Dark() {
 class FormPictures : public DialogTest {
   protected:
     void ShowTable(const Site& site);
-    void Take(const QString& folder, const QString& name) {
+    void Take(const QString& folder, const QString& name, const QString& page = QString()) {
         form = frame.LoadedForms().Find(name);
         ASSERT_TRUE(QTest::qWaitForWindowExposed(form));
-        EXPECT_TRUE(form->grab().save(QDir(folder).filePath(name + QStringLiteral(".png"))));
+        EXPECT_TRUE(form->grab().save(QDir(folder).filePath(name + page + QStringLiteral(".png"))));
+    }
+    /// A form in each of its states that look different.
+    void TakeForm(const QString& folder) {
+        const QString name = QStringLiteral("frmForm");
+        form = frame.LoadedForms().Find(name);
+        for (const QString& item : {QStringLiteral("Small"), QStringLiteral("Large")}) {
+            Fill(QStringLiteral("txtList"), item);
+            Control<QAbstractButton>(QStringLiteral("cmdAddItem")).click();
+        }
+        auto& tabs = Control<QTabBar>(QStringLiteral("TabStrip"));
+        for (int i = 0; i < tabs.count(); ++i) {
+            tabs.setCurrentIndex(i);
+            Take(folder, name, tabs.tabText(i));
+        }
+    }
+    void TakeFrames(const QString& folder) {
+        const QString name = QStringLiteral("VisFrame");
+        form = frame.LoadedForms().Find(name);
+        for (const QString& count : {QStringLiteral("15"), QStringLiteral("3")}) {
+            frame.prompts.inputAnswers = {count};
+            Press(count == QStringLiteral("3") ? QStringLiteral("cmdAcross") : QStringLiteral("cmdUpDown"));
+            QMetaObject::invokeMethod(form->findChild<QTimer*>(QStringLiteral("Timer1")), "timeout");
+            Take(folder, name, count);
+            QTest::keyClick(form, Qt::Key_Escape);
+            frame.Commands().Run(QStringLiteral("tb_frame"));
+            form = frame.LoadedForms().Find(name);
+        }
+        frame.LoadedForms().Show<frmFrame>(frame);
+        Take(folder, QStringLiteral("frmFrame"));
     }
 };
 
@@ -93,6 +125,8 @@ TEST_F(FormPictures, OfEveryDialog) {
         if (name != QStringLiteral("frmTemplate"))
             Take(folder, name);
     }
+    TakeForm(folder);
+    TakeFrames(folder);
 }
 
 } // namespace

@@ -19,6 +19,13 @@ def show_frames(desk):
     desk.wait_active("Frames")
 
 
+def answer(desk, text):
+    """Types into the box that asks for the count."""
+    desk.widget("Enter number of Frames.", "label")
+    desk.type(text)
+    desk.key("Return")
+
+
 def pick_source(desk, name):
     desk.click_widget("Find File", "push button")
     desk.wait_active("Open")
@@ -38,8 +45,7 @@ def test_three_frames_across_with_sources_from_the_file_dialog(desk):
     path = page(desk)
     show_frames(desk)
     desk.click_widget("Across", "push button")
-    desk.widget("Enter number of Frames.", "label")
-    desk.type("3\n")
+    answer(desk, "3")
     for number, name in enumerate(("top.htm", "left.htm", "main.htm"), 1):
         desk.click_widget("Frame %d" % number, "push button")
         desk.wait_active("Frame")
@@ -60,12 +66,6 @@ def test_three_frames_across_with_sources_from_the_file_dialog(desk):
     wait_for("the saved page", lambda: (read(path) or b"").startswith(text.encode()))
     desk.key("ctrl+z")
     wait_for("the empty page", lambda: desk.text() == "")
-
-
-def answer(desk, text):
-    """Types into the box that asks for the count."""
-    desk.widget("Enter number of Frames.", "label")
-    desk.type(text + "\n")
 
 
 def confirm(desk, message):

@@ -3,5 +3,5 @@
 
 #include "editor/frame/FormTable.h"
 
-/// Every tag dialog, and those that the program's end names already.
+/// Every tag dialog, and the windows that they show.
 std::span<const FormRow> BuilderForms();

@@ -1,5 +1,7 @@
 #include "builders/frames/FrameButton.h"
 
+#include "platform/values/Twips.h"
+
 #include <algorithm>
 #include <QFontInfo>
 #include <QKeySequence>
@@ -14,11 +16,17 @@ void FrameButton::SetCaption(const QString& caption) {
     setToolTip(caption);
 }
 
+// Buttons of one split may differ by a pixel, and their captions must not.
+void FrameButton::Place(const TwipsRect& place) {
+    setGeometry(ToPixels(place));
+    lineHeight_ = static_cast<int>(place.height / Twips::PerPixel);
+}
+
 QFont FrameButton::FittingFont() const {
     constexpr int edges = 5;
     constexpr int smallest = 6;
     QFont fitting = font();
-    fitting.setPixelSize(std::clamp(height() - edges, smallest, QFontInfo(font()).pixelSize()));
+    fitting.setPixelSize(std::clamp(lineHeight_ - edges, smallest, QFontInfo(font()).pixelSize()));
     return fitting;
 }
 

@@ -1,5 +1,6 @@
 #include "builders/frames/FrameSplit.h"
 
+#include "platform/values/Twips.h"
 #include "platform/values/Values.h"
 
 #include <algorithm>
@@ -36,6 +37,12 @@ std::vector<Stretch> Split(double pageStart, double pageSize, int count) {
 }
 
 } // namespace
+
+QRect ToPixels(const TwipsRect& rect) {
+    const QPoint topLeft(Twips::ToPixels(rect.left), Twips::ToPixels(rect.top));
+    const QPoint end(Twips::ToPixels(rect.left + rect.width), Twips::ToPixels(rect.top + rect.height));
+    return {topLeft, QSize(end.x() - topLeft.x(), end.y() - topLeft.y())};
+}
 
 int FrameCount(const QString& answer) {
     constexpr double Lowest = std::numeric_limits<int>::min();

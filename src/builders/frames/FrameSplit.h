@@ -1,6 +1,7 @@
 // How the Frames dialog splits its picture of the page.
 #pragma once
 
+#include <QRect>
 #include <QString>
 #include <vector>
 
@@ -17,6 +18,9 @@ struct TwipsRect {
 
 /// The rectangle that stands for the page.
 inline constexpr TwipsRect PageShape{60, 45, 4110, 2970};
+
+/// On the screen. Edges are rounded, not lengths: what meets in twips meets there too.
+QRect ToPixels(const TwipsRect& rect);
 
 /// The count that an answer stands for, rounded to a whole number, a half to the even one; 0 for an answer
 /// that is no number. What no page can be split into comes back as the nearest number that an int holds.

@@ -8,7 +8,6 @@
 #include "editor/frame/Forms.h"
 #include "editor/frame/Frame.h"
 #include "platform/desktop/Prompts.h"
-#include "platform/values/Twips.h"
 #include "ui_VisFrame.h"
 
 #include <algorithm>
@@ -19,13 +18,6 @@ namespace {
 
 constexpr int LargestBorder = 200;
 constexpr int BlinkInterval = 2000;
-
-/// Edges are rounded, not lengths: what meets in twips meets on the screen.
-QRect ToPixels(const TwipsRect& rect) {
-    const QPoint topLeft(Twips::ToPixels(rect.left), Twips::ToPixels(rect.top));
-    const QPoint end(Twips::ToPixels(rect.left + rect.width), Twips::ToPixels(rect.top + rect.height));
-    return {topLeft, QSize(end.x() - topLeft.x(), end.y() - topLeft.y())};
-}
 
 /// Hidden, it keeps its place: the form does not jump when it comes.
 void HideInPlace(QWidget* widget) {
@@ -111,7 +103,7 @@ void VisFrame::ShowFrames(int count) {
     const std::vector<TwipsRect> places = SplitPage(direction_, count);
     for (int i = 0; i < count; ++i) {
         FrameButton& button = cmdFrame(i);
-        button.setGeometry(ToPixels(places[static_cast<size_t>(i)]));
+        button.Place(places[static_cast<size_t>(i)]);
         button.SetCaption(QStringLiteral("Frame %1").arg(i + 1));
         button.show();
     }

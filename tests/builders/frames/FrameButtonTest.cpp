@@ -1,6 +1,7 @@
 #include "builders/frames/FrameButton.h"
 
 #include "dialogs/TagRows.h"
+#include <QSet>
 #include <QTest>
 
 namespace {
@@ -25,7 +26,7 @@ TEST(FrameButton, AnAmpersandStandsForItself) {
     EXPECT_EQ(button.accessibleName(), T(u"a&b"));
     EXPECT_EQ(button.toolTip(), T(u"a&b"));
     EXPECT_TRUE(button.shortcut().isEmpty());
-    button.resize(100, 30);
+    button.Place({0, 0, 1500, 450});
     const int withAmpersand = Ink(button);
     button.SetCaption(T(u"ab"));
     EXPECT_GT(withAmpersand, Ink(button));
@@ -33,7 +34,7 @@ TEST(FrameButton, AnAmpersandStandsForItself) {
 
 TEST(FrameButton, ALongCaptionIsCutAndALowButtonStillHasOne) {
     FrameButton button(nullptr);
-    button.resize(60, 30);
+    button.Place({0, 0, 900, 450});
     button.SetCaption(QString(1000, u'W'));
     EXPECT_GT(Ink(button), 0);
     // Its edges stay free of letters.
@@ -46,10 +47,26 @@ TEST(FrameButton, ALongCaptionIsCutAndALowButtonStillHasOne) {
         EXPECT_EQ(face.pixel(face.width() - 2, y), empty.pixel(face.width() - 2, y));
     }
     button.SetCaption(T(u"Frame 15"));
-    for (const int height : {13, 5, 1}) {
-        button.resize(264, height);
-        EXPECT_GE(Ink(button), height > 5 ? 1 : 0);
+    for (const int twips : {188, 75, 15, 0}) {
+        button.Place({0, 0, 3960, double(twips)});
+        EXPECT_GE(Ink(button), twips > 75 ? 1 : 0);
     }
+}
+
+TEST(FrameButton, ButtonsOfOneSplitHaveLettersOfOneSize) {
+    // 12 and 13 pixels high.
+    const std::vector<TwipsRect> places = SplitPage(FrameDirection::Up, 15);
+    QSet<int> heights;
+    QSet<int> inks;
+    for (const TwipsRect& place : places) {
+        FrameButton button(nullptr);
+        button.SetCaption(T(u"Frame"));
+        button.Place(place);
+        heights << button.height();
+        inks << Ink(button);
+    }
+    EXPECT_EQ(heights.size(), 2);
+    EXPECT_EQ(inks.size(), 1);
 }
 
 } // namespace

@@ -48,6 +48,13 @@ TEST(FrameSplit, AnyCountFillsThePageButForItsMargins) {
     }
 }
 
+TEST(FrameSplit, EdgesThatMeetInTwipsMeetOnTheScreen) {
+    EXPECT_EQ(ToPixels(PageShape), QRect(4, 3, 274, 198));
+    EXPECT_EQ(ToPixels({135, 120, 792, 2820}), QRect(9, 8, 53, 188));
+    EXPECT_EQ(ToPixels({927, 120, 792, 2820}), QRect(62, 8, 53, 188));
+    EXPECT_EQ(ToPixels({1719, 120, 792, 2820}), QRect(115, 8, 52, 188));
+}
+
 TEST(FrameSplit, NothingIsSplitIntoLessThanOne) {
     for (const int count : {0, -1, std::numeric_limits<int>::min()}) {
         EXPECT_TRUE(SplitPage(FrameDirection::Across, count).empty());
