@@ -58,8 +58,10 @@ frmForm::frmForm(Frame& frame) : TagDialog(frame), ui_(std::make_unique<Ui::frmF
     OnListKeys(ui_->cboList, {Qt::Key_Delete}, [this] { cmdRemoveItem_Click(); });
     connect(ui_->chkMultiple, &QCheckBox::toggled, this, &frmForm::chkMultiple_Click);
     ui_->txtList->installEventFilter(this);
-    // By itself a window opens no wider than two thirds of the screen, and tabs would be hidden.
-    resize(sizeHint().boundedTo(screen()->availableSize()));
+    // By itself a window opens no wider than two thirds of the screen, which would hide tabs, and as high as
+    // the list would like to be.
+    const QSize size(sizeHint().width(), minimumSizeHint().height());
+    resize(size.boundedTo(screen()->availableSize()));
 }
 
 frmForm::~frmForm() = default;

@@ -286,6 +286,28 @@ TEST_P(AnyDialogTest, TabReachesEveryControlAsTheEyeGoes) {
     }
 }
 
+TEST_P(AnyDialogTest, NoControlCoversAnother) {
+    Show();
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(form));
+    QList<QWidget*> seen;
+    for (QWidget* one : form->findChildren<QWidget*>()) {
+        const bool read = qobject_cast<QLabel*>(one) || qobject_cast<QAbstractButton*>(one) ||
+                          qobject_cast<QLineEdit*>(one) || qobject_cast<QComboBox*>(one) ||
+                          qobject_cast<QListWidget*>(one);
+        if (read && one->isVisible() && one->window() == form)
+            seen << one;
+    }
+    const auto place = [this](const QWidget* one) { return QRect(one->mapTo(form, QPoint()), one->size()); };
+    for (const QWidget* one : seen) {
+        for (const QWidget* other : seen) {
+            if (one == other || one->isAncestorOf(other) || other->isAncestorOf(one))
+                continue;
+            EXPECT_FALSE(place(one).intersects(place(other)))
+                << one->objectName().toStdString() << " and " << other->objectName().toStdString();
+        }
+    }
+}
+
 TEST_P(AnyDialogTest, EveryControlHasAnAccessibleName) {
     Show();
     for (QWidget* control : form->findChildren<QWidget*>()) {
