@@ -15,3 +15,9 @@ QIcon WindowButtonStyle::standardIcon(StandardPixmap face, const QStyleOption* o
         return QProxyStyle::standardIcon(face, option, widget);
     }
 }
+
+int WindowButtonStyle::styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                                 QStyleHintReturn* returned) const {
+    return hint == SH_LineEdit_PasswordCharacter ? '*'
+                                                 : QProxyStyle::styleHint(hint, option, widget, returned);
+}

@@ -1,4 +1,4 @@
-// The window buttons of a maximised document, in the corner of the menu bar.
+// Where the program's look differs from the desktop's own.
 #pragma once
 
 #include <QProxyStyle>
@@ -11,4 +11,7 @@ class WindowButtonStyle final : public QProxyStyle {
   public:
     QIcon standardIcon(StandardPixmap face, const QStyleOption* option = nullptr,
                        const QWidget* widget = nullptr) const override;
+    /// A password shows a "*" for each character.
+    int styleHint(StyleHint hint, const QStyleOption* option = nullptr, const QWidget* widget = nullptr,
+                  QStyleHintReturn* returned = nullptr) const override;
 };

@@ -1,6 +1,6 @@
 #include "builders/tables/frmGridInput.h"
 
-#include "builders/tables/frmTable.h"
+#include "builders/tables/CurrentCell.h"
 #include "builders/tables/TableTag.h"
 #include "dialogs/DialogState.h"
 #include "dialogs/FormFields.h"
@@ -13,13 +13,13 @@
 
 #include <QEvent>
 
-frmGridInput::frmGridInput(Frame& frame, frmTable& table)
-    : TagDialog(frame, &table), ui_(std::make_unique<Ui::frmGridInput>()), table_(table) {
+frmGridInput::frmGridInput(Frame& frame, QWidget& table, CurrentCell& cell)
+    : TagDialog(frame, &table), ui_(std::make_unique<Ui::frmGridInput>()), table_(table), cell_(cell) {
     ui_->setupUi(this);
     Wire(*ui_->cmdOK, *ui_->cmdCancel);
     FillLists();
     ShowBrowseIcon(ui_->cmdGetFile);
-    ui_->txtGridInput->setText(table.CellText());
+    ui_->txtGridInput->setText(cell.CellText());
     ui_->txtGridInput->installEventFilter(this);
     connect(ui_->Label2, &ColorSample::DblClick, this, &frmGridInput::Label2_DblClick);
     connect(ui_->cmdGetFile, &QPushButton::clicked, this, &frmGridInput::cmdGetFile_Click);
@@ -83,15 +83,15 @@ void frmGridInput::TakePicture() {
 
 void frmGridInput::cmdOK_Click() {
     const QString text = FieldText(ui_->txtGridInput);
-    table_.SetCell(CellTag({.text = text,
-                            .header = ui_->chkHeader->isChecked(),
-                            .wrapText = ui_->chkWrapText->isChecked(),
-                            .colSpan = FieldText(ui_->cboColSpan),
-                            .rowSpan = FieldText(ui_->cboRowSpan),
-                            .align = FieldText(ui_->cboAlign),
-                            .vAlign = FieldText(ui_->cboVAlign),
-                            .color = color_},
-                           TagCaseOf(frame_.Store())),
-                   text);
+    cell_.SetCell(CellTag({.text = text,
+                           .header = ui_->chkHeader->isChecked(),
+                           .wrapText = ui_->chkWrapText->isChecked(),
+                           .colSpan = FieldText(ui_->cboColSpan),
+                           .rowSpan = FieldText(ui_->cboRowSpan),
+                           .align = FieldText(ui_->cboAlign),
+                           .vAlign = FieldText(ui_->cboVAlign),
+                           .color = color_},
+                          TagCaseOf(frame_.Store())),
+                  text);
     Unload();
 }

@@ -10,7 +10,7 @@ namespace Ui {
 class frmGridInput;
 }
 
-class frmTable;
+class CurrentCell;
 
 /// Comes up with the text of the cell that is current then, and with nothing else of it. OK writes to the
 /// cell that is current by then. It goes with the Table dialog.
@@ -18,7 +18,8 @@ class frmGridInput final : public TagDialog {
     Q_OBJECT
 
   public:
-    frmGridInput(Frame& frame, frmTable& table);
+    /// Owned by the Table dialog, whose current cell it edits.
+    frmGridInput(Frame& frame, QWidget& table, CurrentCell& cell);
     ~frmGridInput() override;
 
   protected:
@@ -34,7 +35,8 @@ class frmGridInput final : public TagDialog {
     void cmdOK_Click() override;
 
     std::unique_ptr<Ui::frmGridInput> ui_;
-    frmTable& table_;
+    QWidget& table_;
+    CurrentCell& cell_;
     /// The Tag of Label2, once a colour was picked.
     std::optional<QString> color_;
 };

@@ -125,7 +125,7 @@ void frmTable::hsbWidth_Change() {
 }
 
 void frmTable::Grid1_Click() {
-    frame_.LoadedForms().Show<frmGridInput>(frame_, *this);
+    frame_.LoadedForms().Show<frmGridInput>(frame_, *this, *this);
 }
 
 QString frmTable::CellText() const {

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "builders/tables/CellTags.h"
+#include "builders/tables/CurrentCell.h"
 #include "dialogs/TagDialog.h"
 
 #include <memory>
@@ -16,7 +17,7 @@ struct TableFields;
 
 /// The table that is written is made of the cells that were edited since its size was last set. The grid goes
 /// on showing the texts of the others.
-class frmTable final : public TagDialog {
+class frmTable final : public TagDialog, public CurrentCell {
     Q_OBJECT
 
   public:
@@ -29,11 +30,8 @@ class frmTable final : public TagDialog {
     /// The text of the grid's current row, each of its cells in plain tags. The current column is the last
     /// one afterwards.
     QString TableFill();
-    /// The text of the grid's current cell.
-    QString CellText() const;
-    /// The current cell: its tag for the table, and the text that the grid shows. A cell outside the table's
-    /// size has no tag.
-    void SetCell(const QString& tag, const QString& text);
+    QString CellText() const override;
+    void SetCell(const QString& tag, const QString& text) override;
 
   protected:
     bool eventFilter(QObject* watched, QEvent* event) override;

@@ -16,6 +16,7 @@ std::unique_ptr<RichTextBox> CopyOf(const RichTextBox& text) {
     auto copy = std::make_unique<RichTextBox>();
     copy->SetFont(text.Font());
     copy->SetRawLineEndMode(text.RawLineEndMode());
+    copy->SetHolds(text.Holds());
     copy->SetTextRTF(text.TextRTF());
     copy->EmptyUndoBuffer();
     return copy;

@@ -96,7 +96,8 @@ class AccessibleNames : public FrameTest {
             for (const FormRow& row : forms)
                 if (row.reach.show)
                     row.reach.show(*run.frame);
-        LoadedForms().Load<frmGridInput>(*run.frame, LoadedForms().Load<frmTable>(*run.frame));
+        auto& table = LoadedForms().Load<frmTable>(*run.frame);
+        LoadedForms().Load<frmGridInput>(*run.frame, table, table);
         LoadedForms().Load<frmExternal>(*run.frame);
         LoadedForms().Load<frmTools>(*run.frame, UserButton());
         LoadedForms().Load<frmSplash>(*run.frame);

@@ -126,7 +126,6 @@ TEST_F(RichTextUnicodeTest, UnitsAreReadAsAStringHasThem) {
     }
     EXPECT_EQ(box.CharAt(static_cast<int>(text.size())), QChar());
     EXPECT_EQ(box.FindForward(u'ż', 0), 3);
-    EXPECT_EQ(box.FindBackward(u'ż', 6), 3);
 }
 
 struct MoveRow {

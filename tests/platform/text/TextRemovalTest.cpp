@@ -40,6 +40,7 @@ TEST_F(RichTextRemoveTest, TakesStretchesOutInOneStep) {
 
 TEST_F(RichTextRemoveTest, CountsCharactersHoweverManyBytesTheyTake) {
     const QString text = QStringLiteral("\u00e9<\u20ac>\r\nb<\u00e9>\U0001F600<x>c");
+    box.SetHolds(CharacterSet::Unicode);
     Put(text, QString(text.size(), u'r'));
     std::vector<CharRange> tags;
     for (qsizetype open = text.indexOf(u'<'); open >= 0; open = text.indexOf(u'<', open + 1))
