@@ -37,9 +37,10 @@ def test_find_goes_from_match_to_match(desk):
     desk.key("Return")
     confirm(desk, 'Cannot Find "one".')
     desk.wait_active(DIALOG)
-    # A whole word in its case, from the top.
-    desk.key("alt+s", "alt+w", "Escape")
+    desk.key("Escape")
     desk.wait_no_window(DIALOG)
+    desk.wait_active("The Tarnwick Pro")
+    # A whole word in its case, from the top. What was searched for is not kept: Find Next shows the dialog.
     desk.key("ctrl+Home", "F3")
     desk.wait_active(DIALOG)
     desk.type("two")
