@@ -4,7 +4,7 @@
 packages_run="g++ cmake ninja-build ccache qt6-base-dev qt6-base-dev-tools libqt6svg6-dev|qt6-svg-dev
     libqscintilla2-qt6-dev qt6-webengine-dev libgl-dev|libgl1-mesa-dev qt6-qpa-plugins qt6-wayland
     libfontconfig-dev|libfontconfig1-dev fonts-dejavu-core fonts-liberation
-    libhunspell-dev hunspell-en-us libcurl4-openssl-dev"
+    libhunspell-dev hunspell-en-us libcurl4-openssl-dev libchm-dev fp-utils-3.2.2|fp-utils"
 packages_headless="xvfb openbox xdotool imagemagick x11-utils"
 packages_test="x11-xkb-utils libgtest-dev libgmock-dev libbenchmark-dev at-spi2-core dbus python3 python3-pyatspi gir1.2-atspi-2.0
     libsm6 libice6 dillo python3-pyftpdlib python3-openssl vsftpd poppler-utils"

@@ -1,5 +1,6 @@
 #include "app/window/KnownForms.h"
 
+#include "app/help/frmHelp.h"
 #include "app/help/HelpCommands.h"
 #include "app/options/frmExternal.h"
 #include "app/run/frmSplash.h"
@@ -15,6 +16,7 @@ std::span<const FormRow> AppForms() {
         FormOf<frmSplash>({.entry = {"mnuAbout"}, .show = mnuAbout_Click, .unload = 15}),
         FormOf<frmExternal>({.entry = {"mnuWebBrowser"}, .show = mnuWebBrowser_Click, .unload = 17}),
         FormOf<frmTools>({.unload = 22}),
+        FormOf<frmHelp>({}),
     };
     return forms;
 }
