@@ -18,7 +18,7 @@ namespace {
 
 void NameTheApplication() {
     QCoreApplication::setApplicationName(QStringLiteral("tarnwick"));
-    QGuiApplication::setDesktopFileName(QStringLiteral("tarnwick"));
+    QGuiApplication::setDesktopFileName(QStringLiteral("org.tarnwick.editor"));
     // The frame ends the process when it is unloaded; no other window does.
     QGuiApplication::setQuitOnLastWindowClosed(false);
 }

@@ -27,7 +27,7 @@ TEST(WebPlugin, IsLookedForBesideTheProgramAndWhereItIsInstalled) {
     const QDir program(QCoreApplication::applicationDirPath());
     EXPECT_EQ(
         WebPluginFolders(),
-        QStringList({program.path(), QDir::cleanPath(program.filePath(QStringLiteral("../lib/tarnwick")))}));
+        QStringList({program.path(), QDir::cleanPath(program.filePath(QStringLiteral("../lib/tarnwick/plugins")))}));
 }
 
 TEST(WebPlugin, AbsentOrBrokenThereAreNoControls) {

@@ -9,13 +9,13 @@ std::string TerminalAnswer(int argc, const char* const* argv) {
         return {};
     const std::string_view word = argv[1];
     const std::string version = "The Tarnwick " + Version::Dotted().toStdString() + "\n";
-    if (word == "--version")
+    if (word == "--version" || word == "-v")
         return version;
-    if (word == "--help")
+    if (word == "--help" || word == "-h")
         return version + "Usage: tarnwick [FILE]\n\n"
                          "Opens FILE in the editor for HTML source, or in the copy that runs already.\n"
                          "The whole command line is the name of one file: it may hold blanks.\n\n"
-                         "  --help     tells this and ends\n"
-                         "  --version  tells the version and ends\n";
+                         "  -h, --help     tells this and ends\n"
+                         "  -v, --version  tells the version and ends\n";
     return {};
 }

@@ -8,7 +8,7 @@
 
 QStringList WebPluginFolders() {
     const QDir program(QCoreApplication::applicationDirPath());
-    return {program.path(), QDir::cleanPath(program.filePath(QStringLiteral("../lib/tarnwick")))};
+    return {program.path(), QDir::cleanPath(program.filePath(QStringLiteral("../lib/tarnwick/plugins")))};
 }
 
 WebControlsFactory* LoadWebPlugin(const QStringList& folders) {
