@@ -126,8 +126,11 @@ TEST_F(frmHelpTest, TheContentsLeadToPages) {
     ShowHelp(*run.frame);
     auto& contents = Part<QTreeWidget>("Contents");
     for (QTreeWidgetItemIterator item(&contents); *item; ++item) {
+        const QString page = (*item)->data(0, Qt::UserRole).toString();
+        if (page.isEmpty())
+            continue;
         contents.setCurrentItem(*item);
-        EXPECT_EQ(Shown(), (*item)->data(0, Qt::UserRole).toString());
+        EXPECT_EQ(Shown(), page);
     }
 }
 

@@ -149,7 +149,7 @@ TEST_F(CommandSurfaceTest, WithoutADocumentEveryCommandIsSilentOrNeedsNone) {
         {Text("mnuWebBrowser"), Text("waits for frmExternal")},
         {Text("mnuMainHelp"), Text("shows The help file tarnwick.chm is not installed.")},
         {Text("mnuAbout"), Text("loads frmSplash")},
-        {Text("tb_ftp"), Text("shows The upload window is not part of this version.")},
+        {Text("tb_ftp"), Text("loads frmFTP")},
         // The report of the spell check comes all the same, with the counts of the last one.
         {Text("mnuSpellCheck"), Text("says Spellcheck complete!\n 0 Words Checked\n 0 Words Replaced")},
         {Text("tb_spell"), Text("says Spellcheck complete!\n 0 Words Checked\n 0 Words Replaced")},
@@ -210,6 +210,8 @@ TEST_F(CommandSurfaceTest, WithoutADocumentEveryCommandIsSilentOrNeedsNone) {
         needNone.insert(Text("tb_") + Text(row.reach.button.key), Text("loads ") + Text(row.name));
     const auto added = static_cast<qsizetype>(newEntries.size() + newButtons.size());
     prompts.openAnswers = {ScriptedPrompts::Cancelled(), ScriptedPrompts::Cancelled()};
+    prompts.inputAnswers = {Text("1"), Text("1")};
+    prompts.messageAnswers = {MsgAnswer::Cancel};
     int silent = 0;
     for (const QString& name : AllNames()) {
         const QString happened = RunAlone(name);
