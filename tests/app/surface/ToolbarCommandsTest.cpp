@@ -347,8 +347,9 @@ TEST_F(UploadTest, TheBuiltInWindowIsShown) {
     EXPECT_TRUE(form->isVisible());
     EXPECT_FALSE(form->isModal());
     EXPECT_EQ(form->parentWidget(), frame.Window());
+    const int forms = frame.LoadedForms().Count();
     Run("tb_ftp");
-    EXPECT_EQ(frame.LoadedForms().Count(), 1);
+    EXPECT_EQ(frame.LoadedForms().Count(), forms) << "showing it again raises it";
     EXPECT_EQ(options, 0);
     EXPECT_TRUE(frame.prompts.asked.isEmpty());
 }
