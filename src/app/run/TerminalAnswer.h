@@ -3,5 +3,6 @@
 
 #include <string>
 
-/// The answer to --help (-h) or --version (-v) alone; empty for every other command line, which is a path to open.
+/// The answer to --help (-h) or --version (-v) alone; empty for every other command line, which is a path to
+/// open.
 std::string TerminalAnswer(int argc, const char* const* argv);

@@ -75,7 +75,8 @@ TEST_F(DictionaryTest, APlainListOfWordsIsOne) {
                                    QByteArray("alpha\rbeta"), QByteArray("\n  alpha \n\nbeta\t12\n---\n")}) {
         Write("american.vtd", list);
         const auto dictionary = Best(Path("american.vtd"));
-        EXPECT_EQ(Known(dictionary.get(), {u"alpha"_s, u"Beta"_s, u"color"_s}), u"alpha Beta"_s) << list.toStdString();
+        EXPECT_EQ(Known(dictionary.get(), {u"alpha"_s, u"Beta"_s, u"color"_s}), u"alpha Beta"_s)
+            << list.toStdString();
         EXPECT_EQ(dictionary->Suggestions(u"alpah"_s), QStringList{u"alpha"_s});
     }
 }
