@@ -25,9 +25,9 @@ TEST(WebPlugin, IsLoadedOnceFromTheFirstFolderThatHasIt) {
 
 TEST(WebPlugin, IsLookedForBesideTheProgramAndWhereItIsInstalled) {
     const QDir program(QCoreApplication::applicationDirPath());
-    EXPECT_EQ(
-        WebPluginFolders(),
-        QStringList({program.path(), QDir::cleanPath(program.filePath(QStringLiteral("../lib/tarnwick/plugins")))}));
+    EXPECT_EQ(WebPluginFolders(),
+              QStringList({program.path(),
+                           QDir::cleanPath(program.filePath(QStringLiteral("../lib/tarnwick/plugins")))}));
 }
 
 TEST(WebPlugin, AbsentOrBrokenThereAreNoControls) {
