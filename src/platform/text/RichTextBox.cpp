@@ -3,6 +3,7 @@
 #include "platform/text/RichTextAccessible.h"
 #include "platform/text/RtfReader.h"
 #include "platform/text/RtfWriter.h"
+#include "platform/text/StretchMeasure.h"
 #include "platform/text/TextPrinter.h"
 #include "platform/text/TextRemoval.h"
 
@@ -30,6 +31,7 @@ RichTextBox::RichTextBox(QWidget* parent)
       rawLineEnds_(RawLineEnds::Keep)
 #endif
 {
+    UseStretchMeasure();
     // Found before that of the base class, since it goes by the name of the derived class.
     RichTextAccessible::Install();
     editing_.takeIncoming = [this] { TakeIncoming(); };

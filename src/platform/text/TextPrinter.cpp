@@ -99,7 +99,8 @@ int TextPrinter::FormatRange(bool draw, QPainter& painter, const QRectF& page, i
         const ByteRange range = buffer_.FromChars(position, std::min(nextLine, position + longestStretch));
         const QString stretch = buffer_.Text(range);
         const QString text = goesOn ? stretch : WithoutLineEnd(stretch);
-        QTextLayout layout(text, font_, painter.device());
+        QTextLayout layout(text);
+        layout.setFont(QFont(font_, painter.device()));
         layout.setTextOption(option);
         layout.setFormats(Colors(range.start, text));
         const int set = sheet.Fill(layout, goesOn);
