@@ -10,7 +10,8 @@
 class Frame;
 class QWidget;
 
-/// Where a file is loaded into or saved from: a control, a string, or nothing.
+/// Where a file is loaded into or saved from: a control, a string, or nothing. Files are of code page 1252;
+/// those of a control that holds all of Unicode are written in UTF-8 and read as what they are.
 class DialogTarget {
   public:
     DialogTarget() = default;

@@ -4,7 +4,7 @@
 #include "dialogs/PictureFile.h"
 #include "platform/store/WholeFile.h"
 #include "platform/text/RichTextBox.h"
-#include "platform/values/Cp1252.h"
+#include "platform/values/TextEncoding.h"
 
 #include <QBuffer>
 #include <QComboBox>
@@ -80,6 +80,12 @@ void SetTextOf(QWidget* control, const QString& text) {
     }
 }
 
+/// Only a document's control can hold more than code page 1252 does.
+bool HoldsUnicode(const QWidget* control) {
+    const auto* rich = qobject_cast<const RichTextBox*>(control);
+    return rich && rich->Holds() == CharacterSet::Unicode;
+}
+
 } // namespace
 
 QString DialogTarget::DefaultFilters() const {
@@ -113,7 +119,8 @@ bool DialogTarget::Load(const QString& path) const {
     const std::optional<QByteArray> bytes = WholeFile::Read(path);
     if (!bytes)
         return false;
-    const QString text = Cp1252::FromBytes(*bytes);
+    const QString text =
+        Decode(*bytes, HoldsUnicode(control_) ? EncodingOf(*bytes) : TextEncoding::CodePage1252);
     if (text_)
         *text_ = text;
     else
@@ -130,5 +137,6 @@ bool DialogTarget::Save(const QString& path) const {
         const QPixmap picture = static_cast<QLabel*>(control_)->pixmap(Qt::ReturnByValue);
         return !picture.isNull() && picture.save(&bytes, "BMP") && WholeFile::Write(path, bytes.data());
     }
-    return WholeFile::Write(path, Cp1252::ToBytes(Cp1252::Accept(text_ ? *text_ : TextOf(control_))));
+    const TextEncoding encoding = HoldsUnicode(control_) ? TextEncoding::Utf8 : TextEncoding::CodePage1252;
+    return WholeFile::Write(path, Encode(text_ ? *text_ : TextOf(control_), encoding));
 }

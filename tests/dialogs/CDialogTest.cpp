@@ -219,6 +219,28 @@ TEST_F(CDialogTest, OpenLoadsIntoItsTarget) {
     EXPECT_EQ(button.text(), QStringLiteral("as it was"));
 }
 
+TEST_F(CDialogTest, ADocumentInUtf8LosesNothing) {
+    const QString text = QStringLiteral("\u20ac \u017c \u65e5 \u05e9\r\n");
+    frame.prompts.saveAnswers = {ScriptedPrompts::Picked(Here("page.txt"))};
+    frame.Box().SetHolds(CharacterSet::Unicode);
+    frame.Box().SetText(text);
+    EXPECT_TRUE(dialog.ShowSave(nullptr, &frame.Box()));
+    EXPECT_EQ(ReadFile(Here("page.txt")), text.toUtf8());
+    frame.Box().SetText(QString());
+    EXPECT_TRUE(dialog.LoadInto(&frame.Box()));
+    EXPECT_EQ(frame.Box().Text(), text);
+    WriteFile(Here("page.txt"), "caf\xe9 \x80");
+    EXPECT_TRUE(dialog.LoadInto(&frame.Box()));
+    EXPECT_EQ(frame.Box().Text(), QStringLiteral("caf\u00e9 \u20ac"));
+
+    frame.Box().SetHolds(CharacterSet::CodePage1252);
+    WriteFile(Here("page.txt"), "caf\xc3\xa9");
+    EXPECT_TRUE(dialog.LoadInto(&frame.Box()));
+    EXPECT_EQ(frame.Box().Text(), QStringLiteral("caf\u00c3\u00a9"));
+    EXPECT_TRUE(dialog.SaveFrom(&frame.Box()));
+    EXPECT_EQ(ReadFile(Here("page.txt")), QByteArray("caf\xc3\xa9"));
+}
+
 TEST_F(CDialogTest, OpenLoadsAPictureAndLeavesTheTargetWhereItCannot) {
     QImage(30, 20, QImage::Format_RGB32).save(Here("p.png"));
     frame.prompts.openAnswers = {ScriptedPrompts::Picked(Here("p.png")),
