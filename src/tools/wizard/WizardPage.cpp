@@ -1,6 +1,5 @@
 #include "tools/wizard/WizardPage.h"
 
-#include "platform/values/Cp1252.h"
 #include "platform/values/Dates.h"
 
 #include <QDate>
@@ -41,7 +40,7 @@ QString Caption(const QString& caption) {
 }
 
 QString End(const QString& paragraphs, const QDate& date, const QLocale& locale) {
-    return paragraphs + QStringLiteral("\r\n\r\n</H5>Created: ") + Cp1252::Accept(LongDate(date, locale)) +
+    return paragraphs + QStringLiteral("\r\n\r\n</H5>Created: ") + LongDate(date, locale) +
            QStringLiteral("</H5>\r\n</BODY>\r\n\r\n</HTML>");
 }
 

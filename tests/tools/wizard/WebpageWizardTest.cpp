@@ -167,6 +167,27 @@ TEST_F(WebpageWizardTest, WithoutColoringThePageEndsAsTheColoringPassLeavesIt) {
     EXPECT_TRUE(Page().endsWith(T(u"\r\n</BODY>\r\n\r\n</HTML>\\cf1 "))) << Page().right(40).toStdString();
 }
 
+TEST_F(WebpageWizardTest, TheDateHasTheLettersThatTheDocumentHolds) {
+    const QLocale before;
+    QLocale::setDefault(QLocale(QLocale::Greek));
+    const QString date = LongDate(QDate::currentDate(), QLocale());
+    for (const bool colored : {true, false}) {
+        for (const CharacterSet holds : {CharacterSet::CodePage1252, CharacterSet::Unicode}) {
+            frame.Store().WriteFlag(Keys::ColoredTags, colored);
+            frame.prompts.messageAnswers = {MsgAnswer::OK, MsgAnswer::OK};
+            frame.prompts.inputAnswers = {T(u"Title"), T(u"Heading"), T(u"Caption")};
+            onParagraphs = [this, holds] {
+                Box().SetHolds(holds);
+                Press(*Form<frmWizard>(), u"cmdFinish");
+            };
+            RunWizard();
+            EXPECT_TRUE(Page().contains(T(u"</H5>Created: ") + HeldBy(holds, date) + T(u"</H5>")))
+                << Page().right(120).toStdString();
+        }
+    }
+    QLocale::setDefault(before);
+}
+
 TEST_F(WebpageWizardTest, CancelInTheFirstBoxLeavesNoNewDocument) {
     frame.prompts.messageAnswers = {MsgAnswer::Cancel};
     Run(u"mnuWizard");

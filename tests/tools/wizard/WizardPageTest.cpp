@@ -33,6 +33,10 @@ TEST(WizardPage, Parts) {
          u"<H3>a</H3>\r\n\r\n\r\n\r\n</H5>Created: Sunday, March 05, 2023</H5>\r\n</BODY>\r\n\r\n</HTML>"},
         {WizardPage::End(QString(), QDate(2023, 3, 5), QLocale(QLocale::German)),
          u"\r\n\r\n</H5>Created: Sonntag, M\u00e4rz 05, 2023</H5>\r\n</BODY>\r\n\r\n</HTML>"},
+        // Whether a letter can be held is for the document to say.
+        {WizardPage::End(QString(), QDate(2023, 3, 5), QLocale(QLocale::Greek)),
+         u"\r\n\r\n</H5>Created: \u039a\u03c5\u03c1\u03b9\u03b1\u03ba\u03ae, "
+         u"\u039c\u03b1\u03c1\u03c4\u03af\u03bf\u03c5 05, 2023</H5>\r\n</BODY>\r\n\r\n</HTML>"},
     };
     for (const auto& [part, text] : rows)
         EXPECT_EQ(part, T(text));
