@@ -5,7 +5,7 @@
 #include "editor/frame/Frame.h"
 #include "platform/desktop/Prompts.h"
 #include "platform/store/WholeFile.h"
-#include "platform/values/Cp1252.h"
+#include "platform/values/TextEncoding.h"
 #include "tools/transforms/MapAreas.h"
 
 namespace {
@@ -13,14 +13,14 @@ namespace {
 /// Where a text file ends, whatever follows.
 constexpr char endOfText = 26;
 
-/// The areas of a map file; nothing where it can't be read.
+/// The areas of a map file, in the encoding that its bytes have; nothing where it can't be read.
 std::optional<QString> ReadMapAreas(const QString& path) {
     std::optional<QByteArray> bytes = WholeFile::Read(path);
     if (!bytes)
         return std::nullopt;
     if (const qsizetype end = bytes->indexOf(endOfText); end >= 0)
         bytes->truncate(end);
-    return MapAreas(Cp1252::FromBytes(*bytes));
+    return MapAreas(Decode(*bytes, EncodingOf(*bytes)));
 }
 
 } // namespace

@@ -83,6 +83,31 @@ TEST_F(InsertImageMapTest, TheTextEndsAtAnEndOfTextByte) {
     EXPECT_EQ(Box().Text(), Map(Latin(area)));
 }
 
+TEST_F(InsertImageMapTest, AFileHasTheEncodingOfItsBytes) {
+    struct Row {
+        QByteArray map;
+        CharacterSet holds;
+        const char16_t* link;
+    };
+    const Row rows[] = {
+        {"rect caf\xe9.htm 0,0", CharacterSet::CodePage1252, u"caf\u00e9.htm"},
+        {"rect caf\xe9.htm 0,0", CharacterSet::Unicode, u"caf\u00e9.htm"},
+        {"rect caf\xc3\xa9.htm 0,0", CharacterSet::CodePage1252, u"caf\u00e9.htm"},
+        {"\xef\xbb\xbfrect caf\xc3\xa9.htm 0,0", CharacterSet::CodePage1252, u"caf\u00e9.htm"},
+        {"rect \xe2\x98\x83.htm 0,0", CharacterSet::Unicode, u"\u2603.htm"},
+        // A document that can't hold it has a reference in its place.
+        {"rect \xe2\x98\x83.htm 0,0", CharacterSet::CodePage1252, u"&#9731;.htm"},
+    };
+    for (const Row& row : rows) {
+        frame.SetText(QString());
+        Box().SetHolds(row.holds);
+        Insert(row.map);
+        EXPECT_EQ(Box().Text(),
+                  Map(T(u"<AREA SHAPE=\"RECT\" COORDS=\"0,0\" HREF=\"") + T(row.link) + T(u"\">\r\n")))
+            << row.map.toStdString();
+    }
+}
+
 TEST_F(InsertImageMapTest, OneUndoTakesItBack) {
     frame.SetMarked("x[y]z");
     Box().EmptyUndoBuffer();
