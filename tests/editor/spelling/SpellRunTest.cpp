@@ -84,6 +84,17 @@ TEST_F(SpellRunTest, CorrectsTheFirstPiece) {
     EXPECT_EQ(frame.Box().Text(), u"the<b>fox</b> fox"_s);
 }
 
+TEST_F(SpellRunTest, FindsAndCorrectsBehindLettersBeyondTheCodePage) {
+    // Two units each, of four bytes.
+    const QString face = QString::fromUtf16(u"\U0001f600");
+    frame.Box().SetHolds(CharacterSet::Unicode);
+    frame.SetText(face + u"<p>"_s + face + u" teh "_s + face + u"</p> fxo "_s + face);
+    frame.Check({{"cmdChange", "the"}, {"cmdChange", "fo\xc5\xbe"}});
+    EXPECT_EQ(frame.Found(), u"8:teh 19:fxo"_s);
+    EXPECT_EQ(frame.Box().Text(), face + u"<p>"_s + face + u" the "_s + face + u"</p> fo\u017e "_s + face);
+    EXPECT_EQ(frame.Boxes(), Report(2, 2));
+}
+
 TEST_F(SpellRunTest, APieceKeepsItsColor) {
     frame.SetText(u"<p>teh</p>"_s);
     frame.Box().SetSelStart(0);

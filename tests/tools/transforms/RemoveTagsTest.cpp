@@ -103,6 +103,21 @@ TEST_F(RemoveTagsTest, LeavesAPageAsTheStepsOneByOneLeaveIt) {
     }
 }
 
+TEST_F(RemoveTagsTest, TextBeyondTheCodePageStays) {
+    // Two units each, of four bytes.
+    const QString face = T(u"\U0001f600");
+    for (const int selected : {0, 1}) {
+        Box().SetHolds(CharacterSet::Unicode);
+        frame.SetText(face + T(u"<B>") + face + T(u"</B>") + face + T(u"<I>"));
+        Box().SetSelStart(2);
+        Box().SetSelLength(selected * 9);
+        Remove();
+        EXPECT_EQ(Box().Text(), selected ? face.repeated(3) + T(u"<I>") : face.repeated(3));
+        EXPECT_EQ(Box().SelStart(), selected ? 4 : 6);
+        EXPECT_EQ(Box().SelLength(), 0);
+    }
+}
+
 TEST_F(RemoveTagsTest, WithoutADocumentNothingIsAsked) {
     frame.CloseDocument();
     Run(u"mnuRemoveTags");
