@@ -11,6 +11,7 @@
 #include <QCloseEvent>
 #include <QDate>
 #include <QLocale>
+#include <QScreen>
 #include <QTimer>
 
 namespace {
@@ -91,7 +92,9 @@ void frmTime::ComeUp() {
         return;
     }
     adjustSize();
-    move(owner.geometry().bottomRight() - QPoint(width(), height()) - distance);
+    const QRect onScreen = owner.geometry() & owner.screen()->availableGeometry();
+    const QRect& place = onScreen.isEmpty() ? owner.geometry() : onScreen;
+    move(place.bottomRight() - QPoint(width(), height()) - distance);
     show();
 }
 

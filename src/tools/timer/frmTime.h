@@ -23,8 +23,8 @@ class frmTime final : public QDialog {
     ~frmTime() override;
 
     void reject() override;
-    /// Shows it in the frame's lower right corner, once the frame itself is there: a window that comes up
-    /// before its owner stays behind it.
+    /// Shows it in the lower right corner of what the screen has of the frame, once the frame itself is
+    /// there: a window that comes up before its owner stays behind it.
     void ComeUp();
 
   protected:

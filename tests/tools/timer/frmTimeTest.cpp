@@ -13,6 +13,7 @@
 #include <QLocale>
 #include <QPlainTextEdit>
 #include <QPushButton>
+#include <QScreen>
 #include <QTimer>
 
 namespace {
@@ -76,6 +77,13 @@ TEST_F(frmTimeTest, StandsInTheLowerRightCornerOfTheFrame) {
     EXPECT_TRUE(frame.window->geometry().contains(place));
     EXPECT_GT(place.left(), frame.window->geometry().center().x());
     EXPECT_GT(place.top(), frame.window->geometry().center().y());
+}
+
+TEST_F(frmTimeTest, StaysOnTheScreenWithAFrameThatIsPartlyOffIt) {
+    const QRect screen = frame.window->screen()->availableGeometry();
+    frame.window->move(screen.bottomRight() - QPoint(frame.window->width(), frame.window->height()) / 2);
+    EXPECT_TRUE(screen.contains(Timer().geometry()));
+    EXPECT_TRUE(frame.window->geometry().contains(Timer().geometry()));
 }
 
 TEST_F(frmTimeTest, EachTickShowsTenSecondsMore) {
