@@ -269,6 +269,28 @@ TEST_F(frmTemplateOf, TimerComesUpOnlyIfUsed) {
     EXPECT_TRUE(run->frame->isActiveWindow());
 }
 
+TEST_F(frmTemplateOf, TheTimerGoesWithAnyDocumentAndTheNextOneBringsAnother) {
+    With(Keys::UseWebTimer, "1");
+    run->New().txtInput().SetSelText(QStringLiteral("x"));
+    Forms& forms = run->frame->LoadedForms();
+    const auto lines = [this] {
+        return run->frame->Store().Read(Keys::DateList).count(QStringLiteral(" - 0 Hrs 0 Mins 0 Secs"));
+    };
+    // A document that stays keeps its timer.
+    run->prompts.messageAnswers = {MsgAnswer::Cancel, MsgAnswer::No};
+    EXPECT_FALSE(run->Active().Unload());
+    EXPECT_NE(forms.Find<frmTime>(), nullptr);
+    EXPECT_EQ(lines(), 0);
+    // The other one is open still, and has none from now on.
+    EXPECT_TRUE(run->Active().Unload());
+    EXPECT_EQ(forms.Find<frmTime>(), nullptr);
+    EXPECT_EQ(lines(), 1);
+    EXPECT_NE(run->frame->ActiveForm(), nullptr);
+    run->New();
+    EXPECT_NE(forms.Find<frmTime>(), nullptr);
+    EXPECT_EQ(lines(), 1);
+}
+
 TEST_F(frmTemplateOf, TextCoversTheInsideAndItsBorderLiesOutside) {
     frmTemplate& document = Fresh();
     const QSize inside = document.widget()->size();

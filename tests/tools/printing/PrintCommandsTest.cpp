@@ -284,6 +284,24 @@ QString Joined(QString text) {
     return text.remove(blanks);
 }
 
+TEST_F(PrintTest, PagesOfTextBeyondTheCodePageComeOutWhole) {
+    if (!HasPoppler())
+        GTEST_SKIP() << "no pdftotext";
+    const QString pdf = TestFolder() + u"/out.pdf"_s;
+    QString text;
+    for (int line = 1; line <= 150; ++line)
+        text += u"<p>\u03bb\u03cc\u03b3\u03bf\u03c2 \U0001d538 %1</p>\r\n"_s.arg(line);
+    frame.Box().SetHolds(CharacterSet::Unicode);
+    frame.SetText(text);
+    UsePdf(pdf);
+    Print();
+    EXPECT_GT(PagesOf(pdf), 2);
+    // Which fonts have the letter of two units, and whether it comes back, is the machine's; the page ends
+    // are found by its units all the same.
+    const auto withoutIt = [](const QString& from) { return Joined(from).remove(u"\U0001d538"_s); };
+    EXPECT_EQ(withoutIt(Run(u"pdftotext"_s, {u"-raw"_s, pdf, u"-"_s})), withoutIt(text));
+}
+
 TEST_F(PrintTest, ThePagesOfTheExampleSiteComeOutWhole) {
     if (!HasPoppler())
         GTEST_SKIP() << "no pdftotext";
