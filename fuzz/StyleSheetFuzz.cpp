@@ -40,9 +40,9 @@ void CheckEscapes(const uint8_t* data, size_t size) {
     QString text(static_cast<qsizetype>(size / 2), Qt::Uninitialized);
     for (qsizetype i = 0; i < text.size(); ++i)
         text[i] = QChar(static_cast<char16_t>(data[2 * i] * 256 + data[2 * i + 1]));
-    const QString escaped = WithEscapes(text);
+    const QString escaped = WithEscapes(text, CharacterSet::CodePage1252);
     Demand(std::ranges::all_of(escaped, [](QChar c) { return Cp1252::ToCode(c) >= 0; }));
-    Demand(WithEscapes(escaped) == escaped);
+    Demand(WithEscapes(escaped, CharacterSet::CodePage1252) == escaped);
     SheetBox box;
     box.AppendLine(text);
     Demand(box.Text().endsWith(QStringLiteral("\r\n")));

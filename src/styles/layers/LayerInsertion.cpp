@@ -6,6 +6,7 @@
 #include "platform/text/RichTextBox.h"
 #include "platform/text/UndoAction.h"
 #include "platform/values/Values.h"
+#include "styles/sheet/PrintedLine.h"
 
 #include <limits>
 
@@ -39,5 +40,5 @@ void InsertClass(Frame& frame, const QString& text, ClassPlace place) {
         txtInput->SetSelText(QString());
         txtInput->SetSelColor(*color);
     }
-    txtInput->SetSelText(text);
+    txtInput->SetSelText(WithEscapes(text, txtInput->Holds()));
 }

@@ -14,8 +14,8 @@ bool IsInside(QChar character) {
 
 } // namespace
 
-QString WithEscapes(const QString& text) {
-    if (std::ranges::all_of(text, IsInside))
+QString WithEscapes(const QString& text, CharacterSet holds) {
+    if (holds == CharacterSet::Unicode || std::ranges::all_of(text, IsInside))
         return text;
     QString escaped;
     for (const uint character : text.toUcs4()) {
@@ -29,5 +29,5 @@ QString WithEscapes(const QString& text) {
 }
 
 QByteArray PrintedLine(const QString& text) {
-    return Cp1252::ToBytes(WithEscapes(Values::Trim(text))) + "\r\n";
+    return Cp1252::ToBytes(WithEscapes(Values::Trim(text), CharacterSet::CodePage1252)) + "\r\n";
 }

@@ -9,7 +9,6 @@
 #include "platform/store/Settings.h"
 #include "platform/store/WholeFile.h"
 #include "platform/text/RichTextBox.h"
-#include "platform/values/Cp1252.h"
 #include "styles/sheet/PrintedLine.h"
 
 namespace {
@@ -30,14 +29,15 @@ bool SaveToExternalFile(Frame& frame, QWidget* owner, const QString& sheet) {
 
 QString LinkTag(const QString& target, TagCase tagCase) {
     return u'<' + InCase(QStringLiteral("LINK "), tagCase) +
-           QStringLiteral("rel=\"stylesheet\" type=\"text/css\" href=\"") + Cp1252::Accept(target) +
+           QStringLiteral("rel=\"stylesheet\" type=\"text/css\" href=\"") + target +
            QStringLiteral("\"title=\" style1\">\r\n");
 }
 
 void ImportFile(Frame& frame, QWidget* owner) {
     QString target;
     if (const auto path = PickFile(frame, owner, {.filter = sheetFilter}))
-        target = FieldPath(frame, *path, {.absolute = false, .forwardSlash = true}).value_or(QString());
+        target =
+            FieldPath(frame, *path, {.absolute = false, .forwardSlash = true}, owner).value_or(QString());
     RichTextBox* txtInput = ActiveText(frame);
     if (!txtInput)
         return;

@@ -15,7 +15,7 @@ const QString lineEnd = QStringLiteral("\r\n");
 std::optional<QString> WithoutLastLineEnd(const QString& sheet) {
     if (sheet.size() < lineEnd.size())
         return std::nullopt;
-    return WithEscapes(sheet.chopped(lineEnd.size()));
+    return sheet.chopped(lineEnd.size());
 }
 
 } // namespace
@@ -36,12 +36,12 @@ void AddToHeader(Frame& frame, const QString& sheet) {
     const QString head = QStringLiteral("<HEAD>");
     // Where there is no such tag the search gives -1, and the block goes in at 5.
     txtInput->SetSelStart(txtInput->Find(head) + static_cast<int>(head.size()));
-    txtInput->SetSelText(HeadBlock(sheet, TagCaseOf(frame.Store())));
+    txtInput->SetSelText(WithEscapes(HeadBlock(sheet, TagCaseOf(frame.Store())), txtInput->Holds()));
 }
 
 void AddToLocation(Frame& frame, const QString& sheet) {
     RichTextBox* txtInput = ActiveText(frame);
     const auto rules = WithoutLastLineEnd(sheet);
     if (txtInput && rules)
-        txtInput->SetSelText(*rules);
+        txtInput->SetSelText(WithEscapes(*rules, txtInput->Holds()));
 }

@@ -78,4 +78,20 @@ TEST(LayerInsertion, WithoutADocumentNothingHappens) {
     EXPECT_TRUE(frame.prompts.asked.isEmpty());
 }
 
+// A reference would be no part of the class's name.
+TEST(LayerInsertion, ACharacterThatThePageCannotHoldIsAnEscape) {
+    TestFrame frame;
+    const QString snowman = QStringLiteral(".\u2603 {}");
+    for (const ClassPlace place : {ClassPlace::Selection, ClassPlace::HeadEnd}) {
+        frame.Box().SetHolds(CharacterSet::CodePage1252);
+        frame.SetMarked("|");
+        InsertClass(frame, snowman, place);
+        EXPECT_EQ(frame.Box().Text(), QStringLiteral(".\\2603  {}"));
+        frame.Box().SetHolds(CharacterSet::Unicode);
+        frame.SetMarked("|");
+        InsertClass(frame, snowman, place);
+        EXPECT_EQ(frame.Box().Text(), snowman);
+    }
+}
+
 } // namespace

@@ -28,8 +28,10 @@ TEST(PrintedLine, TrimsBlanksAloneAndEndsTheLine) {
 }
 
 TEST(PrintedLine, EscapesNothingThatFits) {
-    EXPECT_EQ(WithEscapes(T(u"\u20AC \\ & \u00FF")), T(u"\u20AC \\ & \u00FF"));
-    EXPECT_EQ(WithEscapes(T(u"\u0100")), QStringLiteral("\\100 "));
+    constexpr auto page = CharacterSet::CodePage1252;
+    EXPECT_EQ(WithEscapes(T(u"\u20AC \\ & \u00FF"), page), T(u"\u20AC \\ & \u00FF"));
+    EXPECT_EQ(WithEscapes(T(u"\u0100"), page), QStringLiteral("\\100 "));
+    EXPECT_EQ(WithEscapes(T(u"\u0100"), CharacterSet::Unicode), T(u"\u0100"));
 }
 
 } // namespace

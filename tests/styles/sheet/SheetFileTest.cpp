@@ -158,8 +158,8 @@ TEST(LinkTag, HasNoBlankBeforeItsTitleAndOneInIt) {
          u"<LINK rel=\"stylesheet\" type=\"text/css\" href=\"\"title=\" style1\">\r\n",
          u"<link rel=\"stylesheet\" type=\"text/css\" href=\"\"title=\" style1\">\r\n"},
         {[](TagCase tagCase) { return LinkTag(T(u"B\u2603.CSS"), tagCase); },
-         u"<LINK rel=\"stylesheet\" type=\"text/css\" href=\"B&#9731;.CSS\"title=\" style1\">\r\n",
-         u"<link rel=\"stylesheet\" type=\"text/css\" href=\"B&#9731;.CSS\"title=\" style1\">\r\n"},
+         u"<LINK rel=\"stylesheet\" type=\"text/css\" href=\"B\u2603.CSS\"title=\" style1\">\r\n",
+         u"<link rel=\"stylesheet\" type=\"text/css\" href=\"B\u2603.CSS\"title=\" style1\">\r\n"},
     });
 }
 
@@ -201,6 +201,18 @@ TEST_F(SheetFileTest, ALinkTurnsBackslashes) {
     EXPECT_EQ(Text(), Link("../css/b.css") + T(u"</HEAD>"));
 }
 
+TEST_F(SheetFileTest, ALinkHoldsWhatThePageHolds) {
+    frame.active->caption = T(u"C:\\site\\a.htm");
+    const std::pair<CharacterSet, const char16_t*> rows[] = {{CharacterSet::CodePage1252, u"&#9731;.css"},
+                                                             {CharacterSet::Unicode, u"\u2603.css"}};
+    for (const auto& [holds, target] : rows) {
+        frame.SetMarked("</HEAD>|");
+        frame.Box().SetHolds(holds);
+        Import(ScriptedPrompts::Picked(T(u"C:\\site\\\u2603.css")));
+        EXPECT_TRUE(Text().contains(T(u"href=\"%1\"title").arg(T(target)))) << Text().toStdString();
+    }
+}
+
 TEST_F(SheetFileTest, ACancelledImportLinksToNothing) {
     frame.SetMarked("<head></head>|");
     Import(ScriptedPrompts::Cancelled());
@@ -240,6 +252,7 @@ TEST_F(SheetFileTest, AnUnsavedPageGetsTheBoxAndTheLink) {
     Import(ScriptedPrompts::Picked(T(u"C:\\site\\b.css")));
     ASSERT_EQ(frame.prompts.Messages().size(), 1);
     EXPECT_TRUE(frame.prompts.Messages().first().startsWith(T(u"I am unable to complete")));
+    EXPECT_EQ(frame.prompts.asked.last().owner, form);
     EXPECT_EQ(Text(), Link("site/b.css") + T(u"</HEAD>"));
 }
 

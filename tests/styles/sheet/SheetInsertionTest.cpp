@@ -113,4 +113,24 @@ TEST(SheetInsertion, ReadsTheCaseAtThatMoment) {
     EXPECT_EQ(frame.Box().Text(), QStringLiteral("<HEAD>") + HeadBlock(sheet, TagCase::Lower));
 }
 
+// In a style sheet a reference stands for nothing: what the document can't hold is an escape there.
+TEST(SheetInsertion, ACharacterThatThePageCannotHoldIsAnEscape) {
+    TestFrame frame;
+    const QString snowman = T(u".\u2603 {  }\r\n");
+    const std::pair<CharacterSet, QString> rows[] = {
+        {CharacterSet::CodePage1252, QStringLiteral(".\\2603  {  }")},
+        {CharacterSet::Unicode, T(u".\u2603 {  }")},
+    };
+    for (const auto& [holds, rule] : rows) {
+        frame.Box().SetHolds(holds);
+        frame.SetMarked("a|b");
+        AddToLocation(frame, snowman);
+        EXPECT_EQ(frame.Box().Text(), u'a' + rule + u'b');
+        frame.SetMarked("<HEAD>|");
+        AddToHeader(frame, snowman);
+        EXPECT_EQ(frame.Box().Text(),
+                  QStringLiteral("<HEAD>") + HeadBlock(rule + QStringLiteral("\r\n"), TagCase::AsWritten));
+    }
+}
+
 } // namespace
