@@ -6,32 +6,13 @@
 #include "builders/tables/Grid.h"
 #include "dialogs/DialogState.h"
 #include "dialogs/frmImage.h"
+#include "support/DarkPalette.h"
 #include "support/Site.h"
 #include <QDir>
-#include <QStyleFactory>
 #include <QTabBar>
 #include <QTimer>
 
 namespace {
-
-QPalette Dark() {
-    QPalette dark;
-    const QColor window(0x2b, 0x2b, 0x2b);
-    const QColor text(0xee, 0xee, 0xee);
-    dark.setColor(QPalette::Window, window);
-    dark.setColor(QPalette::WindowText, text);
-    dark.setColor(QPalette::Base, QColor(0x1e, 0x1e, 0x1e));
-    dark.setColor(QPalette::AlternateBase, window);
-    dark.setColor(QPalette::Text, text);
-    dark.setColor(QPalette::Button, QColor(0x3a, 0x3a, 0x3a));
-    dark.setColor(QPalette::ButtonText, text);
-    dark.setColor(QPalette::Highlight, QColor(0x2a, 0x82, 0xda));
-    dark.setColor(QPalette::HighlightedText, Qt::black);
-    dark.setColor(QPalette::PlaceholderText, Qt::gray);
-    for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
-        dark.setColor(QPalette::Disabled, role, QColor(0x80, 0x80, 0x80));
-    return dark;
-}
 
 class FormPictures : public DialogTest {
   protected:
@@ -99,7 +80,7 @@ TEST_F(FormPictures, OfEveryDialog) {
         GTEST_SKIP() << "TARNWICK_PICTURES names no folder";
     ASSERT_TRUE(QDir().mkpath(folder));
     if (qEnvironmentVariableIsSet("TARNWICK_DARK"))
-        QApplication::setPalette(Dark());
+        QApplication::setPalette(DarkPalette());
     frame.SetText(QStringLiteral("<BODY BGCOLOR=\"#FFFFCC\" TEXT=\"#333333\" VLINK=\"#800080\">"));
     ShowBulletList(frame, ListKind::Bullets);
     form = frame.LoadedForms().Find<frmBulletList>();

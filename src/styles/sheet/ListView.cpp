@@ -35,6 +35,9 @@ ListView::ListView(QWidget* parent) : QTreeWidget(parent) {
     setAllColumnsShowFocus(true);
     setEditTriggers(NoEditTriggers);
     setSelectionMode(SingleSelection);
+    // By itself a header keeps its column at a width of its own, and a narrow list scrolls sideways.
+    header()->setMinimumSectionSize(1);
+    header()->setStretchLastSection(false);
     header()->setSectionResizeMode(QHeaderView::Stretch);
 }
 

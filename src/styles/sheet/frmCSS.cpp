@@ -1,5 +1,6 @@
 #include "styles/sheet/frmCSS.h"
 
+#include "dialogs/Icons.h"
 #include "dialogs/ListKeys.h"
 #include "editor/frame/Forms.h"
 #include "editor/frame/Frame.h"
@@ -11,6 +12,7 @@
 #include "ui_frmCSS.h"
 
 #include <QKeyEvent>
+#include <QResizeEvent>
 #include <QScreen>
 #include <QShortcut>
 #include <QStyle>
@@ -62,9 +64,18 @@ void frmCSS::WireToolbar() {
     connect(ui_->tb_Add, &QAction::triggered, elements_, &ElementList::Add);
     connect(ui_->tb_Rename, &QAction::triggered, elements_, &ElementList::Rename);
     connect(ui_->tb_Remove, &QAction::triggered, elements_, &ElementList::Remove);
+    ui_->tb_Save->setIcon(LineIcon(QStringLiteral("save")));
+    ui_->tb_Header->setIcon(LineIcon(QStringLiteral("sheet-head")));
+    ui_->tb_Location->setIcon(LineIcon(QStringLiteral("sheet-caret")));
+    ui_->tb_Import->setIcon(LineIcon(QStringLiteral("link")));
+    ui_->tb_Add->setIcon(LineIcon(QStringLiteral("element-add")));
+    ui_->tb_Rename->setIcon(LineIcon(QStringLiteral("element-rename")));
+    ui_->tb_Remove->setIcon(LineIcon(QStringLiteral("delete")));
     // What shows the buttons that a narrow form has no room for.
-    if (auto* more = ui_->Toolbar1->findChild<QWidget*>(QStringLiteral("qt_toolbar_ext_button")))
+    if (auto* more = ui_->Toolbar1->findChild<QToolButton*>(QStringLiteral("qt_toolbar_ext_button"))) {
         more->setAccessibleName(tr("More buttons"));
+        more->setIcon(LineIcon(QStringLiteral("more")));
+    }
     // Behind the last field comes the first button, and the lists behind the last one.
     QWidget* before = ui_->txtCSS;
     for (QAction* action : ui_->Toolbar1->actions()) {
@@ -98,6 +109,15 @@ bool frmCSS::event(QEvent* event) {
     if (event->type() == QEvent::WindowActivate)
         DisplayCSS();
     return QDialog::event(event);
+}
+
+void frmCSS::resizeEvent(QResizeEvent* event) {
+    QDialog::resizeEvent(event);
+    QToolBar& toolbar = *ui_->Toolbar1;
+    if (toolbar.toolButtonStyle() == Qt::ToolButtonTextBesideIcon)
+        widthWithIcons_ = toolbar.sizeHint().width();
+    toolbar.setToolButtonStyle(toolbar.width() < widthWithIcons_ ? Qt::ToolButtonTextOnly
+                                                                 : Qt::ToolButtonTextBesideIcon);
 }
 
 void frmCSS::reject() {

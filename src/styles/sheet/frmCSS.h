@@ -27,6 +27,8 @@ class frmCSS final : public QDialog {
 
   protected:
     bool event(QEvent* event) override;
+    /// The toolbar's icons go where they would push buttons out of sight; their words stay.
+    void resizeEvent(QResizeEvent* event) override;
 
   private:
     void WireLists();
@@ -56,4 +58,5 @@ class frmCSS final : public QDialog {
     std::unique_ptr<Ui::frmCSS> ui_;
     ElementList* elements_;
     PropertyLists* properties_;
+    int widthWithIcons_ = 0; ///< of the toolbar, in pixels
 };

@@ -5,6 +5,7 @@
 #include <gtest/gtest.h>
 #include <QAccessible>
 #include <QHeaderView>
+#include <QScrollBar>
 #include <QSignalSpy>
 #include <QTest>
 
@@ -30,6 +31,15 @@ class ListViewTest : public testing::Test {
     QSignalSpy keys{&list, &ListView::KeyUp};
     QSignalSpy letters{&list, &ListView::LetterUp};
 };
+
+TEST_F(ListViewTest, ANarrowOneDoesNotScrollSideways) {
+    for (int row = 0; row < 40; ++row)
+        list.AddRow(QStringLiteral("one more"));
+    list.resize(70, 100);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return list.verticalScrollBar()->isVisible(); }));
+    EXPECT_EQ(list.horizontalScrollBar()->maximum(), 0);
+    EXPECT_EQ(list.header()->sectionSize(0), list.viewport()->width());
+}
 
 TEST_F(ListViewTest, IsOneColumnUnderAHeadWithRowsSelectedWhole) {
     EXPECT_EQ(list.columnCount(), 1);

@@ -67,6 +67,20 @@ TEST_F(frmCSSTest, HasItsSevenButtonsInOrder) {
         EXPECT_TRUE(button.isVisible());
         EXPECT_EQ(button.text(), T(rows[i][0]).mid(3));
         EXPECT_EQ(button.accessibleName(), T(rows[i][1]));
+        EXPECT_FALSE(button.icon().isNull()) << T(rows[i][0]).toStdString();
+        EXPECT_EQ(button.toolButtonStyle(), Qt::ToolButtonTextBesideIcon);
+    }
+}
+
+TEST_F(frmCSSTest, ANarrowFormShowsTheButtonsWordsAlone) {
+    const auto& toolbar = Control<QToolBar>(T(u"Toolbar1"));
+    const auto& last = Control<QToolButton>(T(u"tb_Remove"));
+    for (const auto& [width, style] :
+         {std::pair(480, Qt::ToolButtonTextOnly), std::pair(800, Qt::ToolButtonTextBesideIcon),
+          std::pair(480, Qt::ToolButtonTextOnly)}) {
+        form->resize(width, form->height());
+        EXPECT_EQ(toolbar.toolButtonStyle(), style) << width;
+        EXPECT_TRUE(QTest::qWaitFor([&] { return last.isVisible(); })) << width;
     }
 }
 
