@@ -53,6 +53,11 @@ TEST_F(frmDHTMLTest, LooksAsItShould) {
     EXPECT_EQ(Items(T(u"cboVisibility")), T(u"inherit visible hidden").split(u' '));
 }
 
+TEST_F(frmDHTMLTest, FitsOnASmallScreen) {
+    EXPECT_LE(form->minimumSizeHint().width(), 500);
+    EXPECT_LE(form->minimumSizeHint().height(), 360);
+}
+
 TEST_F(frmDHTMLTest, TheZIndexIsAutoOrAnyOf501Numbers) {
     QStringList items = Items(T(u"cboZIndex"));
     ASSERT_EQ(items.size(), 502);
