@@ -79,6 +79,12 @@ TEST_F(frmTableTest, LooksAsItShould) {
     EXPECT_EQ(Seen(), T(u",;,"));
 }
 
+TEST_F(frmTableTest, FitsOnASmallScreenAndHasRoomForRowsOnOthers) {
+    EXPECT_LE(form->minimumSizeHint().width(), 500);
+    EXPECT_LE(form->minimumSizeHint().height(), 360);
+    EXPECT_GE(Grid1().height(), 190);
+}
+
 TEST_F(frmTableTest, WhatIsTypedFirstIsTheNumberOfRows) {
     ASSERT_TRUE(QTest::qWaitFor([&] { return QApplication::activeWindow() == form; }));
     QTest::keyClicks(form->focusWidget(), T(u"5"));
