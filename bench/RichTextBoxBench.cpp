@@ -185,7 +185,7 @@ BENCHMARK(KeyInALineOfTags)->Apply(LineLengths);
 BENCHMARK(KeyInALineOfBrackets)->Apply(LineLengths);
 
 void AssignRtf(benchmark::State& state) {
-    const QString rtf = Page(state.range(0), false);
+    const QString rtf = Page(state.range(0), Beyond::None);
     for ([[maybe_unused]] auto step : state) {
         RichTextBox box;
         box.SetSelRTF(rtf);
