@@ -33,7 +33,6 @@ class FtpHandle {
     /// From now on what a connection has to say waits a moment for more: some servers cut off whoever begins
     /// the encryption of a data connection ahead of the command that it is for.
     void HoldBack() { holdsBack_ = true; }
-    bool IsHeldBack() const { return holdsBack_; }
     bool IsEncrypted() const { return encrypted_; }
     /// The next request makes a connection of its own: answers to the last one may still be under way.
     void ConnectAnew() { anew_ = true; }

@@ -129,11 +129,15 @@ bool FtpSession::Rename(const QString& name, const QString& newName) {
     return CanSend(name) && CanSend(newName) && Run({"RNFR " + PathOf(name), "RNTO " + PathOf(newName)});
 }
 
-/// Again where the server does not let a data connection come about: with the encryption begun later, and
-/// then with the connection made from the other side.
+/// Again where the server does not let a data connection come about: with the encryption begun later, some
+/// times since on a busy machine that too can come at a bad moment, and then with the connection made from
+/// the other side.
 CURLcode FtpSession::Try(const Transfer& transfer) {
+    constexpr int mostEncryptedTries = 4;
     CURLcode code = transfer();
-    if (handle_.IsEncrypted() && !handle_.IsHeldBack() && RefusesPassive(code, handle_.Answers())) {
+    for (int tries = 1;
+         tries < mostEncryptedTries && handle_.IsEncrypted() && RefusesPassive(code, handle_.Answers());
+         ++tries) {
         handle_.HoldBack();
         handle_.ConnectAnew();
         code = transfer();

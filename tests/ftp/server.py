@@ -74,11 +74,17 @@ def serve(base):
     class Handler({"tls": TLS_FTPHandler}.get(base, FTPHandler)):
         authorizer = DummyAuthorizer()
         abstracted_fs = Folder
+        logins = 0
 
         def pre_process_command(self, line, cmd, arg):
             say("got", line)
-            if KIND.endswith("active") and cmd in ("PASV", "EPSV"):
+            Handler.logins += cmd == "PASS"
+            late = KIND.endswith("late") and Handler.logins < 3
+            if (late or KIND.endswith("active")) and cmd in ("PASV", "EPSV"):
                 return self.respond("502 No passive connections here.")
+            if KIND.endswith("late") and cmd == "PROT":
+                # An encrypted connection for files could come at a bad moment by itself.
+                return self.respond("534 Files go in the clear.")
             if KIND == "nowhere" and cmd == "PWD" and self.authenticated:
                 return self.respond("502 Who knows.")
             if KIND == "leaves" and cmd == "STOR" and "b.htm" in arg:
@@ -89,7 +95,8 @@ def serve(base):
     Handler.authorizer.add_anonymous(FOLDER)
     if base == "tls":
         Handler.certfile = certificate()
-        Handler.tls_control_required = Handler.tls_data_required = True
+        Handler.tls_control_required = True
+        Handler.tls_data_required = not KIND.endswith("late")
     server = FTPServer(("127.0.0.1", 0), Handler)
     say("port", server.address[1])
     server.serve_forever()
