@@ -78,10 +78,13 @@ void frmTable::WireSizes() {
 }
 
 bool frmTable::eventFilter(QObject* watched, QEvent* event) {
-    // A list that drops down and a menu are still within the field.
-    if (watched == ui_->txtRows && event->type() == QEvent::FocusOut &&
-        static_cast<QFocusEvent*>(event)->reason() != Qt::PopupFocusReason)
-        txtRows_LostFocus();
+    // A list that drops down and a menu are still within the field, and a box in front gives the keys back to
+    // it: an import's last one would take a row of what was imported.
+    if (watched == ui_->txtRows && event->type() == QEvent::FocusOut) {
+        const Qt::FocusReason reason = static_cast<QFocusEvent*>(event)->reason();
+        if (reason != Qt::PopupFocusReason && reason != Qt::ActiveWindowFocusReason)
+            txtRows_LostFocus();
+    }
     return TagDialog::eventFilter(watched, event);
 }
 

@@ -258,6 +258,15 @@ TEST_F(frmTableTest, ThePickOfTheSameSizeForgetsTheCellsAndLeavingAFieldDoesNot)
     }
 }
 
+TEST_F(frmTableTest, ABoxThatComesInFrontIsNoLeavingOfTheRows) {
+    Grid1().SetRows(7);
+    for (const Qt::FocusReason reason : {Qt::ActiveWindowFocusReason, Qt::PopupFocusReason}) {
+        QFocusEvent goes(QEvent::FocusOut, reason);
+        QCoreApplication::sendEvent(&Control<QWidget>(T(u"txtRows")), &goes);
+        EXPECT_EQ(Grid1().Rows(), 7);
+    }
+}
+
 TEST_F(frmTableTest, LeavingTheRowsSetsTheGridsRowsOnceMore) {
     form->activateWindow();
     ASSERT_TRUE(QTest::qWaitForWindowActive(form));
