@@ -30,7 +30,10 @@ frmDHTML::frmDHTML(Frame& frame) : TagDialog(frame), ui_(std::make_unique<Ui::fr
             [this](const QWidget*, const QWidget* now) { FocusMoved(now); });
 }
 
-frmDHTML::~frmDHTML() = default;
+frmDHTML::~frmDHTML() {
+    // The focus moves once more as the controls go, when this is no more than a widget.
+    disconnect(qApp, nullptr, this, nullptr);
+}
 
 void frmDHTML::FocusMoved(const QWidget* now) {
     if (now && isAncestorOf(now))
