@@ -5,7 +5,6 @@
 #include "platform/text/RtfWriter.h"
 #include "platform/text/StretchMeasure.h"
 #include "platform/text/TextPrinter.h"
-#include "platform/text/TextRemoval.h"
 
 #include <algorithm>
 #include <QApplication>
@@ -172,13 +171,7 @@ void RichTextBox::Remove(std::span<const CharRange> stretches) {
     if (stretches.empty())
         return;
     const Settling settling(*this);
-    std::vector<ByteRange> gone = buffer_.FromChars(stretches);
-    const ByteRange around{gone.front().start, gone.back().end};
-    const StyledText whole{buffer_.InPlace(around).toByteArray(), colors_.StylesOf(around)};
-    for (ByteRange& stretch : gone)
-        stretch = {stretch.start - around.start, stretch.end - around.start};
-    const StyledText rest = Without(whole, gone);
-    editing_.Replace(around, rest.text, rest.styles);
+    editing_.ReplaceEach(buffer_.FromChars(stretches), QByteArray());
     colors_.ForgetTyping();
 }
 
@@ -308,7 +301,7 @@ int RichTextBox::ReplaceEach(const QString& text, const QString& replacement, in
     const Settling settling(*this);
     const ByteRange range{buffer_.ByteFromChar(std::max(start, 0)), buffer_.Bytes()};
     const std::vector<ByteRange> matches = search_.Each(text, range, gap, options);
-    editing_.ReplaceEach(matches, replacement.toUtf8());
+    editing_.ReplaceEach(matches, editing_.Held(replacement));
     return static_cast<int>(matches.size());
 }
 

@@ -169,6 +169,15 @@ TEST_F(RichTextFindTest, WhereNothingIsReplacedNothingChanges) {
     EXPECT_EQ(Signalled(), QStringList());
 }
 
+TEST_F(RichTextFindTest, AReplacementTakesInWhatTheDocumentHolds) {
+    box.SetText(u"aba"_s);
+    EXPECT_EQ(box.ReplaceEach(u"a"_s, u"é☃"_s, 0, 0), 2);
+    EXPECT_EQ(box.Text(), u"é&#9731;bé&#9731;"_s);
+    box.SetHolds(CharacterSet::Unicode);
+    EXPECT_EQ(box.ReplaceEach(u"b"_s, u"☃"_s, 0, 0), 1);
+    EXPECT_EQ(box.Text(), u"é&#9731;☃é&#9731;"_s);
+}
+
 TEST_F(RichTextFindTest, ATextFromOutsideIsToldAsItWouldComeIn) {
     EXPECT_EQ(box.Incorporated(u"a\nb\rc\r\nd☃"_s), u"a\r\nb\r\nc\r\nd&#9731;"_s);
     box.SetText(u"x\ny"_s);
