@@ -62,8 +62,12 @@ int ToCode(QChar character) {
     return CodeOf(character.unicode());
 }
 
+bool Holds(QStringView text) {
+    return std::all_of(text.begin(), text.end(), IsInside);
+}
+
 QString Accept(QStringView text) {
-    if (std::all_of(text.begin(), text.end(), IsInside))
+    if (Holds(text))
         return text.toString();
     QString accepted;
     accepted.reserve(text.size());

@@ -14,6 +14,8 @@ QByteArray ToBytes(QStringView text);
 QChar FromCode(int code);
 /// The code of a character, or -1 if it is outside the code page.
 int ToCode(QChar character);
+/// Whether every character of a text is one of the code page's.
+bool Holds(QStringView text);
 /// Text from outside (clipboard, keyboard, drop) as a document can hold it: a character outside the code page
 /// becomes its decimal character reference, "&#9731;", one for a surrogate pair.
 QString Accept(QStringView text);

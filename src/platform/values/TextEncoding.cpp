@@ -17,10 +17,6 @@ TextEncoding Declared(const QString& text) {
     return Declared(QByteArrayView(QStringView(text).left(declarationReach).toUtf8().left(declarationReach)));
 }
 
-bool FitsCodePage(const QString& text) {
-    return std::all_of(text.begin(), text.end(), [](QChar c) { return Cp1252::ToCode(c) >= 0; });
-}
-
 } // namespace
 
 bool IsUtf8(TextEncoding encoding) {
@@ -47,7 +43,7 @@ TextEncoding EncodingToSave(TextEncoding encoding, const QString& text) {
     if (encoding != TextEncoding::Ascii)
         return encoding;
     // So far the file has nothing beyond ASCII: no byte of it changes its meaning, whatever is chosen.
-    if (Declared(text) == TextEncoding::Utf8 || !FitsCodePage(text))
+    if (Declared(text) == TextEncoding::Utf8 || !Cp1252::Holds(text))
         return TextEncoding::Utf8;
     return TextEncoding::CodePage1252;
 }

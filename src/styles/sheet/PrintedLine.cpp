@@ -3,7 +3,6 @@
 #include "platform/values/Cp1252.h"
 #include "platform/values/Values.h"
 
-#include <algorithm>
 #include <QList>
 
 namespace {
@@ -15,7 +14,7 @@ bool IsInside(QChar character) {
 } // namespace
 
 QString WithEscapes(const QString& text, CharacterSet holds) {
-    if (holds == CharacterSet::Unicode || std::ranges::all_of(text, IsInside))
+    if (holds == CharacterSet::Unicode || Cp1252::Holds(text))
         return text;
     QString escaped;
     for (const uint character : text.toUcs4()) {

@@ -10,10 +10,6 @@
 
 namespace {
 
-bool IsInCodePage(QStringView text) {
-    return std::all_of(text.begin(), text.end(), [](QChar c) { return Cp1252::ToCode(c) >= 0; });
-}
-
 QString WithoutPadding(QString line) {
     while (line.endsWith(u' '))
         line.chop(1);
@@ -32,7 +28,7 @@ QByteArray CutToRecord(QByteArray utf8) {
 /// them, so it is written in UTF-8.
 QByteArray RecordOf(const QString& line) {
     const QString path = WithoutPadding(line);
-    const QByteArray bytes = IsInCodePage(path) ? Cp1252::ToBytes(path) : CutToRecord(path.toUtf8());
+    const QByteArray bytes = Cp1252::Holds(path) ? Cp1252::ToBytes(path) : CutToRecord(path.toUtf8());
     return bytes.leftJustified(ProjectRecordLength, ' ', true);
 }
 
@@ -41,7 +37,7 @@ QString LineOf(QByteArrayView record) {
     QStringDecoder decode(QStringDecoder::Utf8,
                           QStringDecoder::Flag::Stateless | QStringDecoder::Flag::ConvertInitialBom);
     const QString text = decode(record);
-    const QString line = decode.hasError() || IsInCodePage(text) ? Cp1252::FromBytes(record) : text;
+    const QString line = decode.hasError() || Cp1252::Holds(text) ? Cp1252::FromBytes(record) : text;
     return line.leftJustified(ProjectRecordLength);
 }
 

@@ -3,16 +3,12 @@
 #include "platform/values/Cp1252.h"
 #include "platform/values/Path.h"
 
-#include <algorithm>
-
 namespace {
 
 QByteArray Line(QString text) {
     // A name with a line end would become a command.
     text.removeIf([](QChar c) { return c == u'\r' || c == u'\n' || c == u'\0'; });
-    const bool inCodePage =
-        std::all_of(text.begin(), text.end(), [](QChar c) { return Cp1252::ToCode(c) >= 0; });
-    return (inCodePage ? Cp1252::ToBytes(text) : text.toUtf8()) + "\r\n";
+    return (Cp1252::Holds(text) ? Cp1252::ToBytes(text) : text.toUtf8()) + "\r\n";
 }
 
 /// The plain name of a file as the disk has it; empty where there is none. Padding is no part of it.

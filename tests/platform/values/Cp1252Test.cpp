@@ -18,6 +18,13 @@ TEST(Cp1252, AllBytesBothWays) {
     }
 }
 
+TEST(Cp1252, HoldsItsOwnCharactersAlone) {
+    EXPECT_TRUE(Cp1252::Holds(u""));
+    EXPECT_TRUE(Cp1252::Holds(u"caf\u00e9 \u20ac\u0081"));
+    EXPECT_FALSE(Cp1252::Holds(u"a\u0141"));
+    EXPECT_FALSE(Cp1252::Holds(u"\U0001F600"));
+}
+
 TEST(Cp1252, BytesFromTheMiddleHaveTheirOwnCharacters) {
     struct Row {
         int code;
