@@ -11,7 +11,7 @@ packages_test="x11-xkb-utils libgtest-dev libgmock-dev libbenchmark-dev at-spi2-
 # Real pages for the test that opens, saves and reopens them.
 packages_pages="zsh-doc libxml2-doc"
 # What packs the program and looks at the result.
-packages_package="dpkg-dev fakeroot file desktop-file-utils appstream lintian man-db"
+packages_package="dpkg-dev fakeroot file desktop-file-utils appstream lintian man-db mmdebstrap"
 packages_ci="clang clang-format libclang-rt-14-dev|libclang-rt-19-dev|libclang-rt-18-dev"
 
 installed() {

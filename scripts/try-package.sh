@@ -27,7 +27,8 @@ finish() {
 }
 trap finish EXIT
 
-mmdebstrap --quiet --variant=minbase bookworm "$root" >"$root.log" 2>&1 || {
+# Its lists of packages stay for what comes next, and nothing need be safe from a loss of power.
+mmdebstrap --quiet --variant=minbase --skip=cleanup/apt/lists --dpkgopt=force-unsafe-io bookworm "$root" >"$root.log" 2>&1 || {
     tail -n 5 "$root.log" >&2
     skip "A bare system could not be set up."
 }
@@ -38,7 +39,6 @@ files() { (cd "$root" && find usr etc opt -xdev \( -type f -o -type l \) | grep 
 
 mkdir "$root/packages"
 cp $debs "$root/packages/"
-inside apt-get update -q >/dev/null
 inside sh -c 'apt-get install -y -q --no-install-recommends fonts-dejavu-core /packages/*.deb' >/dev/null
 echo "Installed:" $(files | wc -l) "files."
 

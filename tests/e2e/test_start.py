@@ -1,4 +1,5 @@
 """Starts that end at once: on the terminal, and where there is no display."""
+import os
 import subprocess
 import sys
 from driver import main, wait_for, PROGRAM
@@ -36,6 +37,17 @@ def test_offscreen_no_display_is_needed(desk):
     # So this platform greets a window; it has no other way to be looked at.
     wait_for("its window", lambda: "propagateSizeHints" in desk.log())
     assert desk.program.poll() is None
+
+
+def test_where_there_is_no_display_a_picture_tells_what_it_looks_like(desk):
+    script = os.path.join(os.path.dirname(os.path.abspath(__file__)), "..", "..", "scripts", "screenshot.sh")
+    page = desk.write("page.htm", b"<HTML>\r\n<BODY>words</BODY>\r\n</HTML>\r\n")
+    picture = desk.path("pictures", "one.png")
+    env = {key: value for key, value in desk.env.items() if key not in ("DISPLAY", "WAYLAND_DISPLAY")}
+    told = subprocess.run([script, PROGRAM, page, picture, "1024x768"], env=env, capture_output=True, text=True, timeout=120)
+    assert told.returncode == 0 and picture in told.stdout, (told.returncode, told.stdout, told.stderr)
+    size, colors = subprocess.run(["identify", "-format", "%wx%h %k", picture], capture_output=True, text=True).stdout.split()
+    assert size == "1024x768" and int(colors) > 16, (size, colors)
 
 
 if __name__ == "__main__":

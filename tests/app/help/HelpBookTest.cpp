@@ -3,13 +3,17 @@
 
 #include "app/help/HelpFile.h"
 #include "app/RealFrame.h"
+#include "app/surface/Toolbar.h"
 #include "app/window/KnownForms.h"
+#include "platform/store/SettingsKeys.h"
 #include "support/SourceFolder.h"
 
 #include <QDir>
+#include <QDirIterator>
 #include <QMenu>
 #include <QMenuBar>
 #include <QRegularExpression>
+#include <QXmlStreamReader>
 
 using namespace Qt::StringLiterals;
 
@@ -57,10 +61,10 @@ TEST_F(HelpBookTest, ContentsNameEveryPageOnceAndNothingElse) {
 TEST_F(HelpBookTest, KeywordsLeadToPages) {
     const std::vector<HelpEntry> keywords = book.Keywords();
     EXPECT_FALSE(keywords.empty());
-    for (const HelpEntry& keyword : keywords) {
+    for (const HelpEntry& keyword : keywords)
         EXPECT_TRUE(book.Has(keyword.page.section(u'#', 0, 0))) << keyword.name.toStdString();
-        EXPECT_EQ(book.PageOf(keyword.name.toUpper()).isEmpty(), false);
-    }
+    EXPECT_EQ(book.PageOf(keywords.front().name.toUpper()), keywords.front().page);
+    EXPECT_EQ(book.PageOf(keywords.back().name.toUpper()), keywords.back().page);
     EXPECT_EQ(book.PageOf(u"no such word"_s), QString());
 }
 
@@ -121,6 +125,108 @@ TEST_F(HelpBookTest, EveryMenuEntryIsToldOnThePageOfItsMenu) {
         }
     }
     EXPECT_GT(entries, 120);
+}
+
+TEST_F(HelpBookTest, EveryButtonOfTheToolbarIsToldOnItsPage) {
+    const QString page = Page(u"Toolbar1.html"_s);
+    for (const ToolbarRow& button : ToolbarTable())
+        EXPECT_TRUE(page.contains(u"<TR><TD>%1</TD>"_s.arg(QLatin1String(button.toolTip)))) << button.toolTip;
+}
+
+TEST_F(HelpBookTest, EveryShortcutOfTheMenusIsInTheTableOfKeys) {
+    const QString keys = HelpTextOf(Page(u"keys.html"_s));
+    ProgramRun run;
+    run.Start();
+    int shortcuts = 0;
+    for (const QAction* entry : run.frame->menuBar()->findChildren<QAction*>())
+        if (const QString key = entry->shortcut().toString(QKeySequence::PortableText); !key.isEmpty()) {
+            ++shortcuts;
+            const QRegularExpression word(u"(?<![+\\w])%1(?!\\w)"_s.arg(QRegularExpression::escape(key)));
+            EXPECT_TRUE(keys.contains(word)) << key.toStdString();
+        }
+    EXPECT_GT(shortcuts, 20);
+}
+
+/// The names of the settings as the sources declare them: one for each row of numbered ones.
+QStringList DeclaredSettings() {
+    QStringList names;
+    for (const auto& [file, pattern] :
+         {std::pair(u"SettingsKeys.h"_s, u"In\\(\"[^\"]+\",\\s*\"([^\"]+)\""_s),
+          std::pair(
+              u"SettingsKeys.cpp"_s,
+              u"QStringLiteral\\(\"(?!Window Options|SpellCheck)(\\w+(?:\\(%1[^\"]*\\)|%1)?)\"\\)"_s)}) {
+        QFile source(SourceFolder() + u"/src/platform/store/"_s + file);
+        EXPECT_TRUE(source.open(QIODevice::ReadOnly));
+        const QString text = QString::fromUtf8(source.readAll());
+        for (auto all = QRegularExpression(pattern).globalMatch(text); all.hasNext();)
+            names << all.next().captured(1).replace(u"%1"_s, u"0"_s);
+    }
+    return names;
+}
+
+TEST_F(HelpBookTest, EverySettingIsToldOnThePageOfFiles) {
+    const QString page = HelpTextOf(Page(u"files.html"_s));
+    const QStringList names = DeclaredSettings();
+    EXPECT_GT(names.size(), 50);
+    EXPECT_TRUE(names.contains(Keys::Dir(0).key) && names.contains(Keys::CustomDic().key) &&
+                names.contains(Keys::ProjFile(0).key));
+    const QRegularExpression row(u"^(TextColor|EdTextColor)[1-4]$"_s);
+    for (const QString& name : names)
+        EXPECT_TRUE(row.match(name).hasMatch() || page.contains(name)) << name.toStdString();
+    EXPECT_TRUE(page.contains(Keys::DateList.key));
+}
+
+/// The words that a form's design shows: of labels, boxes, buttons and frames.
+QStringList CaptionsOf(const QString& form) {
+    QDirIterator files(SourceFolder() + u"/src"_s, {form + u".ui"_s}, QDir::Files,
+                       QDirIterator::Subdirectories);
+    if (!files.hasNext())
+        return {};
+    QFile file(files.next());
+    EXPECT_TRUE(file.open(QIODevice::ReadOnly));
+    QXmlStreamReader design(&file);
+    QStringList captions, within;
+    while (!design.atEnd()) {
+        design.readNext();
+        if (design.isEndElement())
+            within.removeLast();
+        if (!design.isStartElement())
+            continue;
+        const auto name = design.attributes().value(u"name"_s);
+        // The entries of a list are values, no captions.
+        if (design.name() == u"property"_s && (name == u"text"_s || name == u"title"_s) &&
+            within.last() != u"item"_s) {
+            design.readNextStartElement();
+            captions << design.readElementText();
+            design.skipCurrentElement();
+        } else {
+            within << design.name().toString();
+        }
+    }
+    return captions;
+}
+
+TEST_F(HelpBookTest, EveryCaptionOfADialogIsToldOnItsPage) {
+    const QString paths = HelpTextOf(Page(u"frmBody.html"_s));
+    int told = 0;
+    for (const FormRow& form : KnownForms()) {
+        const QString name = QString::fromLatin1(form.name);
+        const QString source = Page(name + u".html"_s);
+        const QString page = HelpTextOf(source) + (source.contains(u"#paths"_s) ? paths : QString());
+        for (QString caption : CaptionsOf(name)) {
+            // What a field is called, without the rest of its label.
+            caption = caption.remove(QRegularExpression(u"&|^< | >$"_s))
+                          .section(u" ("_s, 0, 0)
+                          .section(u":"_s, 0, 0)
+                          .trimmed();
+            if (QStringList{u""_s, u"OK"_s, u"Cancel"_s, u"Browse..."_s}.contains(caption))
+                continue;
+            ++told;
+            EXPECT_TRUE(page.contains(caption.remove(u"..."_s), Qt::CaseInsensitive))
+                << name.toStdString() << ": " << caption.toStdString();
+        }
+    }
+    EXPECT_GT(told, 150);
 }
 
 TEST_F(HelpBookTest, SearchFindsPagesThatHoldAllWords) {
