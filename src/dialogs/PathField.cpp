@@ -40,6 +40,8 @@ std::optional<QString> FieldPath(Frame& frame, const QString& fullPath, PathForm
 void PickIntoField(Frame& frame, QLineEdit& field, const QString& fullPath, PathForm form) {
     if (const auto path = FieldPath(frame, fullPath, form))
         field.setText(*path);
+    // The button that was pressed would take the next Enter for itself.
+    field.setFocus(Qt::OtherFocusReason);
 }
 
 void ConvertSlashes(QLineEdit& field, bool forward) {

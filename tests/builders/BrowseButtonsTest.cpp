@@ -91,6 +91,12 @@ TEST_P(BrowseButtonsTest, GoByTheTwoBoxes) {
     EXPECT_TRUE(frame.prompts.Messages().isEmpty());
 }
 
+TEST_P(BrowseButtonsTest, LeaveTheFieldWithTheFocusSoThatEnterIsOK) {
+    Control<QWidget>(T(GetParam().button)).setFocus();
+    Pick(u"C:\\site\\img\\b.gif");
+    EXPECT_EQ(form->focusWidget(), &Control<QWidget>(Target()));
+}
+
 TEST_P(BrowseButtonsTest, StartFromTheDocumentActiveAtThePick) {
     frame.NewDocument();
     frame.active->caption = T(u"C:\\site\\img\\c.htm");

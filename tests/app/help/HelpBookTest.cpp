@@ -128,7 +128,7 @@ TEST_F(HelpBookTest, EveryMenuEntryIsToldOnThePageOfItsMenu) {
 }
 
 TEST_F(HelpBookTest, EveryButtonOfTheToolbarIsToldOnItsPage) {
-    const QString page = Page(u"Toolbar1.html"_s);
+    const QString page = Page(u"toolbar.html"_s);
     for (const ToolbarRow& button : ToolbarTable())
         EXPECT_TRUE(page.contains(u"<TR><TD>%1</TD>"_s.arg(QLatin1String(button.toolTip)))) << button.toolTip;
 }
