@@ -22,7 +22,7 @@ struct PathForm {
 /// window unless another is given.
 std::optional<QString> FieldPath(Frame& frame, const QString& fullPath, PathForm form,
                                  QWidget* owner = nullptr);
-/// The same straight into a field.
+/// The same straight into a field, which gets the keys.
 void PickIntoField(Frame& frame, QLineEdit& field, const QString& fullPath, PathForm form);
 
 /// The whole text of a field with every \ as /, or with every / as \.

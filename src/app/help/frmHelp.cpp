@@ -6,11 +6,13 @@
 #include "editor/frame/Frame.h"
 #include "ui_frmHelp.h"
 
+#include <array>
 #include <QKeyEvent>
 #include <QPrintDialog>
 #include <QPrinter>
 #include <QShortcut>
 #include <QStyle>
+#include <QTabBar>
 #include <QTreeWidgetItemIterator>
 
 using namespace Qt::StringLiterals;
@@ -42,6 +44,7 @@ frmHelp::frmHelp(Frame& frame, std::shared_ptr<const HelpBook> book, QWidget* ow
     ui_->Page->SetBook(*book_);
     FillContents();
     FillIndex();
+    WireTabs();
     WirePages();
     WireButtons();
     ui_->Splitter->setStretchFactor(1, 1);
@@ -58,6 +61,17 @@ void frmHelp::FillContents() {
 void frmHelp::FillIndex() {
     for (const HelpEntry& entry : book_->Keywords())
         ui_->Keywords->addItem(Item(entry.name, entry.page));
+}
+
+void frmHelp::WireTabs() {
+    const QTabBar* strip = ui_->Tabs->tabBar();
+    connect(ui_->Tabs, &QTabWidget::currentChanged, this, [this, strip](int index) {
+        // The arrow keys go from tab to tab as long as they are in the strip.
+        if (focusWidget() == strip)
+            return;
+        const std::array<QWidget*, 3> first = {ui_->Contents, ui_->txtKeyword, ui_->txtSearch};
+        first.at(static_cast<size_t>(index))->setFocus();
+    });
 }
 
 void frmHelp::WirePages() {

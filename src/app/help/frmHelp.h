@@ -29,6 +29,7 @@ class frmHelp final : public QWidget {
     void closeEvent(QCloseEvent* event) override;
 
   private:
+    void WireTabs();
     void WirePages();
     void WireButtons();
     void FillContents();

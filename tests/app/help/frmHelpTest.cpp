@@ -13,6 +13,8 @@
 #include <QMenu>
 #include <QMenuBar>
 #include <QPushButton>
+#include <QTabBar>
+#include <QTabWidget>
 #include <QToolButton>
 #include <QTreeWidget>
 
@@ -140,6 +142,20 @@ TEST_F(frmHelpTest, TheIndexFindsAKeywordByItsFirstLetters) {
     EXPECT_EQ(Part<QListWidget>("Keywords").currentItem()->text(), u"<HR>"_s);
     QTest::keyClick(&Part<QLineEdit>("txtKeyword"), Qt::Key_Return);
     EXPECT_EQ(Shown(), u"frmHRInput.html"_s);
+}
+
+TEST_F(frmHelpTest, AListThatComesToSightTakesTheKeys) {
+    ShowHelp(*run.frame);
+    auto& tabs = Part<QTabWidget>("Tabs");
+    tabs.setCurrentIndex(2);
+    EXPECT_EQ(Help()->focusWidget(), &Part<QLineEdit>("txtSearch"));
+    tabs.setCurrentIndex(1);
+    EXPECT_EQ(Help()->focusWidget(), &Part<QLineEdit>("txtKeyword"));
+    tabs.setCurrentIndex(0);
+    EXPECT_EQ(Help()->focusWidget(), &Part<QTreeWidget>("Contents"));
+    tabs.tabBar()->setFocus();
+    tabs.setCurrentIndex(1);
+    EXPECT_EQ(Help()->focusWidget(), tabs.tabBar()) << "the arrow keys go on";
 }
 
 TEST_F(frmHelpTest, TheSearchListsPagesAndShowsTheFirst) {
