@@ -94,3 +94,7 @@ QIcon ToolbarIcon(const QString& key) {
 QIcon ProgramIcon() {
     return LineIcon(QStringLiteral("tarnwick"));
 }
+
+QIcon ModifiedIcon() {
+    return LineIcon(QStringLiteral("tarnwick-modified"));
+}

@@ -14,3 +14,5 @@ QIcon ToolbarIcon(const QString& key);
 
 /// The program's icon.
 QIcon ProgramIcon();
+/// The same with a dot, for a document whose text changed.
+QIcon ModifiedIcon();

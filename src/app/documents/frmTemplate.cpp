@@ -27,6 +27,7 @@
 #include <QMdiArea>
 #include <QMenu>
 #include <QTimer>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -130,6 +131,11 @@ void frmTemplate::SetCaption(const QString& path) {
     QString title = path;
     // A title takes "[*]" for the place of a change mark; doubled it is just text.
     setWindowTitle(title.replace(u"[*]"_s, u"[*][*]"_s));
+}
+
+void frmTemplate::SetModified(bool modified) {
+    if (std::exchange(modified_, modified) != modified)
+        Q_EMIT ModifiedChanged();
 }
 
 MsgAnswer frmTemplate::AskAboutSaving() {

@@ -42,7 +42,7 @@ class frmTemplate final : public QMdiSubWindow, public Document {
     QString Caption() const override { return caption_; }
     void SetCaption(const QString& path) override;
     bool Modified() const override { return modified_; }
-    void SetModified(bool modified) override { modified_ = modified; }
+    void SetModified(bool modified) override;
     TextEncoding Encoding() const override { return encoding_; }
     void SetEncoding(TextEncoding encoding) override;
     RichTextBox& txtInput() override { return *txtInput_; }
@@ -54,6 +54,10 @@ class frmTemplate final : public QMdiSubWindow, public Document {
 
     /// One shot: brings up the auto-fill list after a pause in typing.
     QTimer& Timer1() { return *timer1_; }
+
+  Q_SIGNALS:
+    /// The modified flag is another one than before.
+    void ModifiedChanged();
 
   protected:
     void showEvent(QShowEvent* event) override;

@@ -1,6 +1,7 @@
 #include "app/surface/MenuTree.h"
 
 #include "app/surface/CommandActions.h"
+#include "app/surface/ShownTextMenu.h"
 #include "app/window/KnownForms.h"
 
 #include <algorithm>
@@ -204,6 +205,15 @@ const MenuRow designed[] = {
 };
 // clang-format on
 
+/// Adds a menu to another one, or to the bar where there is no other.
+QMenu* AddMenu(QMenuBar& bar, QMenu* around, const MenuRow& row) {
+    QWidget* parent = around ? static_cast<QWidget*>(around) : &bar;
+    auto* menu = new ShownTextMenu(QString::fromLatin1(row.caption), parent);
+    menu->setObjectName(QString::fromLatin1(row.name));
+    parent->addAction(menu->menuAction());
+    return menu;
+}
+
 void AddSeparator(QMenu& menu, const MenuRow& row) {
     QAction* separator = menu.addSeparator();
     separator->setObjectName(QString::fromLatin1(row.name));
@@ -249,12 +259,9 @@ void BuildMenus(QMenuBar& bar, Frame& frame) {
     QVector<QMenu*> open;
     for (const MenuRow& row : MenuTree()) {
         switch (row.kind) {
-        case MenuRow::Menu: {
-            const QString caption = QString::fromLatin1(row.caption);
-            open.push_back(open.isEmpty() ? bar.addMenu(caption) : open.last()->addMenu(caption));
-            open.last()->setObjectName(QString::fromLatin1(row.name));
+        case MenuRow::Menu:
+            open.push_back(AddMenu(bar, open.isEmpty() ? nullptr : open.last(), row));
             break;
-        }
         case MenuRow::End:
             open.pop_back();
             break;

@@ -106,8 +106,12 @@ Toolbar1::Toolbar1(Frame& frame, QWidget* parent) : QWidget(parent), frame_(fram
     for (const ToolbarRow& row : ToolbarTable())
         AddButton(row);
     buttons_.first()->setFocusPolicy(Qt::TabFocus);
-    auto* reach = new QShortcut(Qt::Key_F6, this);
-    connect(reach, &QShortcut::activated, this, &Toolbar1::TakeFocus);
+    reach_ = new QShortcut(Qt::Key_F6, this);
+    connect(reach_, &QShortcut::activated, this, &Toolbar1::TakeFocus);
+}
+
+void Toolbar1::LeaveF6() {
+    reach_->setEnabled(false);
 }
 
 void Toolbar1::AddButton(const ToolbarRow& row) {

@@ -6,6 +6,7 @@
 #include <vector>
 
 class Frame;
+class QShortcut;
 class QToolButton;
 struct FormRow;
 
@@ -29,14 +30,19 @@ class Toolbar1 final : public QWidget {
   public:
     explicit Toolbar1(Frame& frame, QWidget* parent = nullptr);
 
+    /// Gives the focus to the button that had it last, or to the first.
+    void TakeFocus();
+    /// F6 is another's from now on.
+    void LeaveF6();
+
   protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
   private:
     void AddButton(const ToolbarRow& row);
-    void TakeFocus();
     void MoveFocus(qsizetype from, int step);
 
     Frame& frame_;
     QList<QToolButton*> buttons_;
+    QShortcut* reach_ = nullptr;
 };

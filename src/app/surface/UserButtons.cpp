@@ -6,6 +6,7 @@
 #include "editor/frame/Forms.h"
 #include "editor/frame/Frame.h"
 #include "editor/typing/UserButtonTexts.h"
+#include "platform/store/Settings.h"
 
 #include <algorithm>
 #include <QContextMenuEvent>
@@ -93,14 +94,26 @@ void UserButtons::SetCaption(int index, const QString& caption) {
     QPushButton* button = command1_[static_cast<size_t>(index)];
     button->setText(caption);
     // The face is small: the tip shows the whole caption, and a blank face is read as its number.
-    button->setToolTip(caption.toHtmlEscaped());
+    button->setToolTip(caption.trimmed().isEmpty() ? BlankTip() : caption.toHtmlEscaped());
     button->setAccessibleName(caption.isEmpty() ? tr("User button %1").arg(index + 1) : QString());
+}
+
+QString UserButtons::BlankTip() const {
+    if (!frame_.Store().ReadFlag(Keys::BlankButtonTips))
+        return QString();
+    return tr("A button for tags of your own: to fill it, click it with the right mouse button or press the "
+              "Menu key on it");
 }
 
 void UserButtons::TabStrip1_Click() {
     const bool first = tabStrip1_->tabText(tabStrip1_->currentIndex()) == QStringLiteral("User 1");
     frameButtons_[first ? 0 : 1]->show();
     frameButtons_[first ? 1 : 0]->hide();
+}
+
+void UserButtons::TakeFocus() {
+    const size_t page = tabStrip1_->currentIndex() == 0 ? 0 : 1;
+    command1_[page * buttonsPerPage]->setFocus(Qt::TabFocusReason);
 }
 
 UserButton UserButtons::Button(int index) const {

@@ -28,11 +28,16 @@ class UserButtons final : public QWidget {
     QString Caption(int index) const;
     void SetCaption(int index, const QString& caption);
 
+    /// Gives the focus to the first button of the page that is shown.
+    void TakeFocus();
+
   protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
   private:
     QWidget* MakePage(int page);
+    /// The tip of a button with a blank face: how to fill one.
+    QString BlankTip() const;
     void TabStrip1_Click();
     void Command1_Click(int index);
     void Edit(int index);

@@ -1,9 +1,13 @@
 #include "app/surface/WindowCommands.h"
 
+#include "app/documents/DocumentName.h"
+#include "app/documents/frmTemplate.h"
+#include "app/surface/ShownTextMenu.h"
 #include "app/window/WindowPlace.h"
 #include "editor/frame/Commands.h"
 #include "editor/frame/Document.h"
 #include "editor/frame/Frame.h"
+#include "platform/store/Settings.h"
 
 #include <QActionGroup>
 #include <QMdiArea>
@@ -49,9 +53,7 @@ void mnuArrangeIcons_Click(QMdiArea& area) {
 }
 
 // "&1 /home/u/a.htm": a digit key for the first nine windows. A document without a file has a blank name.
-QString ListCaption(int number, const QMdiSubWindow& window) {
-    const auto* document = dynamic_cast<const Document*>(&window);
-    QString name = document ? document->Caption() : window.windowTitle();
+QString ListCaption(int number, QString name) {
     name.replace(u'&', u"&&"_s);
     return u"%1%2 %3"_s.arg(number < 10 ? u"&"_s : QString()).arg(number).arg(name);
 }
@@ -82,7 +84,11 @@ class WindowList : public QObject {
     }
 
     void AddWindow(int number, QMdiSubWindow* window) {
-        auto* entry = new QAction(ListCaption(number, *window), entries_.get());
+        const auto* document = qobject_cast<const frmTemplate*>(window);
+        const QString name = document ? document->Caption() : window->windowTitle();
+        auto* entry = new QAction(ListCaption(number, name), entries_.get());
+        if (document && name.isEmpty() && frame_.Store().ReadFlag(Keys::UntitledNames))
+            ShownTextMenu::SetShownText(*entry, ListCaption(number, DocumentName(*document)));
         entry->setObjectName(u"mnuWindowList_%1"_s.arg(number));
         entry->setCheckable(true);
         entry->setChecked(frame_.ActiveForm() == dynamic_cast<Document*>(window));
@@ -91,8 +97,8 @@ class WindowList : public QObject {
         connect(entry, &QAction::triggered, window, [this, window] {
             if (window->isMinimized())
                 window->showNormal();
-            if (auto* document = dynamic_cast<Document*>(window))
-                frame_.ActivateDocument(*document);
+            if (auto* chosen = dynamic_cast<Document*>(window))
+                frame_.ActivateDocument(*chosen);
         });
     }
 

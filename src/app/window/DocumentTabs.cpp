@@ -1,8 +1,18 @@
 #include "app/window/DocumentTabs.h"
 
+#include <QAccessible>
 #include <QKeyEvent>
+#include <QPainter>
 #include <QSignalBlocker>
+#include <QStyle>
 #include <QStyleOptionTab>
+#include <utility>
+
+namespace {
+
+constexpr int markSize = 7;
+
+} // namespace
 
 DocumentTabs::DocumentTabs(QWidget* parent) : QTabBar(parent) {
     setObjectName(QStringLiteral("TabStrip2"));
@@ -57,6 +67,44 @@ void DocumentTabs::Select(const QString& path) {
 void DocumentTabs::ShowSelection(bool shown) {
     showsSelection_ = shown;
     update();
+}
+
+void DocumentTabs::SetMarked(const QStringList& paths) {
+    const QSet<QString> before = std::exchange(marked_, QSet<QString>(paths.begin(), paths.end()));
+    for (int index = 0; index < count(); ++index)
+        if (before.contains(DataOf(index, Key)) != IsMarked(index))
+            TellMark(index);
+}
+
+void DocumentTabs::TellMark(int index) {
+    const QString path = DataOf(index, Key);
+    setTabToolTip(index, IsMarked(index) ? tr("%1\nModified").arg(path) : path);
+    update(tabRect(index));
+    QAccessibleEvent changed(this, QAccessible::DescriptionChanged);
+    changed.setChild(index);
+    QAccessible::updateAccessibility(&changed);
+}
+
+// It lies in the room that a tab has beside its caption, so that no tab moves as one is marked.
+QRectF DocumentTabs::MarkPlace(int index) const {
+    const QRect tab = tabRect(index);
+    const int room = style()->pixelMetric(QStyle::PM_TabBarTabHSpace, nullptr, this) / 2;
+    const QRect end = QStyle::visualRect(layoutDirection(), tab,
+                                         QRect(tab.right() + 1 - room, tab.top(), room, tab.height()));
+    QRectF mark(0, 0, markSize, markSize);
+    mark.moveCenter(QRectF(end).center());
+    return mark;
+}
+
+void DocumentTabs::paintEvent(QPaintEvent* event) {
+    QTabBar::paintEvent(event);
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(palette().windowText());
+    for (int index = 0; index < count(); ++index)
+        if (IsMarked(index))
+            painter.drawEllipse(MarkPlace(index));
 }
 
 // A bar that has tabs always has a current one; it only looks like the others.

@@ -1,6 +1,7 @@
 // The document tab strip: one tab for each document that has a file.
 #pragma once
 
+#include <QSet>
 #include <QTabBar>
 
 /// TabStrip2. A tab is known by its key, the full path of its file; its caption is the bare name. Its Tag is
@@ -24,6 +25,10 @@ class DocumentTabs final : public QTabBar {
     void Select(const QString& path);
     /// Whether the current tab looks selected.
     bool ShowsSelection() const { return showsSelection_ && currentIndex() >= 0; }
+    /// The keys of the documents whose text changed: their tabs show a dot beside the caption, and say so in
+    /// their tip, which is what a screen reader tells of a tab beside its caption.
+    void SetMarked(const QStringList& paths);
+    bool IsMarked(int index) const { return marked_.contains(DataOf(index, Key)); }
     /// The Tag of a tab, counted from 0; empty where there is none.
     QString Tag(int index) const { return DataOf(index, TagOfTab); }
 
@@ -34,6 +39,7 @@ class DocumentTabs final : public QTabBar {
   protected:
     void initStyleOption(QStyleOptionTab* option, int index) const override;
     void keyPressEvent(QKeyEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
     void tabInserted(int index) override;
     void tabRemoved(int index) override;
 
@@ -45,5 +51,9 @@ class DocumentTabs final : public QTabBar {
     int IndexOf(const QString& path, Data which) const;
     void ShowSelection(bool shown);
 
+    QRectF MarkPlace(int index) const;
+    void TellMark(int index);
+
     bool showsSelection_ = false;
+    QSet<QString> marked_;
 };

@@ -3,6 +3,7 @@
 #include "app/window/LeaveByEscape.h"
 
 #include <QHBoxLayout>
+#include <QShortcut>
 #include <QSignalBlocker>
 #include <QTabBar>
 
@@ -35,4 +36,25 @@ void ModeStrip::Select(const QString& caption) {
     for (int index = 0; index < tabStrip3_->count(); ++index)
         if (tabStrip3_->tabText(index) == caption)
             tabStrip3_->setCurrentIndex(index);
+}
+
+void ModeStrip::AddKeys() {
+    const auto bind = [this](const QKeySequence& key, int tabs) {
+        // A shortcut of a strip that isn't shown leaves its key alone.
+        auto* step = new QShortcut(key, this);
+        // Each mode saves the page as it comes up.
+        step->setAutoRepeat(false);
+        connect(step, &QShortcut::activated, this, [this, tabs] { Step(tabs); });
+    };
+    bind(Qt::CTRL | Qt::Key_PageDown, 1);
+    bind(Qt::CTRL | Qt::Key_PageUp, -1);
+}
+
+void ModeStrip::Step(int tabs) {
+    const int count = tabStrip3_->count();
+    tabStrip3_->setCurrentIndex((tabStrip3_->currentIndex() + tabs + count) % count);
+}
+
+void ModeStrip::TakeFocus() {
+    tabStrip3_->setFocus(Qt::TabFocusReason);
 }

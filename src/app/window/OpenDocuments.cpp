@@ -56,6 +56,15 @@ void OpenDocuments::FocusText() {
         document->txtInput().SetFocus();
 }
 
+void OpenDocuments::FocusView() {
+    frmTemplate* document = Active();
+    if (!document || !document->txtInput().isHidden())
+        return FocusText();
+    for (QWidget* view : document->widget()->findChildren<QWidget*>(Qt::FindDirectChildrenOnly))
+        if (view->isVisible())
+            return view->setFocus(Qt::TabFocusReason);
+}
+
 void OpenDocuments::Wake() {
     frmTemplate* document = Active();
     if (document && area_.activeSubWindow() != document)

@@ -23,6 +23,8 @@ class OpenDocuments final : public QObject {
     void Activate(Document& document);
     /// Gives the focus to the text of the active one, if that is on view.
     void FocusText();
+    /// Gives the focus to what the active one has on view: its text, the design or the browser view.
+    void FocusView();
     /// Makes the area follow again after it lost its way, and the focus with it.
     void Wake();
 

@@ -21,6 +21,7 @@
 #include "app/window/DocumentTabs.h"
 #include "app/window/FileDrop.h"
 #include "app/window/FrameFocus.h"
+#include "app/window/FrameHints.h"
 #include "app/window/KnownForms.h"
 #include "app/window/LeaveByEscape.h"
 #include "app/window/ModeStrip.h"
@@ -91,6 +92,7 @@ frmTarnwick::frmTarnwick(Settings& store, Prompts& ask)
     BuildStrips();
     EnableCommands(*this, commands_);
     HookWindow();
+    AddHints(*this, *area_, *documents_);
     resize(firstSize.boundedTo(RoomInside(*this)));
 }
 

@@ -70,6 +70,12 @@ inline const SettingsKey WordWrap = In("Program Options", "WordWrap", "1");
 inline const SettingsKey LowerCaseTags = In("Program Options", "LowerCaseTags", "0");
 inline const SettingsKey UseHTM = In("Program Options", "UseHTM", "0");
 inline const SettingsKey Utf8Pages = In("Program Options", "Utf8Pages", "1");
+inline const SettingsKey ModifiedMark = In("Program Options", "ModifiedMark", "1");
+inline const SettingsKey EmptyFrameText = In("Program Options", "EmptyFrameText", "1");
+inline const SettingsKey BlankButtonTips = In("Program Options", "BlankButtonTips", "1");
+inline const SettingsKey UntitledNames = In("Program Options", "UntitledNames", "1");
+inline const SettingsKey WindowChooser = In("Program Options", "WindowChooser", "1");
+inline const SettingsKey StripKeys = In("Program Options", "StripKeys", "1");
 inline const SettingsKey WebTimer = In("Program Options", "WebTimer", "False");
 
 // Browser Options

@@ -64,6 +64,21 @@ TEST_F(UserButtonsTest, TwoPagesOfFifteenBlankButtons) {
     EXPECT_FALSE(Button(30));
 }
 
+TEST_F(UserButtonsTest, TheTipOfABlankButtonTellsHowToFillIt) {
+    const QString tip =
+        Text("A button for tags of your own: to fill it, click it with the right mouse button or "
+             "press the Menu key on it");
+    EXPECT_EQ(Button(0)->toolTip(), tip);
+    EXPECT_EQ(Button(29)->toolTip(), tip);
+    strip->SetCaption(0, Text("<B>ox"));
+    EXPECT_EQ(Button(0)->toolTip(), Text("&lt;B&gt;ox"));
+    strip->SetCaption(0, QString());
+    EXPECT_EQ(Button(0)->toolTip(), tip);
+    frame.Store().WriteFlag(Keys::BlankButtonTips, false);
+    strip->SetCaption(0, QString());
+    EXPECT_EQ(Button(0)->toolTip(), QString());
+}
+
 TEST_F(UserButtonsTest, TheTabShowsItsPage) {
     EXPECT_TRUE(Page(0)->isVisible());
     EXPECT_FALSE(Page(1)->isVisible());

@@ -6,6 +6,8 @@
 
 #include <QDialog>
 #include <QMenu>
+#include <QProxyStyle>
+#include <QStyleOptionMenuItem>
 
 namespace {
 
@@ -113,6 +115,43 @@ TEST_F(WindowCommands, ListNamesTheWindowsAtTheMenusEnd) {
     run.Active().Unload();
     EXPECT_TRUE(List().isEmpty());
     EXPECT_EQ(run.Find<QMenu>("mnuWindow").actions().size(), entries);
+}
+
+/// What a menu draws for its entries, which may be more than their texts.
+QStringList Drawn(QMenu& menu) {
+    class Look final : public QProxyStyle {
+      public:
+        void drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
+                         const QWidget* widget) const override {
+            if (const auto* entry = qstyleoption_cast<const QStyleOptionMenuItem*>(option);
+                entry && element == CE_MenuItem && entry->menuItemType != QStyleOptionMenuItem::Separator)
+                drawn << entry->text;
+            QProxyStyle::drawControl(element, option, painter, widget);
+        }
+        mutable QStringList drawn;
+    };
+    Look look;
+    menu.setStyle(&look);
+    menu.grab();
+    menu.setStyle(nullptr);
+    return look.drawn;
+}
+
+TEST_F(WindowCommands, ListShowsANumberForDocumentsWithoutAFile) {
+    run.New();
+    run.New();
+    const QStringList list = List();
+    // The entry's own text stays blank behind its number.
+    EXPECT_EQ(list, QStringList({QStringLiteral("&1 "), QStringLiteral("&2  *")}));
+    const QStringList shown = Drawn(run.Find<QMenu>("mnuWindow"));
+    ASSERT_GE(shown.size(), 2);
+    EXPECT_EQ(shown.last(2), QStringList({QStringLiteral("&1 Untitled 1"), QStringLiteral("&2 Untitled 2")}));
+    EXPECT_EQ(shown.first().section(u'\t', 0, 0), QStringLiteral("&Cascade"));
+    EXPECT_EQ(run.Active().windowTitle(), QString());
+    Write(Keys::UntitledNames, "0");
+    List();
+    EXPECT_EQ(Drawn(run.Find<QMenu>("mnuWindow")).last(2),
+              QStringList({QStringLiteral("&1 "), QStringLiteral("&2 ")}));
 }
 
 TEST_F(WindowCommands, ListMarksTheActiveDocumentUnderADialogToo) {

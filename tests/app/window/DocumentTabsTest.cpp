@@ -103,6 +103,46 @@ TEST_F(DocumentTabsTest, SpaceAndEnterClickTheTabThatHasTheFocus) {
     EXPECT_TRUE(clicks.isEmpty());
 }
 
+TEST_F(DocumentTabsTest, AMarkBelongsToTheKeyAndIsToldByTheTip) {
+    tabs.SetMarked({QStringLiteral("/s/b & c.htm"), QStringLiteral("/none"), QString()});
+    EXPECT_FALSE(tabs.IsMarked(0));
+    EXPECT_TRUE(tabs.IsMarked(1));
+    EXPECT_EQ(tabs.tabToolTip(0), QStringLiteral("/s/a.htm"));
+    EXPECT_EQ(tabs.tabToolTip(1), QStringLiteral("/s/b & c.htm\nModified"));
+    EXPECT_EQ(tabs.tabText(1), QStringLiteral("b && c.htm"));
+    tabs.Remove(QStringLiteral("/s/a.htm"));
+    EXPECT_TRUE(tabs.IsMarked(0));
+    tabs.SetMarked({});
+    EXPECT_FALSE(tabs.IsMarked(0));
+    EXPECT_EQ(tabs.tabToolTip(0), QStringLiteral("/s/b & c.htm"));
+}
+
+TEST_F(DocumentTabsTest, AMarkIsADotInTheTabsOwnRoom) {
+    for (const auto direction : {Qt::LeftToRight, Qt::RightToLeft}) {
+        tabs.setLayoutDirection(direction);
+        const QRect tab = tabs.tabRect(0);
+        const auto look = [&] { return tabs.grab(tab).toImage(); };
+        const QImage plain = look();
+        tabs.SetMarked({QStringLiteral("/s/a.htm")});
+        const QImage marked = look();
+        EXPECT_EQ(tabs.tabRect(0), tab);
+        QRect changed;
+        for (int y = 0; y < plain.height(); ++y)
+            for (int x = 0; x < plain.width(); ++x)
+                if (plain.pixel(x, y) != marked.pixel(x, y))
+                    changed |= QRect(x, y, 1, 1);
+        EXPECT_GE(changed.width(), 5);
+        EXPECT_LE(changed.width(), 9);
+        EXPECT_GE(changed.height(), 5);
+        EXPECT_LE(changed.height(), 9);
+        // Behind the caption, before the edge.
+        const int outer = direction == Qt::LeftToRight ? plain.width() - 1 - changed.right() : changed.left();
+        EXPECT_GE(outer, 1);
+        EXPECT_LE(outer, 8);
+        tabs.SetMarked({});
+    }
+}
+
 TEST_F(DocumentTabsTest, NoTabLooksSelectedForAPathThatHasNone) {
     // The tabs are alike but for their captions.
     tabs.RemoveAll();

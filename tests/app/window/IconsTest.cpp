@@ -140,19 +140,13 @@ TEST_F(IconsTest, AccentsStandOutOnLightAndOnDark) {
 
 TEST_F(IconsTest, NoIconLiesUnused) {
     ToolbarIcon(QStringLiteral("new"));
-    QStringList wanted{QStringLiteral("element-add.svg"),
-                       QStringLiteral("element-rename.svg"),
-                       QStringLiteral("more.svg"),
-                       QStringLiteral("sheet-caret.svg"),
-                       QStringLiteral("sheet-head.svg"),
-                       QStringLiteral("tarnwick.svg"),
-                       QStringLiteral("tree-files.svg"),
-                       QStringLiteral("tree-ftp.svg"),
-                       QStringLiteral("tree-mail.svg"),
-                       QStringLiteral("tree-page.svg"),
-                       QStringLiteral("tree-web.svg"),
-                       QStringLiteral("window-close.svg"),
-                       QStringLiteral("window-minimise.svg"),
+    QStringList wanted{QStringLiteral("element-add.svg"),   QStringLiteral("element-rename.svg"),
+                       QStringLiteral("more.svg"),          QStringLiteral("sheet-caret.svg"),
+                       QStringLiteral("sheet-head.svg"),    QStringLiteral("tarnwick-modified.svg"),
+                       QStringLiteral("tarnwick.svg"),      QStringLiteral("tree-files.svg"),
+                       QStringLiteral("tree-ftp.svg"),      QStringLiteral("tree-mail.svg"),
+                       QStringLiteral("tree-page.svg"),     QStringLiteral("tree-web.svg"),
+                       QStringLiteral("window-close.svg"),  QStringLiteral("window-minimise.svg"),
                        QStringLiteral("window-restore.svg")};
     for (const ToolbarRow& row : ToolbarTable())
         wanted << QString::fromLatin1(row.key) + QStringLiteral(".svg");

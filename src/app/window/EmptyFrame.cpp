@@ -1,0 +1,100 @@
+#include "app/window/EmptyFrame.h"
+
+#include "app/documents/DocumentPaths.h"
+#include "app/documents/FilesThere.h"
+#include "app/documents/frmTemplate.h"
+#include "app/documents/RecentFiles.h"
+#include "app/window/EmptyFrameText.h"
+#include "app/window/OpenDocuments.h"
+#include "editor/frame/Commands.h"
+#include "editor/frame/Frame.h"
+
+#include <QEvent>
+#include <QMdiArea>
+#include <utility>
+
+EmptyFrame::EmptyFrame(Frame& frame, QMdiArea& area, OpenDocuments& documents)
+    : QObject(&area), frame_(frame), area_(area), files_(new FilesThere(this)) {
+    area_.viewport()->installEventFilter(this);
+    frame_.Window()->installEventFilter(this);
+    connect(&documents, &OpenDocuments::Activated, this, &EmptyFrame::Hide);
+    // A document that goes leaves its path while it is still there.
+    connect(&frame_.State<DocumentPaths>(), &DocumentPaths::Left, this, &EmptyFrame::Schedule);
+    connect(files_, &FilesThere::Answered, this, [this](const QString& path, bool there) {
+        there_[path] = there;
+        ShowFiles();
+    });
+}
+
+void EmptyFrame::TakeFocus() {
+    if (text_ && text_->isVisible())
+        text_->TakeFocus();
+}
+
+bool EmptyFrame::eventFilter(QObject* watched, QEvent* event) {
+    const bool inArea = watched == area_.viewport();
+    if (event->type() == (inArea ? QEvent::Show : QEvent::WindowActivate))
+        Schedule();
+    if (inArea && event->type() == QEvent::Resize && text_)
+        text_->resize(area_.viewport()->size());
+    return false;
+}
+
+void EmptyFrame::Schedule() {
+    if (!std::exchange(scheduled_, true))
+        QMetaObject::invokeMethod(this, &EmptyFrame::Update, Qt::QueuedConnection);
+}
+
+void EmptyFrame::Update() {
+    scheduled_ = false;
+    if (frame_.ActiveForm())
+        Hide();
+    else if (frame_.Window()->isVisible())
+        Show();
+}
+
+void EmptyFrame::Show() {
+    if (!text_) {
+        text_ = new EmptyFrameText(area_.viewport(),
+                                   [this](const QString& name) { frame_.Commands().Run(name); });
+        connect(text_, &EmptyFrameText::FileClicked, this, &EmptyFrame::Open);
+        text_->resize(area_.viewport()->size());
+    }
+    text_->show();
+    LookUpFiles();
+    ShowFiles();
+}
+
+void EmptyFrame::Hide() {
+    if (text_)
+        text_->hide();
+}
+
+QStringList EmptyFrame::RecentPaths() const {
+    QStringList paths;
+    for (int n = 0; n < RecentFiles::Count; ++n)
+        if (const QString path = RecentFiles::Caption(frame_, n); !path.isEmpty())
+            paths << path;
+    return paths;
+}
+
+void EmptyFrame::LookUpFiles() {
+    for (const QString& path : RecentPaths())
+        files_->Ask(path);
+}
+
+void EmptyFrame::ShowFiles() {
+    if (!text_ || text_->isHidden())
+        return;
+    QStringList there;
+    for (const QString& path : RecentPaths())
+        if (there_.value(path))
+            there << path;
+    text_->SetFiles(there);
+}
+
+void EmptyFrame::Open(const QString& path) {
+    for (int n = 0; n < RecentFiles::Count; ++n)
+        if (RecentFiles::Caption(frame_, n) == path)
+            return frame_.Commands().Run(QStringLiteral("mnuFileArray_%1").arg(n));
+}
