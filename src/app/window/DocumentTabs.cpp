@@ -64,6 +64,11 @@ void DocumentTabs::Select(const QString& path) {
     ShowSelection(index >= 0);
 }
 
+void DocumentTabs::TakeFocus() {
+    if (count() > 0)
+        setFocus(Qt::TabFocusReason);
+}
+
 void DocumentTabs::ShowSelection(bool shown) {
     showsSelection_ = shown;
     update();

@@ -23,6 +23,8 @@ class DocumentTabs final : public QTabBar {
     /// Selects the first tab whose Tag is the path. Where there is none, such as for a document without a
     /// file, no tab looks selected, though the keys still start from the last one.
     void Select(const QString& path);
+    /// Gives the focus to the current tab, if there is one.
+    void TakeFocus();
     /// Whether the current tab looks selected.
     bool ShowsSelection() const { return showsSelection_ && currentIndex() >= 0; }
     /// The keys of the documents whose text changed: their tabs show a dot beside the caption, and say so in

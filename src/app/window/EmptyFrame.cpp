@@ -15,7 +15,7 @@
 
 EmptyFrame::EmptyFrame(Frame& frame, QMdiArea& area, OpenDocuments& documents)
     : QObject(&area), frame_(frame), area_(area), files_(new FilesThere(this)) {
-    area_.viewport()->installEventFilter(this);
+    area_.installEventFilter(this);
     frame_.Window()->installEventFilter(this);
     connect(&documents, &OpenDocuments::Activated, this, &EmptyFrame::Hide);
     // A document that goes leaves its path while it is still there.
@@ -31,12 +31,16 @@ void EmptyFrame::TakeFocus() {
         text_->TakeFocus();
 }
 
+bool EmptyFrame::Holds(const QWidget& widget) const {
+    return text_ && text_->isAncestorOf(&widget);
+}
+
 bool EmptyFrame::eventFilter(QObject* watched, QEvent* event) {
-    const bool inArea = watched == area_.viewport();
-    if (event->type() == (inArea ? QEvent::Show : QEvent::WindowActivate))
+    const QEvent::Type type = event->type();
+    if (type == (watched == &area_ ? QEvent::Show : QEvent::WindowActivate))
         Schedule();
-    if (inArea && event->type() == QEvent::Resize && text_)
-        text_->resize(area_.viewport()->size());
+    if (text_ && watched == &area_ && (type == QEvent::Resize || type == QEvent::Move))
+        text_->setGeometry(area_.geometry());
     return false;
 }
 
@@ -55,10 +59,9 @@ void EmptyFrame::Update() {
 
 void EmptyFrame::Show() {
     if (!text_) {
-        text_ = new EmptyFrameText(area_.viewport(),
-                                   [this](const QString& name) { frame_.Commands().Run(name); });
+        text_ = new EmptyFrameText(area_, [this](const QString& name) { frame_.Commands().Run(name); });
         connect(text_, &EmptyFrameText::FileClicked, this, &EmptyFrame::Open);
-        text_->resize(area_.viewport()->size());
+        text_->setGeometry(area_.geometry());
     }
     text_->show();
     LookUpFiles();

@@ -21,6 +21,8 @@ class EmptyFrame final : public QObject {
 
     /// Gives the focus to the text, if it is shown.
     void TakeFocus();
+    /// Whether a widget belongs to the text.
+    bool Holds(const QWidget& widget) const;
 
   protected:
     bool eventFilter(QObject* watched, QEvent* event) override;

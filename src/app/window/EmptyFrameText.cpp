@@ -6,8 +6,10 @@
 
 #include <algorithm>
 #include <cmath>
-#include <QEvent>
+#include <QCoreApplication>
 #include <QLabel>
+#include <QMdiArea>
+#include <QMouseEvent>
 
 using namespace Qt::StringLiterals;
 
@@ -35,8 +37,8 @@ constexpr double middle = 0.179;
 
 } // namespace
 
-EmptyFrameText::EmptyFrameText(QWidget* area, std::function<void(const QString&)> run)
-    : QWidget(area), run_(std::move(run)) {
+EmptyFrameText::EmptyFrameText(QMdiArea& area, std::function<void(const QString&)> run)
+    : QWidget(area.parentWidget()), area_(area), run_(std::move(run)) {
     setObjectName(u"EmptyFrameText"_s);
     begin_ = AddHeading(tr("Begin"));
     AddCommand(u"tb_new"_s, tr("New page"), tr("with the tags that every page has"));
@@ -44,7 +46,6 @@ EmptyFrameText::EmptyFrameText(QWidget* area, std::function<void(const QString&)
     AddCommand(u"mnuWizard"_s, tr("Webpage Wizard"), tr("asks what the page shall show and writes it"));
     AddCommand(u"mnuMainHelp"_s, tr("Help"), tr("F1: a first page in five minutes"));
     recent_ = AddHeading(tr("Recent files"));
-    TakeColors();
 }
 
 QLabel* EmptyFrameText::AddHeading(const QString& text) {
@@ -133,15 +134,34 @@ void EmptyFrameText::PlaceLines(QRect inside, int top, bool tight) {
 
 // The area is painted darker than a window, and palettes have no text for that: it is black or white.
 void EmptyFrameText::TakeColors() {
-    const QColor behind = parentWidget()->palette().color(QPalette::Dark);
+    const bool light = Luminance(area_.background().color()) > middle;
     QPalette colors = palette();
-    colors.setColor(QPalette::WindowText, Luminance(behind) > middle ? Qt::black : Qt::white);
+    colors.setColor(QPalette::WindowText, light ? Qt::black : Qt::white);
     setPalette(colors);
 }
 
 void EmptyFrameText::resizeEvent(QResizeEvent* event) {
     QWidget::resizeEvent(event);
     Arrange();
+}
+
+void EmptyFrameText::showEvent(QShowEvent* event) {
+    TakeColors();
+    QWidget::showEvent(event);
+}
+
+void EmptyFrameText::PassToArea(const QMouseEvent& event) {
+    QMouseEvent passed(event.type(), area_.viewport()->mapFromGlobal(event.globalPosition()),
+                       event.globalPosition(), event.button(), event.buttons(), event.modifiers());
+    QCoreApplication::sendEvent(area_.viewport(), &passed);
+}
+
+void EmptyFrameText::mousePressEvent(QMouseEvent* event) {
+    PassToArea(*event);
+}
+
+void EmptyFrameText::mouseReleaseEvent(QMouseEvent* event) {
+    PassToArea(*event);
 }
 
 void EmptyFrameText::changeEvent(QEvent* event) {

@@ -7,15 +7,17 @@
 
 class LinkButton;
 class QLabel;
+class QMdiArea;
 
 /// A few lines in the middle of the area: how to begin, and the recent files below. What there is no room for
-/// is left out, from the end. Whoever presses it beside a line presses the area.
+/// is left out, from the end. Whoever presses it beside a line presses the area. It lies above the area, not
+/// in it: screen readers are told of nothing but documents there.
 class EmptyFrameText final : public QWidget {
     Q_OBJECT
 
   public:
     /// run carries out a command by its name.
-    EmptyFrameText(QWidget* area, std::function<void(const QString&)> run);
+    EmptyFrameText(QMdiArea& area, std::function<void(const QString&)> run);
 
     /// The recent files to offer, by their paths.
     void SetFiles(const QStringList& paths);
@@ -27,7 +29,10 @@ class EmptyFrameText final : public QWidget {
 
   protected:
     void resizeEvent(QResizeEvent* event) override;
+    void showEvent(QShowEvent* event) override;
     void changeEvent(QEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
 
   private:
     QLabel* AddHeading(const QString& text);
@@ -39,6 +44,9 @@ class EmptyFrameText final : public QWidget {
     void PlaceLines(QRect inside, int top, bool tight);
     QList<QWidget*> Lines() const;
 
+    void PassToArea(const QMouseEvent& event);
+
+    QMdiArea& area_;
     std::function<void(const QString&)> run_;
     QLabel* begin_;
     QList<LinkButton*> commands_;

@@ -27,12 +27,12 @@ void AddStripKeys(MainFrame& frame, QMdiArea& area, OpenDocuments& documents, Em
         if (empty)
             empty->TakeFocus();
     };
-    new StripRound(*frame.Window(),
-                   {{&area, takeFocusInArea},
-                    {&modes, [&modes] { modes.TakeFocus(); }},
-                    {&frame.TabStrip2(), [&frame] { frame.TabStrip2().setFocus(Qt::TabFocusReason); }},
-                    {&toolbar, [&toolbar] { toolbar.TakeFocus(); }},
-                    {&frame.Picture2(), [&frame] { frame.Picture2().TakeFocus(); }}});
+    const auto inEmptyFrame = [empty](const QWidget& widget) { return empty && empty->Holds(widget); };
+    new StripRound(*frame.Window(), {{&area, takeFocusInArea, inEmptyFrame},
+                                     {&modes, [&modes] { modes.TakeFocus(); }},
+                                     {&frame.TabStrip2(), [&frame] { frame.TabStrip2().TakeFocus(); }},
+                                     {&toolbar, [&toolbar] { toolbar.TakeFocus(); }},
+                                     {&frame.Picture2(), [&frame] { frame.Picture2().TakeFocus(); }}});
     modes.AddKeys();
 }
 

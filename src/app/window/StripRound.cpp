@@ -15,7 +15,10 @@ StripRound::StripRound(QWidget& window, std::vector<Station> stations)
 
 bool StripRound::HasFocus(const Station& station) const {
     const QWidget* focus = window_.focusWidget();
-    return focus && focus->isVisible() && (focus == station.place || station.place->isAncestorOf(focus));
+    if (!focus || !focus->isVisible())
+        return false;
+    return focus == station.place || station.place->isAncestorOf(focus) ||
+           (station.holds && station.holds(*focus));
 }
 
 void StripRound::Go(int step) {

@@ -17,6 +17,8 @@ class StripRound final : public QObject {
     struct Station {
         QWidget* place;
         std::function<void()> takeFocus;
+        /// What belongs to the place without lying in it.
+        std::function<bool(const QWidget&)> holds = nullptr;
     };
 
     StripRound(QWidget& window, std::vector<Station> stations);

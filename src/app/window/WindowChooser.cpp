@@ -65,7 +65,7 @@ bool WindowChooser::Pressed(const QKeyEvent& key) {
 }
 
 void WindowChooser::Released(const QKeyEvent& key) {
-    if (key.key() == Qt::Key_Control && chosen_)
+    if (key.key() == Qt::Key_Control && (chosen_ || list_))
         Activate();
 }
 
@@ -85,8 +85,29 @@ void WindowChooser::Show() {
             lay_ << window;
         list_ = new WindowChooserList(area_);
     }
-    chosen_->raise();
+    RaiseChosen();
     list_->Choose(*chosen_);
+}
+
+void WindowChooser::RaiseChosen() {
+    PutBack();
+    const QMdiSubWindow* active = area_.currentSubWindow();
+    // Beside one that fills the area the others have the sizes that they had before, or none that one could
+    // see.
+    const QFlags<Qt::WindowState> ownSize =
+        chosen_->windowState() & (Qt::WindowMaximized | Qt::WindowMinimized);
+    if (active && active->isMaximized() && !ownSize) {
+        enlarged_ = chosen_;
+        place_ = chosen_->geometry();
+        chosen_->setGeometry(area_.viewport()->rect());
+    }
+    chosen_->raise();
+}
+
+void WindowChooser::PutBack() {
+    if (enlarged_)
+        enlarged_->setGeometry(place_);
+    enlarged_ = nullptr;
 }
 
 void WindowChooser::Close() {
@@ -94,6 +115,7 @@ void WindowChooser::Close() {
     if (!list_)
         return;
     delete list_;
+    PutBack();
     for (const QPointer<QMdiSubWindow>& window : std::exchange(lay_, {}))
         if (window)
             window->raise();

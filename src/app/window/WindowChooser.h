@@ -3,6 +3,7 @@
 
 #include <QObject>
 #include <QPointer>
+#include <QRect>
 #include <QTimer>
 
 class QKeyEvent;
@@ -29,6 +30,10 @@ class WindowChooser final : public QObject {
     void Released(const QKeyEvent& key);
     void Choose(int step);
     void Show();
+    /// Brings the chosen one in front, as large as the one that fills the area, if one does.
+    void RaiseChosen();
+    /// Gives the one that was in front last its own size again.
+    void PutBack();
     /// Takes the list away and puts the windows back into the order in which they lay.
     void Close();
     void Activate();
@@ -41,4 +46,6 @@ class WindowChooser final : public QObject {
     QPointer<WindowChooserList> list_;
     /// The windows as they lay when the list came up, the uppermost last.
     QList<QPointer<QMdiSubWindow>> lay_;
+    QPointer<QMdiSubWindow> enlarged_;
+    QRect place_; ///< of the enlarged one before
 };

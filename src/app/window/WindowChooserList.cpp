@@ -12,11 +12,11 @@ namespace {
 
 constexpr int mostRows = 12;
 constexpr int leastWidth = 240;
-constexpr QSize iconSize(16, 16);
+constexpr QSize pictureSize(16, 16);
 
 /// An icon that a selection leaves in its colours.
 QIcon InItsColors(const QMdiSubWindow& window) {
-    const QPixmap picture = window.windowIcon().pixmap(iconSize, window.devicePixelRatioF());
+    const QPixmap picture = window.windowIcon().pixmap(pictureSize, window.devicePixelRatioF());
     QIcon icon(picture);
     icon.addPixmap(picture, QIcon::Selected);
     return icon;
@@ -24,7 +24,7 @@ QIcon InItsColors(const QMdiSubWindow& window) {
 
 } // namespace
 
-WindowChooserList::WindowChooserList(QMdiArea& area) : QListWidget(&area) {
+WindowChooserList::WindowChooserList(QMdiArea& area) : QListWidget(area.parentWidget()) {
     setObjectName(QStringLiteral("WindowChooser"));
     setAccessibleName(tr("Open documents"));
     setFocusPolicy(Qt::NoFocus);
@@ -32,7 +32,7 @@ WindowChooserList::WindowChooserList(QMdiArea& area) : QListWidget(&area) {
     setSelectionMode(QAbstractItemView::SingleSelection);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setTextElideMode(Qt::ElideMiddle);
-    setIconSize(iconSize);
+    setIconSize(pictureSize);
     for (QMdiSubWindow* window : area.subWindowList()) {
         const auto* document = qobject_cast<frmTemplate*>(window);
         const QString name = document ? DocumentName(*document) : window->windowTitle();
@@ -40,7 +40,7 @@ WindowChooserList::WindowChooserList(QMdiArea& area) : QListWidget(&area) {
         windows_ << window;
     }
     resize(SizeIn(area));
-    move(area.rect().center() - rect().center());
+    move(area.geometry().center() - rect().center());
     show();
 }
 

@@ -6,8 +6,8 @@
 class QMdiArea;
 class QMdiSubWindow;
 
-/// Stands in the middle of the area, above the documents, and shows itself. It never takes the focus; a
-/// screen reader hears of the chosen row as if it did.
+/// Stands above the middle of the area and shows itself: not in it, where screen readers are told of nothing
+/// but documents. It never takes the focus; a screen reader hears of the chosen row as if it did.
 class WindowChooserList final : public QListWidget {
     Q_OBJECT
 

@@ -203,7 +203,7 @@ TEST_F(EmptyFrameTest, ALongPathStaysInside) {
     run->frame->resize(640, 480);
     QCoreApplication::processEvents();
     EXPECT_TRUE(Hint()->rect().contains(Link("recent_0").geometry()));
-    EXPECT_EQ(Hint()->size(), run->frame->Area().viewport()->size());
+    EXPECT_EQ(Hint()->geometry(), run->frame->Area().geometry());
 }
 
 TEST_F(EmptyFrameTest, IsReadableOnLightAndDark) {

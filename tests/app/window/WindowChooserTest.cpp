@@ -5,6 +5,8 @@
 #include "app/window/DocumentTabs.h"
 #include "app/window/WindowChooserList.h"
 
+#include <QDebug>
+
 namespace {
 
 class WindowChooserTest : public FrameTest {
@@ -21,16 +23,21 @@ class WindowChooserTest : public FrameTest {
         QCoreApplication::processEvents();
     }
     QWidget& Text() { return run->Active().txtInput(); }
-    void PressCtrl() { QTest::keyPress(&Text(), Qt::Key_Control, Qt::ControlModifier); }
+    /// One event: the test library's own clicks press and release Ctrl with each key.
+    void Send(QEvent::Type type, Qt::Key key, Qt::KeyboardModifiers modifiers) {
+        QKeyEvent event(type, key, modifiers);
+        QCoreApplication::sendEvent(&Text(), &event);
+    }
+    void PressCtrl() { Send(QEvent::KeyPress, Qt::Key_Control, Qt::ControlModifier); }
     void ReleaseCtrl() {
-        QTest::keyRelease(&Text(), Qt::Key_Control);
+        Send(QEvent::KeyRelease, Qt::Key_Control, Qt::NoModifier);
         QCoreApplication::processEvents();
     }
     void Tab(int step = 1) {
-        if (step > 0)
-            QTest::keyClick(&Text(), Qt::Key_Tab, Qt::ControlModifier);
-        else
-            QTest::keyClick(&Text(), Qt::Key_Backtab, Qt::ControlModifier | Qt::ShiftModifier);
+        const Qt::Key key = step > 0 ? Qt::Key_Tab : Qt::Key_Backtab;
+        const auto modifiers = Qt::ControlModifier | (step > 0 ? Qt::NoModifier : Qt::ShiftModifier);
+        Send(QEvent::KeyPress, key, modifiers);
+        Send(QEvent::KeyRelease, key, modifiers);
     }
     /// Who holds Ctrl for longer than a moment: here that is over at once.
     void HoldCtrl() {
@@ -52,6 +59,12 @@ class WindowChooserTest : public FrameTest {
     static QChar Letter(QMdiSubWindow* window) {
         const QString path = dynamic_cast<frmTemplate&>(*window).Caption();
         return path.isEmpty() ? QChar(u'-') : path[path.size() - 5];
+    }
+    QString Places() {
+        QString places;
+        for (const QMdiSubWindow* window : run->frame->Area().subWindowList())
+            QDebug(&places) << window->geometry() << window->windowState();
+        return places;
     }
     QChar Active() { return Letter(&run->Active()); }
     std::optional<ProgramRun> run;
@@ -97,7 +110,23 @@ TEST_F(WindowChooserTest, StandsInsideTheAreaHoweverLongTheNames) {
     QCoreApplication::processEvents();
     HoldCtrl();
     Tab();
-    EXPECT_TRUE(run->frame->Area().rect().contains(List()->geometry()));
+    EXPECT_TRUE(run->frame->Area().geometry().contains(List()->geometry()));
+    ReleaseCtrl();
+}
+
+TEST_F(WindowChooserTest, AWindowBesideAMaximisedOneIsSeenWhole) {
+    Start();
+    ASSERT_TRUE(run->Active().isMaximized());
+    HoldCtrl();
+    for (const char* name : {"a", "b", "c"}) {
+        Tab();
+        ASSERT_EQ(Letter(InFront()), QChar::fromLatin1(*name));
+        EXPECT_EQ(InFront()->geometry(), run->frame->Area().viewport()->rect()) << name;
+    }
+    Tab();
+    EXPECT_TRUE(InFront()->isMaximized());
+    const auto windows = run->frame->Area().subWindowList();
+    EXPECT_NE(windows[2]->geometry(), run->frame->Area().viewport()->rect());
     ReleaseCtrl();
 }
 
@@ -107,7 +136,7 @@ TEST_F(WindowChooserTest, EscLeavesEverythingAsItWas) {
     HoldCtrl();
     Tab();
     Tab();
-    QTest::keyClick(&Text(), Qt::Key_Escape, Qt::ControlModifier);
+    Send(QEvent::KeyPress, Qt::Key_Escape, Qt::ControlModifier);
     EXPECT_EQ(List(), nullptr);
     EXPECT_EQ(Letters(QMdiArea::StackingOrder), lay);
     ReleaseCtrl();
@@ -164,6 +193,7 @@ TEST_F(WindowChooserTest, TabWithoutCtrlIsTheTextsOwn) {
 struct Press {
     const char* keys; ///< "+" is Tab, "-" Shift+Tab
     bool held;
+    const char* layout = "2"; ///< of the windows: "0" normal, "2" maximised
 };
 
 class WindowChooserOutcome : public WindowChooserTest, public testing::WithParamInterface<Press> {
@@ -171,6 +201,7 @@ class WindowChooserOutcome : public WindowChooserTest, public testing::WithParam
     /// The active document, and the order in which the windows lie, after each of three such presses.
     QStringList Outcomes(bool withList) {
         Write(Keys::WindowChooser, withList ? "1" : "0");
+        Write(Keys::TemplateWindowState, GetParam().layout);
         Start();
         QStringList outcomes;
         for (int turn = 0; turn < 3; ++turn) {
@@ -185,7 +216,7 @@ class WindowChooserOutcome : public WindowChooserTest, public testing::WithParam
             EXPECT_EQ(List() != nullptr, withList && GetParam().held);
             ReleaseCtrl();
             outcomes << QString(Active()) + u' ' + Letters(QMdiArea::StackingOrder) + u' ' +
-                            Letters(QMdiArea::ActivationHistoryOrder);
+                            Letters(QMdiArea::ActivationHistoryOrder) + Places();
         }
         run.reset();
         return outcomes;
@@ -201,6 +232,7 @@ TEST_P(WindowChooserOutcome, IsTheSameWithTheListAndWithout) {
 INSTANTIATE_TEST_SUITE_P(Presses, WindowChooserOutcome,
                          testing::Values(Press{"+", false}, Press{"+", true}, Press{"++", false},
                                          Press{"++", true}, Press{"-", true}, Press{"-", false},
-                                         Press{"+++++", true}, Press{"+--", true}));
+                                         Press{"+++++", true}, Press{"+--", true}, Press{"+", true, "0"},
+                                         Press{"++", true, "0"}));
 
 } // namespace
