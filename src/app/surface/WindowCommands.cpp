@@ -2,7 +2,7 @@
 
 #include "app/documents/DocumentName.h"
 #include "app/documents/frmTemplate.h"
-#include "app/surface/ShownTextMenu.h"
+#include "app/surface/ShownTextEntry.h"
 #include "app/window/WindowPlace.h"
 #include "editor/frame/Commands.h"
 #include "editor/frame/Document.h"
@@ -83,12 +83,16 @@ class WindowList : public QObject {
         menu_.addAction(separator);
     }
 
+    QAction* MakeEntry(int number, const QMdiSubWindow& window) {
+        const auto* document = qobject_cast<const frmTemplate*>(&window);
+        const QString text = ListCaption(number, document ? document->Caption() : window.windowTitle());
+        if (!document || !document->Caption().isEmpty() || !frame_.Store().ReadFlag(Keys::UntitledNames))
+            return new QAction(text, entries_.get());
+        return new ShownTextEntry(text, ListCaption(number, DocumentName(*document)), menu_, entries_.get());
+    }
+
     void AddWindow(int number, QMdiSubWindow* window) {
-        const auto* document = qobject_cast<const frmTemplate*>(window);
-        const QString name = document ? document->Caption() : window->windowTitle();
-        auto* entry = new QAction(ListCaption(number, name), entries_.get());
-        if (document && name.isEmpty() && frame_.Store().ReadFlag(Keys::UntitledNames))
-            ShownTextMenu::SetShownText(*entry, ListCaption(number, DocumentName(*document)));
+        QAction* entry = MakeEntry(number, *window);
         entry->setObjectName(u"mnuWindowList_%1"_s.arg(number));
         entry->setCheckable(true);
         entry->setChecked(frame_.ActiveForm() == dynamic_cast<Document*>(window));

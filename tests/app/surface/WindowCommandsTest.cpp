@@ -4,6 +4,7 @@
 #include "app/RealFrame.h"
 #include "app/window/DocumentTabs.h"
 
+#include <QAccessible>
 #include <QDialog>
 #include <QMenu>
 #include <QProxyStyle>
@@ -26,6 +27,18 @@ class WindowCommands : public FrameTest {
             if (entry->objectName().startsWith(QStringLiteral("mnuWindowList_")))
                 list << entry->text() + (entry->isChecked() ? QStringLiteral(" *") : QString());
         return list;
+    }
+    /// What a screen reader is told of the menu's entries.
+    QStringList Heard() {
+        QStringList heard;
+        const auto* face = QAccessible::queryAccessibleInterface(&run.Find<QMenu>("mnuWindow"));
+        for (int n = 0; n < face->childCount(); ++n) {
+            const QAccessibleInterface* entry = face->child(n);
+            EXPECT_EQ(face->indexOfChild(entry), n);
+            heard << entry->text(QAccessible::Name) +
+                         (entry->state().checked ? QStringLiteral(" *") : QString());
+        }
+        return heard;
     }
     ProgramRun run;
 };
@@ -148,10 +161,26 @@ TEST_F(WindowCommands, ListShowsANumberForDocumentsWithoutAFile) {
     EXPECT_EQ(shown.last(2), QStringList({QStringLiteral("&1 Untitled 1"), QStringLiteral("&2 Untitled 2")}));
     EXPECT_EQ(shown.first().section(u'\t', 0, 0), QStringLiteral("&Cascade"));
     EXPECT_EQ(run.Active().windowTitle(), QString());
+    EXPECT_EQ(Heard().last(2),
+              QStringList({QStringLiteral("1 Untitled 1"), QStringLiteral("2 Untitled 2 *")}));
     Write(Keys::UntitledNames, "0");
     List();
     EXPECT_EQ(Drawn(run.Find<QMenu>("mnuWindow")).last(2),
               QStringList({QStringLiteral("&1 "), QStringLiteral("&2 ")}));
+}
+
+TEST_F(WindowCommands, AScreenReaderPressesAnUntitledEntry) {
+    frmTemplate& first = run.New();
+    run.New();
+    List();
+    auto* face = QAccessible::queryAccessibleInterface(&run.Find<QMenu>("mnuWindow"));
+    QAccessibleInterface* entry = face->child(face->childCount() - 2);
+    EXPECT_EQ(entry->parent(), face);
+    EXPECT_EQ(entry->role(), QAccessible::MenuItem);
+    EXPECT_TRUE(entry->state().focusable);
+    ASSERT_TRUE(entry->actionInterface());
+    entry->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+    EXPECT_EQ(run.frame->ActiveForm(), static_cast<Document*>(&first));
 }
 
 TEST_F(WindowCommands, ListMarksTheActiveDocumentUnderADialogToo) {
