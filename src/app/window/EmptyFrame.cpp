@@ -14,9 +14,10 @@
 #include <utility>
 
 EmptyFrame::EmptyFrame(Frame& frame, QMdiArea& area, OpenDocuments& documents)
-    : QObject(&area), frame_(frame), area_(area), files_(new FilesThere(this)) {
+    : QObject(&area), frame_(frame), window_(*frame.Window()), area_(area), files_(new FilesThere(this)) {
     area_.installEventFilter(this);
-    frame_.Window()->installEventFilter(this);
+    area_.viewport()->installEventFilter(this);
+    window_.installEventFilter(this);
     connect(&documents, &OpenDocuments::Activated, this, &EmptyFrame::Hide);
     // A document that goes leaves its path while it is still there.
     connect(&frame_.State<DocumentPaths>(), &DocumentPaths::Left, this, &EmptyFrame::Schedule);
@@ -37,7 +38,11 @@ bool EmptyFrame::Holds(const QWidget& widget) const {
 
 bool EmptyFrame::eventFilter(QObject* watched, QEvent* event) {
     const QEvent::Type type = event->type();
-    if (type == (watched == &area_ ? QEvent::Show : QEvent::WindowActivate))
+    if (watched == area_.viewport() && type == QEvent::Paint && !painted_) {
+        painted_ = true;
+        Schedule();
+    }
+    if (watched == &window_ && type == QEvent::WindowActivate)
         Schedule();
     if (text_ && watched == &area_ && (type == QEvent::Resize || type == QEvent::Move))
         text_->setGeometry(area_.geometry());
@@ -53,7 +58,7 @@ void EmptyFrame::Update() {
     scheduled_ = false;
     if (frame_.ActiveForm())
         Hide();
-    else if (frame_.Window()->isVisible())
+    else if (painted_)
         Show();
 }
 

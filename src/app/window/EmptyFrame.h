@@ -9,6 +9,7 @@ class FilesThere;
 class Frame;
 class OpenDocuments;
 class QMdiArea;
+class QWidget;
 
 /// The text is there while the frame is on the screen and no document is open. It offers those recent files
 /// that were found, not those about which nothing is known yet; they are looked up as the text comes up, and
@@ -38,9 +39,13 @@ class EmptyFrame final : public QObject {
     QStringList RecentPaths() const;
 
     Frame& frame_;
+    /// The frame's, which has events still while the frame goes.
+    QWidget& window_;
     QMdiArea& area_;
     FilesThere* files_;
     QHash<QString, bool> there_;
     EmptyFrameText* text_ = nullptr;
     bool scheduled_ = false;
+    /// The empty area was seen: the start has not to wait for the text.
+    bool painted_ = false;
 };
