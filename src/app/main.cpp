@@ -1,4 +1,5 @@
 // The program: one frame, one copy for each user, one event loop.
+#include "app/documents/DialogFolders.h"
 #include "app/run/DisplayGuard.h"
 #include "app/run/RunProgram.h"
 #include "app/run/SingleInstance.h"
@@ -42,6 +43,8 @@ int main(int argc, char* argv[]) {
     DesktopPrompts ask;
     SingleInstance instance;
     frmTarnwick frame(store, ask);
+    ask.folders = [&frame] { return DialogFolders(frame); };
+    ask.wide = [&store] { return store.ReadFlag(Keys::WideBoxes); };
     const QString commandLine = CommandLine(QCoreApplication::arguments().mid(1), QDir::currentPath());
     return RunProgram(frame, instance, commandLine);
 }

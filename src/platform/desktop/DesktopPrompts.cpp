@@ -1,9 +1,12 @@
 #include "platform/desktop/DesktopPrompts.h"
 
+#include "platform/desktop/BoxWidth.h"
 #include "platform/desktop/FileFilters.h"
+#include "platform/desktop/SideBar.h"
 #include "platform/values/Path.h"
 
 #include <algorithm>
+#include <chrono>
 #include <QAbstractItemView>
 #include <QApplication>
 #include <QCloseEvent>
@@ -26,6 +29,8 @@ namespace {
 constexpr int PanelSide = 200;
 constexpr int InputBoxWidth = 320;
 constexpr int CustomColorCount = 16;
+/// A folder on a disk answers in a moment; one on a share that is gone, never.
+constexpr std::chrono::milliseconds patienceWithFolders(100);
 
 /// A message box. Where it offers no way out, neither Esc nor the window's close button may pick an answer.
 class Box final : public QMessageBox {
@@ -181,26 +186,6 @@ void LetSeveralBeNamed(QFileDialog& dialog) {
             list->setSelectionMode(QAbstractItemView::ExtendedSelection);
 }
 
-FileAnswer Run(QFileDialog& dialog, const FileRequest& request) {
-    // The names of the filters tell their patterns already. (Asked for first: setting filters looks at it.)
-    dialog.setOption(QFileDialog::HideNameFilterDetails);
-    dialog.setOption(QFileDialog::DontUseNativeDialog, request.panel != nullptr);
-    if (!request.folder.isEmpty())
-        dialog.setDirectory(request.folder);
-    SetUpFilters(dialog, request);
-    if (!request.fileName.isEmpty())
-        dialog.selectFile(request.fileName);
-    if (request.selectionChanged)
-        QObject::connect(&dialog, &QFileDialog::currentChanged, &dialog, [&request](const QString& path) {
-            if (!path.isEmpty())
-                request.selectionChanged(path);
-        });
-    std::optional<BorrowedPanel> panel;
-    if (request.panel)
-        panel.emplace(dialog, *request.panel);
-    return dialog.exec() == QDialog::Accepted ? AnswerOf(dialog) : FileAnswer();
-}
-
 } // namespace
 
 MsgAnswer DesktopPrompts::MsgBox(QWidget* owner, const QString& text, MsgButtons buttons, MsgIcon icon,
@@ -214,6 +199,8 @@ MsgAnswer DesktopPrompts::MsgBox(QWidget* owner, const QString& text, MsgButtons
     box.setIcon(Standard(icon));
     box.setStandardButtons(Standard(buttons));
     box.setDefaultButton(First(buttons));
+    if (Wide())
+        WidenToTitle(box);
     box.mustAnswer = buttons == MsgButtons::YesNo;
     return Answer(box.exec());
 }
@@ -227,6 +214,9 @@ QString DesktopPrompts::InputBox(QWidget* owner, const QString& prompt, const QS
     dialog.setLabelText(QString(prompt).replace(QStringLiteral("\r\n"), QStringLiteral("\n")));
     dialog.setTextValue(standard);
     dialog.setMinimumWidth(InputBoxWidth);
+    // The dialog takes its size from its layout alone.
+    if (auto* field = dialog.findChild<QLineEdit*>(); field && Wide())
+        field->setMinimumWidth(std::max({InputBoxWidth, LineWidth(dialog), TitleWidth(title, dialog)}));
     return dialog.exec() == QDialog::Accepted ? dialog.textValue() : QString();
 }
 
@@ -247,6 +237,32 @@ std::optional<ColorNumber> DesktopPrompts::ChooseColor(QWidget* owner, QByteArra
         customColors[4 * i + 3] = '\0';
     }
     return FromQColor(dialog.selectedColor());
+}
+
+FileAnswer DesktopPrompts::Run(QFileDialog& dialog, const FileRequest& request) {
+    // The names of the filters tell their patterns already. (Asked for first: setting filters looks at it.)
+    dialog.setOption(QFileDialog::HideNameFilterDetails);
+    dialog.setOption(QFileDialog::DontUseNativeDialog, request.panel != nullptr);
+    if (!request.folder.isEmpty())
+        dialog.setDirectory(request.folder);
+    SetUpFilters(dialog, request);
+    if (!request.fileName.isEmpty())
+        dialog.selectFile(request.fileName);
+    if (request.selectionChanged)
+        QObject::connect(&dialog, &QFileDialog::currentChanged, &dialog, [&request](const QString& path) {
+            if (!path.isEmpty())
+                request.selectionChanged(path);
+        });
+    std::optional<LentSideBar> sideBar;
+    if (folders)
+        sideBar.emplace(dialog, ExistingFolders(folders(), patienceWithFolders));
+    std::optional<WideColumns> columns;
+    if (Wide())
+        columns.emplace(dialog);
+    std::optional<BorrowedPanel> panel;
+    if (request.panel)
+        panel.emplace(dialog, *request.panel);
+    return dialog.exec() == QDialog::Accepted ? AnswerOf(dialog) : FileAnswer();
 }
 
 FileAnswer DesktopPrompts::OpenFile(QWidget* owner, const FileRequest& request) {

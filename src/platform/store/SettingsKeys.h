@@ -77,6 +77,16 @@ inline const SettingsKey UntitledNames = In("Program Options", "UntitledNames", 
 inline const SettingsKey WindowChooser = In("Program Options", "WindowChooser", "1");
 inline const SettingsKey StripKeys = In("Program Options", "StripKeys", "1");
 inline const SettingsKey WebTimer = In("Program Options", "WebTimer", "False");
+/// How large documents are drawn, in percent; and whether keys and wheel change it.
+inline const SettingsKey Zoom = In("Program Options", "Zoom", "100");
+inline const SettingsKey UseZoom = In("Program Options", "UseZoom", "1");
+inline const SettingsKey ShowPartnerTag = In("Program Options", "ShowPartnerTag", "1");
+inline const SettingsKey ShowCurrentLine = In("Program Options", "ShowCurrentLine", "1");
+inline const SettingsKey ShowLineNumbers = In("Program Options", "ShowLineNumbers", "0");
+/// The folders of open and recent documents in file dialogs.
+inline const SettingsKey FileDialogFolders = In("Program Options", "FileDialogFolders", "1");
+/// Boxes as wide as what is in them, and as their titles.
+inline const SettingsKey WideBoxes = In("Program Options", "WideBoxes", "1");
 
 // Browser Options
 inline const SettingsKey Web = In("Browser Options", "Web", "");

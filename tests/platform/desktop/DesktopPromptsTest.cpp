@@ -1,6 +1,7 @@
 // The real dialogs, driven as a person drives them while they are up.
 #include "platform/desktop/DesktopPrompts.h"
 
+#include "platform/desktop/BoxWidth.h"
 #include "support/FreshUser.h"
 #include "support/Text.h"
 
@@ -19,8 +20,10 @@
 #include <QListView>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QScreen>
 #include <QTest>
 #include <QTimer>
+#include <QTreeView>
 
 namespace {
 
@@ -368,4 +371,73 @@ TEST_F(DesktopPromptsTest, SaveAddsTheExtensionAndAsksNoOverwriteQuestion) {
     const FileAnswer answer = prompts.SaveFile(&owner, request);
     EXPECT_EQ(answer.names, QStringList{QStringLiteral("old.htm")});
     EXPECT_EQ(answer.folder, TestFolder() + u'/');
+}
+
+TEST_F(DesktopPromptsTest, BoxesAreWideWhereTheyAreToBe) {
+    const QString title = QStringLiteral("A title that is much longer than the question");
+    bool isWide = false;
+    const auto widths = [&] {
+        std::pair<int, int> both;
+        {
+            WhenUp<QMessageBox> act([&](QMessageBox& box) {
+                both.first = box.width();
+                box.reject();
+            });
+            prompts.MsgBox(&owner, QStringLiteral("?"), MsgButtons::OKCancel, MsgIcon::None, title);
+        }
+        WhenUp<QInputDialog> act([&](QInputDialog& dialog) {
+            both.second = dialog.findChild<QLineEdit*>()->width();
+            QTest::keyClick(dialog.focusWidget(), Qt::Key_Escape);
+        });
+        prompts.InputBox(&owner, QStringLiteral("?"), title, QString());
+        return both;
+    };
+    const auto before = widths();
+    prompts.wide = [&] { return isWide; };
+    EXPECT_EQ(widths(), before);
+    isWide = true;
+    EXPECT_GE(widths().first, TitleWidth(title, owner));
+    EXPECT_GT(widths().second, before.second);
+    EXPECT_LE(widths().second, owner.screen()->availableSize().width());
+}
+
+TEST_F(DesktopPromptsTest, FileDialogsOfferTheFoldersOfDocuments) {
+    QDir(TestFolder()).mkpath(QStringLiteral("site"));
+    const QString site = TestFolder() + QStringLiteral("/site/");
+    QStringList offered = {site, TestFolder() + QStringLiteral("/gone/"), site};
+    const QUrl url = QUrl::fromLocalFile(TestFolder() + QStringLiteral("/site"));
+    const auto sideBar = [&](bool saving) {
+        QList<QUrl> urls;
+        WhenUp<QFileDialog> act([&](QFileDialog& dialog) {
+            urls = dialog.sidebarUrls();
+            QTest::keyClick(&dialog, Qt::Key_Escape);
+        });
+        const FileRequest request{.folder = TestFolder()};
+        saving ? prompts.SaveFile(&owner, request) : prompts.OpenFile(&owner, request);
+        return urls;
+    };
+    const QList<QUrl> before = sideBar(false);
+    EXPECT_FALSE(before.contains(url));
+    prompts.folders = [&] { return offered; };
+    EXPECT_EQ(sideBar(false), before + QList({url}));
+    EXPECT_EQ(sideBar(true), before + QList({url}));
+    offered.clear();
+    EXPECT_EQ(sideBar(false), before) << "the toolkit's own list is as it was";
+}
+
+TEST_F(DesktopPromptsTest, ColumnsOfFileDialogsAreWideWhereTheyAreToBe) {
+    const auto nameWidth = [&] {
+        int width = 0;
+        WhenUp<QFileDialog> act([&](QFileDialog& dialog) {
+            width = dialog.findChild<QTreeView*>(QStringLiteral("treeView"))->columnWidth(0);
+            dialog.reject();
+        });
+        prompts.OpenFile(&owner, {.folder = TestFolder()});
+        return width;
+    };
+    const int before = nameWidth();
+    prompts.wide = [] { return true; };
+    EXPECT_GT(nameWidth(), before);
+    prompts.wide = nullptr;
+    EXPECT_EQ(nameWidth(), before);
 }

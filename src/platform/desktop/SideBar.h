@@ -1,0 +1,45 @@
+// The folders at the side of a file dialog.
+#pragma once
+
+#include <chrono>
+#include <QByteArray>
+#include <QFileDialog>
+#include <QList>
+#include <QStringList>
+#include <QUrl>
+
+/// What the side bar shows: what it showed before, then the folders that it did not, each once.
+QList<QUrl> SideBarUrls(const QList<QUrl>& before, const QStringList& folders);
+
+/// Those of some paths that are folders, in their order. A share that does not answer is not waited for:
+/// what is not known when patience ends counts as not there.
+QStringList ExistingFolders(const QStringList& paths, std::chrono::milliseconds patience);
+
+/// A file dialog with further folders at its side, for as long as this lives. The toolkit keeps the side bar
+/// for all programs, so what the user had there comes back, without what he took out and with what he put in.
+class LentSideBar {
+  public:
+    LentSideBar(QFileDialog& dialog, const QStringList& folders);
+    ~LentSideBar();
+    LentSideBar(const LentSideBar&) = delete;
+    LentSideBar& operator=(const LentSideBar&) = delete;
+
+  private:
+    QFileDialog& dialog_;
+    QList<QUrl> lent_;
+};
+
+/// A file dialog whose list shows names, sizes and dates whole, for as long as this lives. The toolkit keeps
+/// the columns for all programs: unless the user changed them they come back as they were.
+class WideColumns {
+  public:
+    explicit WideColumns(QFileDialog& dialog);
+    ~WideColumns();
+    WideColumns(const WideColumns&) = delete;
+    WideColumns& operator=(const WideColumns&) = delete;
+
+  private:
+    QFileDialog& dialog_;
+    QByteArray before_;
+    QByteArray wide_;
+};
