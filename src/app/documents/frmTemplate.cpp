@@ -6,6 +6,7 @@
 #include "app/run/ProgramState.h"
 #include "app/window/WindowState.h"
 #include "dialogs/Icons.h"
+#include "editor/aids/Aids.h"
 #include "editor/autofill/frmDropDown.h"
 #include "editor/color/WriteColoredText.h"
 #include "editor/frame/EditorFont.h"
@@ -96,6 +97,7 @@ void frmTemplate::ReadSettings() {
     if (const int background = frame_.State<EditorOptions>().Background2; background > 0)
         txtInput_->SetBackColor(background);
     txtInput_->SetFont(StoredEditorFont(store));
+    AttachAids(frame_, *this, this);
 }
 
 void frmTemplate::TakeBackground() {

@@ -18,6 +18,11 @@ constexpr int Right = 39;
 constexpr int Down = 40;
 constexpr int Digit0 = 48;
 constexpr int Digit9 = 57;
+constexpr int Keypad0 = 96;
+constexpr int KeypadPlus = 107;
+constexpr int KeypadMinus = 109;
+constexpr int Plus = 187; ///< the key of "=" and "+"
+constexpr int Minus = 189;
 } // namespace KeyCodeOf
 
 /// Of Shift: Ctrl and no other.

@@ -78,8 +78,8 @@ void RichTextBox::SetUp() {
 void RichTextBox::ApplyStyles() {
     const QByteArray family = font_.family().toUtf8();
     SendScintilla(SCI_STYLESETFONT, STYLE_DEFAULT, family.constData());
-    const double points = font_.pointSizeF() > 0 ? font_.pointSizeF() : 10;
-    Sci(SCI_STYLESETSIZEFRACTIONAL, STYLE_DEFAULT, qRound(points * int{SC_FONT_SIZE_MULTIPLIER}));
+    Sci(SCI_STYLESETSIZEFRACTIONAL, STYLE_DEFAULT,
+        qRound(ZoomedFont().pointSizeF() * int{SC_FONT_SIZE_MULTIPLIER}));
     Sci(SCI_STYLESETWEIGHT, STYLE_DEFAULT, font_.bold() ? SC_WEIGHT_BOLD : SC_WEIGHT_NORMAL);
     Sci(SCI_STYLESETITALIC, STYLE_DEFAULT, font_.italic());
     Sci(SCI_STYLESETUNDERLINE, STYLE_DEFAULT, font_.underline());
@@ -88,6 +88,7 @@ void RichTextBox::ApplyStyles() {
     Sci(SCI_STYLECLEARALL);
     colors_.ShowStyles();
     Sci(SCI_SETCARETFORE, qGray(ToQColor(backColor_).rgb()) < 128 ? 0xffffff : 0);
+    aids_.SuitLook(backColor_);
 }
 
 void RichTextBox::ApplyPalette() {
@@ -249,6 +250,41 @@ void RichTextBox::SetFont(const QFont& font) {
         return;
     font_ = font;
     ApplyStyles();
+}
+
+QFont RichTextBox::ZoomedFont() const {
+    // A glyph beyond the largest size costs more memory than it shows.
+    constexpr double largestPoints = 1638;
+    const double points = font_.pointSizeF() > 0 ? font_.pointSizeF() : 10;
+    QFont font = font_;
+    font.setPointSizeF(std::min(points * zoom_ / 100, std::max(points, largestPoints)));
+    return font;
+}
+
+bool RichTextBox::CaretInView() const {
+    const int top = CaretPixel().y();
+    return top >= 0 && top + LineHeight() <= viewport()->height();
+}
+
+void RichTextBox::SetZoom(int percent) {
+    if (zoom_ == percent)
+        return;
+    const bool caretInView = isVisible() && CaretInView();
+    zoom_ = percent;
+    ApplyStyles();
+    // The width that the longest line had so far is not that of the lines as they are now.
+    Sci(SCI_SETSCROLLWIDTH, 1);
+    if (!caretInView)
+        return;
+    // Painting wraps the lines in view, and only then is it known where the caret is; the lines that scrolling
+    // brings up are to be wrapped in turn.
+    constexpr int mostTurns = 8;
+    for (int turn = 0; turn < mostTurns; ++turn) {
+        viewport()->repaint();
+        if (CaretInView())
+            return;
+        Sci(SCI_SCROLLCARET);
+    }
 }
 
 bool RichTextBox::Enabled() const {

@@ -5,6 +5,7 @@
 #include "platform/text/AssistantNews.h"
 #include "platform/text/InputMethod.h"
 #include "platform/text/KeyInput.h"
+#include "platform/text/TextAids.h"
 #include "platform/text/TextBuffer.h"
 #include "platform/text/TextColors.h"
 #include "platform/text/TextEditing.h"
@@ -113,6 +114,10 @@ class RichTextBox : public QsciScintillaBase, public AccessibleText {
     void SetBackColor(ColorNumber color);
     QFont Font() const override;
     void SetFont(const QFont& font);
+    /// How large the text is drawn on the screen, in percent of its font. Nothing else knows of it: neither
+    /// Font nor what prints or is copied. Where the caret is in view it stays there.
+    int Zoom() const { return zoom_; }
+    void SetZoom(int percent);
     /// While off, keys, mouse and drops change nothing; the focus stays where it is.
     bool Enabled() const override;
     void SetEnabled(bool enabled);
@@ -168,6 +173,8 @@ class RichTextBox : public QsciScintillaBase, public AccessibleText {
 
     /// What assistive technology is told.
     AssistantNews& News() { return news_; }
+    /// What is drawn beside the text.
+    TextAids& Aids() { return aids_; }
 
     /// Painting waits while a hold lives: what others know as hiding the control during a write. So does
     /// scrolling: only where the caret stands at the end is brought into view, since each look at a place
@@ -242,6 +249,9 @@ class RichTextBox : public QsciScintillaBase, public AccessibleText {
     void SetUp();
     void ApplyStyles();
     void ApplyPalette();
+    /// The font as it is drawn.
+    QFont ZoomedFont() const;
+    bool CaretInView() const;
 
     void Settle();
     void TakeIncoming();
@@ -272,8 +282,10 @@ class RichTextBox : public QsciScintillaBase, public AccessibleText {
     KeyInput keys_;
     InputMethod inputMethod_;
     AssistantNews news_{*this};
+    TextAids aids_{*this, buffer_};
 
     QFont font_;
+    int zoom_ = 100;
     ColorNumber backColor_ = 0xffffff;
     int rightMargin_ = 0;
     RawLineEnds rawLineEnds_;

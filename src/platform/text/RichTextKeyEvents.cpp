@@ -85,6 +85,8 @@ void RichTextBox::inputMethodEvent(QInputMethodEvent* event) {
 QVariant RichTextBox::inputMethodQuery(Qt::InputMethodQuery query) const {
     if (query == Qt::ImCursorRectangle)
         return QRect(CaretPixel(), QSize(1, LineHeight()));
+    if (query == Qt::ImFont)
+        return ZoomedFont();
     const QVariant answer = InputMethod::Answer(*this, query);
     return answer.isValid() ? answer : QsciScintillaBase::inputMethodQuery(query);
 }
@@ -92,5 +94,5 @@ QVariant RichTextBox::inputMethodQuery(Qt::InputMethodQuery query) const {
 void RichTextBox::paintEvent(QPaintEvent* event) {
     QsciScintillaBase::paintEvent(event);
     if (inputMethod_.Composing())
-        inputMethod_.Paint(QRect(CaretPixel(), QSize(1, LineHeight())), font_);
+        inputMethod_.Paint(QRect(CaretPixel(), QSize(1, LineHeight())), ZoomedFont());
 }

@@ -25,8 +25,10 @@ void RichTextBox::Settle() {
         if (selection != lastSelection_)
             news_.TellCaret(SelStart(), SelLength(), CaretPosition());
     }
-    if (changed)
+    if (changed) {
+        aids_.SuitLength();
         Q_EMIT Change();
+    }
     // A handler may have moved the selection and told of it.
     lastSelection_ = editing_.Selection();
     const int start = SelStart();
