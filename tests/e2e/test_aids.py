@@ -61,22 +61,41 @@ def test_ctrl_0_stays_the_tenth_button(desk):
     assert desk.setting("Program Options", "Zoom") == "150"
 
 
-def shot(desk):
-    """The screen as rows of colours, once it stands still but for the caret's blinking."""
-    with tempfile.NamedTemporaryFile(suffix=".ppm") as file:
+def color(desk, x, y):
+    """The colour of a point on the screen, "#FFFFFF"."""
+    with tempfile.NamedTemporaryFile(suffix=".png") as file:
         desk.screenshot(file.name)
-        return subprocess.run(["convert", file.name, "-unique-colors", "txt:-"], capture_output=True, text=True,
-                              check=True).stdout
+        return subprocess.run(["convert", file.name, "-crop", "1x1+%d+%d" % (x, y), "-depth", "8", "-format",
+                               "#%[hex:p{0,0}]", "info:"], capture_output=True, text=True, check=True).stdout[:7]
+
+
+def ground(desk, offset):
+    """The colour behind the words of a character's line."""
+    _, y, _, height = extents(desk, offset)
+    return color(desk, 600, y + height // 2)
+
+
+def below(desk, offset):
+    """The colour below a capital letter."""
+    x, y, width, height = extents(desk, offset)
+    return color(desk, x + width // 2, y + height - 3)
 
 
 def test_partner_and_current_line_are_drawn_and_the_file_is_left_alone(desk):
     path = desk.write("page.htm", PAGE)
     desk.run(path)
     desk.wait_page("words")
-    # The current line's tint, and on it the box of a marked tag.
-    wait_for("the current line", lambda: "#F0F0F0" in shot(desk))
+    wait_for("the current line", lambda: ground(desk, 0) == "#F0F0F0")
+    wait_for("the marked tag", lambda: below(desk, 1) not in ("#F0F0F0", "#FFFFFF"))
+    second = PAGE.index(b"<P>")
+    end = PAGE.index(b"</P>")
+    assert ground(desk, second) == "#FFFFFF"
     desk.key("Down", "Right")
-    wait_for("the marked tags", lambda: "#C3C3C3" in shot(desk) or "#CFCFCF" in shot(desk))
+    wait_for("the current line", lambda: ground(desk, second) == "#F0F0F0")
+    assert ground(desk, 0) == "#FFFFFF"
+    wait_for("the marked tag", lambda: below(desk, second + 1) not in ("#F0F0F0", "#FFFFFF"))
+    assert below(desk, end + 2) == below(desk, second + 1)
+    assert below(desk, 1) == "#FFFFFF"
     desk.key("alt+F4")
     assert desk.ended() == 0
     assert read(path) == PAGE
@@ -91,7 +110,8 @@ def test_with_the_settings_off_nothing_is_drawn_and_no_key_is_taken(desk):
     wait_for("the line", lambda: desk.widget_text_contains("Line 1"))
     assert extents(desk, 0)[3] == height
     assert desk.setting("Program Options", "Zoom") == "200"
-    assert "#F0F0F0" not in shot(desk)
+    assert ground(desk, 0) == "#FFFFFF"
+    assert below(desk, 1) == "#FFFFFF"
 
 
 if __name__ == "__main__":

@@ -9,7 +9,9 @@ namespace {
 
 using Control = QsciScintillaBase;
 
+// A mark is a ground and, since that must be faint for the text on it, a line at its foot.
 constexpr int mark = Control::INDIC_CONTAINER;
+constexpr int markFoot = mark + 1;
 constexpr int numberMargin = 0;
 
 // How far what is drawn stands out from the background, in percent. Dark needs more to be seen.
@@ -17,9 +19,9 @@ constexpr int lineOnLight = 6;
 constexpr int lineOnDark = 12;
 constexpr int marginBack = 4;
 constexpr int marginText = 55;
-// How much a mark hides of what it is drawn on: inside and at its edge, of 255.
-constexpr int markInside = 48;
-constexpr int markEdge = 130;
+constexpr int footLine = 65;
+// How much the ground of a mark hides of what it is drawn on, of 255.
+constexpr int markGround = 26;
 
 constexpr int fewestDigits = 3;
 
@@ -81,11 +83,14 @@ void TextAids::SuitLength() {
 
 void TextAids::SuitLook(ColorNumber background) {
     Sci(Control::SCI_SETCARETLINEBACK, AwayFrom(background, IsDark(background) ? lineOnDark : lineOnLight));
-    Sci(Control::SCI_INDICSETSTYLE, mark, Control::INDIC_STRAIGHTBOX);
+    Sci(Control::SCI_INDICSETSTYLE, mark, Control::INDIC_FULLBOX);
     Sci(Control::SCI_INDICSETUNDER, mark, 1);
     Sci(Control::SCI_INDICSETFORE, mark, AwayFrom(background, 100));
-    Sci(Control::SCI_INDICSETALPHA, mark, markInside);
-    Sci(Control::SCI_INDICSETOUTLINEALPHA, mark, markEdge);
+    Sci(Control::SCI_INDICSETALPHA, mark, markGround);
+    Sci(Control::SCI_INDICSETOUTLINEALPHA, mark, markGround);
+    Sci(Control::SCI_INDICSETSTYLE, markFoot, Control::INDIC_COMPOSITIONTHIN);
+    Sci(Control::SCI_INDICSETUNDER, markFoot, 1);
+    Sci(Control::SCI_INDICSETFORE, markFoot, AwayFrom(background, footLine));
     Sci(Control::SCI_STYLESETBACK, Control::STYLE_LINENUMBER, AwayFrom(background, marginBack));
     Sci(Control::SCI_STYLESETFORE, Control::STYLE_LINENUMBER, AwayFrom(background, marginText));
     digits_ = 0;
@@ -94,9 +99,12 @@ void TextAids::SuitLook(ColorNumber background) {
 
 void TextAids::Mark(std::span<const CharRange> stretches) {
     Unmark();
-    for (const CharRange& stretch : stretches) {
-        const ByteRange range = buffer_.FromChars(stretch.start, stretch.end);
-        Sci(Control::SCI_INDICATORFILLRANGE, range.start, range.Length());
+    for (const int indicator : {mark, markFoot}) {
+        Sci(Control::SCI_SETINDICATORCURRENT, indicator);
+        for (const CharRange& stretch : stretches) {
+            const ByteRange range = buffer_.FromChars(stretch.start, stretch.end);
+            Sci(Control::SCI_INDICATORFILLRANGE, range.start, range.Length());
+        }
     }
 }
 
@@ -115,7 +123,8 @@ void TextAids::UnmarkInView() {
 }
 
 void TextAids::UnmarkFrom(int byte) {
-    Sci(Control::SCI_SETINDICATORCURRENT, mark);
-    Sci(Control::SCI_SETINDICATORVALUE, 1);
-    Sci(Control::SCI_INDICATORCLEARRANGE, byte, buffer_.Bytes() - byte);
+    for (const int indicator : {mark, markFoot}) {
+        Sci(Control::SCI_SETINDICATORCURRENT, indicator);
+        Sci(Control::SCI_INDICATORCLEARRANGE, byte, buffer_.Bytes() - byte);
+    }
 }

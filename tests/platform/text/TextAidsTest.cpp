@@ -138,7 +138,7 @@ TEST_F(TextAidsTest, MarksAreSeenOnAnyBackground) {
         const QColor inside = Picture().pixelColor(place.center());
         EXPECT_GE(std::abs(inside.red() - red) + std::abs(inside.green() - green) +
                       std::abs(inside.blue() - blue),
-                  40)
+                  30)
             << background;
     }
 }
