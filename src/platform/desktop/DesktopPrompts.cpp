@@ -258,7 +258,7 @@ FileAnswer DesktopPrompts::Run(QFileDialog& dialog, const FileRequest& request) 
         sideBar.emplace(dialog, ExistingFolders(folders(), patienceWithFolders));
     std::optional<WideColumns> columns;
     if (Wide())
-        columns.emplace(dialog);
+        columns.emplace(dialog, request.panel ? PanelSide : 0);
     std::optional<BorrowedPanel> panel;
     if (request.panel)
         panel.emplace(dialog, *request.panel);

@@ -5,8 +5,11 @@
 #include <filesystem>
 #include <memory>
 #include <mutex>
+#include <QDateTime>
 #include <QHeaderView>
+#include <QLocale>
 #include <QScreen>
+#include <QSplitter>
 #include <QTreeView>
 #include <thread>
 #include <utility>
@@ -16,6 +19,11 @@ namespace {
 constexpr int widestDialog = 1000;
 constexpr int highestDialog = 600;
 constexpr int nameColumn = 0;
+// In letters.
+constexpr int sideBarLength = 24;
+constexpr int shortestName = 44;
+/// Margins, frames and a scroll bar, in pixels.
+constexpr int edges = 60;
 
 /// What a thread finds out about folders, and how far it is.
 struct Inquiry {
@@ -37,6 +45,10 @@ void Inquire(const std::shared_ptr<Inquiry>& inquiry) {
 
 QTreeView* DetailsOf(const QFileDialog& dialog) {
     return dialog.findChild<QTreeView*>(QStringLiteral("treeView"));
+}
+
+QSplitter* SplitterOf(const QFileDialog& dialog) {
+    return dialog.findChild<QSplitter*>(QStringLiteral("splitter"));
 }
 
 } // namespace
@@ -86,26 +98,42 @@ LentSideBar::~LentSideBar() {
     dialog_.setSidebarUrls(urls);
 }
 
-WideColumns::WideColumns(QFileDialog& dialog) : dialog_(dialog) {
-    QTreeView* details = DetailsOf(dialog);
-    if (!details)
+WideColumns::WideColumns(QFileDialog& dialog, int beside) : dialog_(dialog) {
+    if (!DetailsOf(dialog) || !SplitterOf(dialog))
         return;
-    const QSize room = dialog.screen()->availableSize() * 9 / 10;
+    const QSize room = dialog.screen()->availableSize() * 9 / 10 - QSize(beside, 0);
     dialog.resize(dialog.size().expandedTo({widestDialog, highestDialog}).boundedTo(room));
-    QHeaderView& header = *details->header();
-    before_ = header.saveState();
-    const QFontMetrics letters = details->fontMetrics();
-    // What the columns beside the name hold at their longest.
+    columns_ = DetailsOf(dialog)->header()->saveState();
+    sideBar_ = SplitterOf(dialog)->sizes().constFirst();
+    Widen();
+    wideColumns_ = DetailsOf(dialog)->header()->saveState();
+    sideBarMoved_ =
+        QObject::connect(SplitterOf(dialog), &QSplitter::splitterMoved, &dialog, [this] { sideBar_ = 0; });
+}
+
+void WideColumns::Widen() {
+    QHeaderView& header = *DetailsOf(dialog_)->header();
+    const QFontMetrics letters = dialog_.fontMetrics();
+    const int sideBar = letters.averageCharWidth() * sideBarLength;
+    SplitterOf(dialog_)->setSizes({sideBar, dialog_.width() - sideBar});
+    const QString date =
+        QLocale().toString(QDateTime(QDate(2028, 12, 28), QTime(22, 58, 58)), QLocale::ShortFormat);
+    // What the columns beside the name hold, about at its longest; the name gets the rest.
+    int rest = dialog_.width() - sideBar - edges;
     for (const auto& [column, longest] :
-         {std::pair{1, "8888.88 MiB"}, {2, "Drag and Drop"}, {3, "88/88/8888 88:88 PM"}})
-        header.resizeSection(column,
-                             letters.horizontalAdvance(QString::fromLatin1(longest)) + 2 * letters.height());
-    header.resizeSection(nameColumn, letters.averageCharWidth() * 48);
-    wide_ = header.saveState();
+         {std::pair{1, QStringLiteral("888.88 MiB")}, {2, QStringLiteral("JPEG Image file")}, {3, date}}) {
+        const int width = letters.horizontalAdvance(longest) + letters.height();
+        header.resizeSection(column, width);
+        rest -= width;
+    }
+    header.resizeSection(nameColumn, std::max({rest, header.sectionSize(nameColumn),
+                                               letters.averageCharWidth() * shortestName}));
 }
 
 WideColumns::~WideColumns() {
-    QTreeView* details = DetailsOf(dialog_);
-    if (details && details->header()->saveState() == wide_)
-        details->header()->restoreState(before_);
+    QObject::disconnect(sideBarMoved_);
+    if (!wideColumns_.isEmpty() && DetailsOf(dialog_)->header()->saveState() == wideColumns_)
+        DetailsOf(dialog_)->header()->restoreState(columns_);
+    if (sideBar_ > 0)
+        SplitterOf(dialog_)->setSizes({sideBar_, dialog_.width() - sideBar_});
 }

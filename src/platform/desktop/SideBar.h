@@ -5,6 +5,7 @@
 #include <QByteArray>
 #include <QFileDialog>
 #include <QList>
+#include <QMetaObject>
 #include <QStringList>
 #include <QUrl>
 
@@ -29,17 +30,22 @@ class LentSideBar {
     QList<QUrl> lent_;
 };
 
-/// A file dialog whose list shows names, sizes and dates whole, for as long as this lives. The toolkit keeps
-/// the columns for all programs: unless the user changed them they come back as they were.
+/// A file dialog whose list and side bar show names, sizes and dates whole, for as long as this lives. The
+/// toolkit keeps their widths for all programs: unless the user changed them they come back as they were.
 class WideColumns {
   public:
-    explicit WideColumns(QFileDialog& dialog);
+    /// So many pixels are to be left beside the dialog's own.
+    explicit WideColumns(QFileDialog& dialog, int beside = 0);
     ~WideColumns();
     WideColumns(const WideColumns&) = delete;
     WideColumns& operator=(const WideColumns&) = delete;
 
   private:
+    void Widen();
+
     QFileDialog& dialog_;
-    QByteArray before_;
-    QByteArray wide_;
+    QByteArray columns_;
+    QByteArray wideColumns_;
+    int sideBar_ = 0;
+    QMetaObject::Connection sideBarMoved_;
 };

@@ -4,8 +4,10 @@
 #include "support/FreshUser.h"
 
 #include <gtest/gtest.h>
+#include <QApplication>
 #include <QHeaderView>
 #include <QScreen>
+#include <QSplitter>
 #include <QTreeView>
 
 namespace {
@@ -94,4 +96,30 @@ TEST_F(SideBarTest, ColumnsAreWideAndComeBack) {
         header.resizeSection(0, 333);
     }
     EXPECT_EQ(header.sectionSize(0), 333) << "the user's own width stays";
+}
+
+TEST_F(SideBarTest, DialogLeavesRoomAndShowsTheNamesOfFolders) {
+    QFileDialog dialog;
+    dialog.setOption(QFileDialog::DontUseNativeDialog);
+    dialog.setViewMode(QFileDialog::Detail);
+    const WideColumns wide(dialog, 200);
+    dialog.show();
+    QApplication::processEvents();
+    EXPECT_LE(dialog.width() + 200, dialog.screen()->availableSize().width());
+    const auto& splitter = *dialog.findChild<QSplitter*>(QStringLiteral("splitter"));
+    EXPECT_GE(splitter.sizes().constFirst(), dialog.fontMetrics().averageCharWidth() * 20);
+}
+
+TEST_F(SideBarTest, WidthOfTheSideBarComesBack) {
+    QFileDialog dialog;
+    dialog.setOption(QFileDialog::DontUseNativeDialog);
+    dialog.show();
+    auto& splitter = *dialog.findChild<QSplitter*>(QStringLiteral("splitter"));
+    splitter.setSizes({100, 400});
+    const int before = splitter.sizes().constFirst();
+    {
+        const WideColumns wide(dialog);
+        EXPECT_GT(splitter.sizes().constFirst(), before);
+    }
+    EXPECT_NEAR(splitter.sizes().constFirst(), before, 3);
 }
