@@ -13,7 +13,7 @@ namespace {
 
 /// Icon, minimise, maximise, close: what desktops put beside a title.
 constexpr int titleButtons = 4;
-constexpr int lineLength = 80;
+constexpr int lineLength = 100;
 
 } // namespace
 
