@@ -276,8 +276,8 @@ void RichTextBox::SetZoom(int percent) {
     Sci(SCI_SETSCROLLWIDTH, 1);
     if (!caretInView)
         return;
-    // Painting wraps the lines in view, and only then is it known where the caret is; the lines that scrolling
-    // brings up are to be wrapped in turn.
+    // Painting wraps the lines in view, and only then is it known where the caret is; the lines that
+    // scrolling brings up are to be wrapped in turn.
     constexpr int mostTurns = 8;
     for (int turn = 0; turn < mostTurns; ++turn) {
         viewport()->repaint();
