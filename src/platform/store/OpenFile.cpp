@@ -56,8 +56,11 @@ bool OpenFile::Write(QByteArrayView content) const {
             Calls().pwrite(number_, content.data() + done, static_cast<size_t>(content.size() - done), done);
         if (count < 0 && errno == EINTR)
             continue;
-        if (count <= 0)
+        if (count <= 0) {
+            // A disk that takes nothing without a word has no room.
+            errno = count < 0 ? errno : ENOSPC;
             return false;
+        }
         done += count;
     }
     return true;

@@ -24,7 +24,7 @@ class OpenFile {
     std::optional<struct stat> Status() const;
     /// All bytes; nothing where they can't be had.
     std::optional<QByteArray> Read() const;
-    /// Writes from the file's beginning on; what lies behind stays.
+    /// Writes from the file's beginning on; what lies behind stays. False with the reason in errno.
     bool Write(QByteArrayView content) const;
     /// Whether what was written has reached the disk; where flushing is not known, it counts as done.
     bool Flush() const;

@@ -20,10 +20,20 @@ std::optional<QByteArray> LinkTarget(const QByteArray& link, const struct stat& 
     const ssize_t size =
         Calls().readlink(link.constData(), target.data(), static_cast<size_t>(target.size()));
     // Some links of the system's own say nothing of their size.
-    if (size <= 0 || size == target.size() || (status.st_size != 0 && size != status.st_size))
+    if (size <= 0 || size == target.size() || (status.st_size != 0 && size != status.st_size)) {
+        errno = size < 0 ? errno : EIO;
         return std::nullopt;
+    }
     target.truncate(size);
     return target.startsWith('/') ? target : FolderOf(link) + target;
+}
+
+/// False with the reason in errno.
+bool MayWrite(const QByteArray& path, const struct stat& status) {
+    if (S_ISREG(status.st_mode))
+        return Calls().access(path.constData(), W_OK) == 0;
+    errno = S_ISDIR(status.st_mode) ? EISDIR : EOPNOTSUPP;
+    return false;
 }
 
 /// Short, as the file's own name may be as long as a name can be.
@@ -71,36 +81,41 @@ std::optional<SavedFile> SavedFile::At(const QByteArray& path) {
             real = *target;
             continue;
         }
-        const bool mayWrite = S_ISREG(status.st_mode) && Calls().access(real.constData(), W_OK) == 0;
-        return mayWrite ? std::optional(SavedFile(real, status)) : std::nullopt;
+        return MayWrite(real, status) ? std::optional(SavedFile(real, status)) : std::nullopt;
     }
+    errno = ELOOP;
     return std::nullopt;
 }
 
-SavedFile::Outcome SavedFile::Replace(QByteArrayView content, mode_t mode, Wait wait) const {
+/// Before anything is cleared up, which makes further calls.
+template <typename Result> Result SavedFile::WithError(Result result) {
+    error_ = errno;
+    return result;
+}
+
+SavedFile::Outcome SavedFile::Replace(QByteArrayView content, mode_t mode, Wait wait) {
     if (old_ && old_->st_nlink > 1)
         return Outcome::NotReplaceable;
     // With the old file's rights, or none for others until it has these.
     NewFile fresh(NameBeside(path_), old_ ? 0600 : mode);
     if (!fresh.File().IsOpen())
-        return Outcome::NotReplaceable;
+        return WithError(Outcome::NotReplaceable);
     if (const Outcome filled = Fill(fresh.File(), fresh.Record(), content, wait); filled != Outcome::Written)
         return filled;
     // The content is on the disk: what fails now is the name. It may be in the way itself (a mount of its
     // own).
     if (!GiveName(fresh.Path()))
-        return Outcome::NotReplaceable;
+        return WithError(Outcome::NotReplaceable);
     fresh.SetNamed();
-    return wait == Wait::No || FlushFolderOf(path_) ? Outcome::Written : Outcome::Failed;
+    return wait == Wait::No || FlushFolderOf(path_) ? Outcome::Written : WithError(Outcome::Failed);
 }
 
-SavedFile::Outcome SavedFile::Fill(OpenFile& file, SaveRecord* record, QByteArrayView content,
-                                   Wait wait) const {
+SavedFile::Outcome SavedFile::Fill(OpenFile& file, SaveRecord* record, QByteArrayView content, Wait wait) {
     const std::optional<struct stat> status = file.Status();
     if (!status || (record && !record->SetFile(*status)) || (old_ && !TakeOver(path_, *old_, file)))
-        return Outcome::NotReplaceable;
+        return WithError(Outcome::NotReplaceable);
     const bool isThere = file.Write(content) && (wait == Wait::No || file.Flush()) && file.Close();
-    return isThere ? Outcome::Written : Outcome::Failed;
+    return isThere ? Outcome::Written : WithError(Outcome::Failed);
 }
 
 /// A file that was not there must not be replaced if it is there after all: nothing is known of it.
@@ -117,29 +132,36 @@ bool SavedFile::GiveName(const QByteArray& from) const {
     return Calls().rename(from.constData(), path_.constData()) == 0;
 }
 
-bool SavedFile::Overwrite(QByteArrayView content) const {
+bool SavedFile::Overwrite(QByteArrayView content) {
     if (!old_)
         return false;
     const OpenFile reading(path_, O_RDONLY | O_NOFOLLOW);
     const std::optional<QByteArray> old = reading.IsOpen() ? reading.Read() : std::nullopt;
     const OpenFile file(path_, O_WRONLY | O_NOFOLLOW);
     if (!old || !file.IsOpen())
-        return false;
+        return WithError(false);
     const std::unique_ptr<SaveRecord> record = SaveRecord::OfOverwriting(path_, *old, content);
-    if (!record)
-        return false;
+    return record ? WriteOver(file, *old, content, *record) : WithError(false);
+}
+
+bool SavedFile::WriteOver(const OpenFile& file, const QByteArray& old, QByteArrayView content,
+                          SaveRecord& record) {
     // Room comes first, behind the old content, so that a full disk is found out while that still stands.
-    const bool hasRoom =
-        content.size() <= old->size() || Calls().posix_fallocate(file.Number(), 0, content.size()) == 0;
-    if (hasRoom && file.Write(content) && Calls().ftruncate(file.Number(), content.size()) == 0) {
+    const int noRoom =
+        content.size() > old.size() ? Calls().posix_fallocate(file.Number(), 0, content.size()) : 0;
+    if (noRoom != 0)
+        errno = noRoom;
+    else if (file.Write(content) && Calls().ftruncate(file.Number(), content.size()) == 0) {
         if (file.Flush())
             return true;
         // Whole as far as anyone can see: a disk that takes no more must not get the chance to spoil it.
-        record->Leave();
-        return false;
+        record.Leave();
+        return WithError(false);
     }
-    if ((hasRoom && !file.Write(*old)) || Calls().ftruncate(file.Number(), old->size()) != 0 || !file.Flush())
-        record->Leave();
+    error_ = errno;
+    if ((noRoom == 0 && !file.Write(old)) || Calls().ftruncate(file.Number(), old.size()) != 0 ||
+        !file.Flush())
+        record.Leave();
     return false;
 }
 

@@ -10,6 +10,7 @@
 #include "platform/store/SavedFile.h"
 #include "platform/store/SaveRecord.h"
 
+#include <cerrno>
 #include <csignal>
 #else
 #include <QSaveFile>
@@ -43,6 +44,10 @@ class NoSizeSignal {
     struct sigaction before_ = {};
 };
 
+WriteResult Failed(int error) {
+    return WriteResult::Failed(qt_error_string(error));
+}
+
 bool Save(SavedFile& file, QByteArrayView content, Readers readers, Flush flush) {
     const mode_t mode = readers == Readers::TheUserAlone ? 0600 : 0666;
     const auto wait = flush == Flush::Now ? SavedFile::Wait::ForTheDisk : SavedFile::Wait::No;
@@ -61,20 +66,20 @@ std::optional<QByteArray> Read(const QString& path) {
     return file.IsOpen() ? file.Read() : std::nullopt;
 }
 
-bool Write(const QString& path, QByteArrayView content, Readers readers, Flush flush) {
+WriteResult Write(const QString& path, QByteArrayView content, Readers readers, Flush flush) {
     if (path.isEmpty())
-        return false;
+        return Failed(ENOENT);
     const NoSizeSignal noSignal;
     std::optional<SavedFile> file = SavedFile::At(QFile::encodeName(path));
     if (!file)
-        return false;
+        return Failed(errno);
     const QList<QByteArray> unsettled = SaveRecord::SettleAll(file->Path());
     if (!Save(*file, content, readers, flush))
-        return false;
+        return Failed(file->Error());
     // What could not be finished is now out of date.
     for (const QByteArray& record : unsettled)
         Calls().unlink(record.constData());
-    return true;
+    return {};
 }
 
 void SettleInterrupted() {
@@ -93,13 +98,13 @@ std::optional<QByteArray> Read(const QString& path) {
     return file.error() == QFileDevice::NoError ? std::optional(content) : std::nullopt;
 }
 
-bool Write(const QString& path, QByteArrayView content, Readers, Flush) {
+WriteResult Write(const QString& path, QByteArrayView content, Readers, Flush) {
     QSaveFile file(path);
     if (!file.open(QIODevice::WriteOnly))
-        return false;
+        return WriteResult::Failed(file.errorString());
     if (file.write(content.data(), content.size()) != content.size())
         file.cancelWriting();
-    return file.commit();
+    return file.commit() ? WriteResult() : WriteResult::Failed(file.errorString());
 }
 
 void SettleInterrupted() {}

@@ -1,6 +1,8 @@
 // Files read and written whole: a save either replaces the old file or leaves it as it was.
 #pragma once
 
+#include "platform/store/WriteResult.h"
+
 #include <optional>
 #include <QByteArray>
 #include <QString>
@@ -28,11 +30,11 @@ std::optional<QByteArray> Read(const QString& path);
 /// stay what it is, or whose folder takes no new files, is written in place, once the old content and the new
 /// one have been brought to the disk in the program's folder.
 ///
-/// Returns false on failure: the old file then stands as it was, or, where the disk failed too late to tell,
-/// holds the new content whole. Nothing else is left behind. What a save leaves whose process is killed is
-/// settled by the next one, and by SettleInterrupted().
-bool Write(const QString& path, QByteArrayView content, Readers readers = Readers::AsTheUsersMaskAsks,
-           Flush flush = Flush::Now);
+/// On failure it tells the system's reason: the old file then stands as it was, or, where the disk failed too
+/// late to tell, holds the new content whole. Nothing else is left behind. What a save leaves whose process
+/// is killed is settled by the next one, and by SettleInterrupted().
+WriteResult Write(const QString& path, QByteArrayView content, Readers readers = Readers::AsTheUsersMaskAsks,
+                  Flush flush = Flush::Now);
 
 /// Settles the saves whose process was killed: their new files are taken away, and a file that was half
 /// overwritten gets its new content.

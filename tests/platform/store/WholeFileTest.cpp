@@ -345,6 +345,42 @@ TEST_F(WholeFileTest, FoldersAndDevicesAreNoFilesToWrite) {
     EXPECT_TRUE(S_ISCHR(Status(QStringLiteral("/dev/full")).st_mode));
 }
 
+TEST_F(WholeFileTest, AFailureTellsItsReason) {
+    const QString pipe = At("pipe");
+    ASSERT_EQ(::mkfifo(Encoded(pipe).constData(), 0600), 0);
+    ASSERT_TRUE(QFile::link(At("loop.htm"), At("loop.htm")));
+    const std::pair<QString, int> rows[] = {
+        {At("gone/a.htm"), ENOENT},  {QString(), ENOENT},
+        {TestFolder(), EISDIR},      {QStringLiteral("/dev/full"), EOPNOTSUPP},
+        {pipe, EOPNOTSUPP},          {At("loop.htm"), ELOOP},
+        {At("pipe/a.htm"), ENOTDIR}, {At(QByteArray(300, 'x').constData()), ENAMETOOLONG},
+    };
+    for (const auto& [path, error] : rows)
+        EXPECT_EQ(WholeFile::Write(path, "new").Reason(), qt_error_string(error)) << path.toStdString();
+    EXPECT_EQ(WholeFile::Write(At("a.htm"), "new").Reason(), QString());
+}
+
+TEST_F(WholeFileTest, AFailureOfTheDiskTellsItsReason) {
+    const QByteArray large(100'000, 'x');
+    const auto reasonOf = [](const QString& path, const QByteArray& bytes) {
+        return WholeFile::Write(path, bytes).Reason();
+    };
+    const auto isTooLarge = [&](const QString& path) {
+        return reasonOf(path, large) == qt_error_string(EFBIG);
+    };
+    const QString path = Make("a.htm", "old");
+    EXPECT_EQ(WithSizeLimit(10'000, [&] { return isTooLarge(path); }), 1);
+    EXPECT_EQ(WithSizeLimit(10'000, [&] { return isTooLarge(At("new.htm")); }), 1);
+    ASSERT_EQ(::link(Encoded(path).constData(), Encoded(At("twin.htm")).constData()), 0);
+    EXPECT_EQ(WithSizeLimit(10'000, [&] { return isTooLarge(path); }), 1) << "written in place";
+    Make("b.htm", "old", 0444);
+    EXPECT_EQ(AsNobody([&] {
+                  return reasonOf(QStringLiteral("b.htm"), "new") == qt_error_string(EACCES) &&
+                         reasonOf(QStringLiteral("new.htm"), "new") == qt_error_string(EACCES);
+              }),
+              1);
+}
+
 TEST_F(WholeFileTest, AWriteThatFailsHalfwayLeavesTheOldFileAndNoLitter) {
     const QString path = Make("a.htm", "old");
     const QByteArray large(100'000, 'x');
