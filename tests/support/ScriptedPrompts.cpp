@@ -43,7 +43,8 @@ MsgAnswer ScriptedPrompts::MsgBox(QWidget* owner, const QString& text, MsgButton
         whileAsked();
     if (buttons == MsgButtons::OK)
         return MsgAnswer::OK;
-    const MsgAnswer refusal = buttons == MsgButtons::YesNo ? MsgAnswer::No : MsgAnswer::Cancel;
+    const bool hasNoCancel = buttons == MsgButtons::YesNo || buttons == MsgButtons::YesOrNoByDefault;
+    const MsgAnswer refusal = hasNoCancel ? MsgAnswer::No : MsgAnswer::Cancel;
     return Next(messageAnswers, "message box", text).value_or(refusal);
 }
 

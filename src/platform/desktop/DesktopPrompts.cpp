@@ -58,6 +58,7 @@ QMessageBox::StandardButtons Standard(MsgButtons buttons) {
     case MsgButtons::OKCancel:
         return QMessageBox::Ok | QMessageBox::Cancel;
     case MsgButtons::YesNo:
+    case MsgButtons::YesOrNoByDefault:
         return QMessageBox::Yes | QMessageBox::No;
     case MsgButtons::YesNoCancel:
         return QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel;
@@ -67,7 +68,9 @@ QMessageBox::StandardButtons Standard(MsgButtons buttons) {
     return QMessageBox::Ok;
 }
 
-QMessageBox::StandardButton First(MsgButtons buttons) {
+QMessageBox::StandardButton ByDefault(MsgButtons buttons) {
+    if (buttons == MsgButtons::YesOrNoByDefault)
+        return QMessageBox::No;
     return buttons == MsgButtons::OK || buttons == MsgButtons::OKCancel ? QMessageBox::Ok : QMessageBox::Yes;
 }
 
@@ -198,7 +201,7 @@ MsgAnswer DesktopPrompts::MsgBox(QWidget* owner, const QString& text, MsgButtons
     box.setText(QString(text).replace(QStringLiteral("\r\n"), QStringLiteral("\n")).replace(u'\r', u'\n'));
     box.setIcon(Standard(icon));
     box.setStandardButtons(Standard(buttons));
-    box.setDefaultButton(First(buttons));
+    box.setDefaultButton(ByDefault(buttons));
     if (Wide())
         WidenToTitle(box);
     box.mustAnswer = buttons == MsgButtons::YesNo;

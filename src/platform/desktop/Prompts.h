@@ -12,7 +12,8 @@
 class QWidget;
 
 enum class MsgIcon { None, Critical, Question, Exclamation, Information };
-enum class MsgButtons { OK, OKCancel, YesNo, YesNoCancel };
+/// The first one is what Enter presses, but with YesOrNoByDefault it is No, and so does Esc.
+enum class MsgButtons { OK, OKCancel, YesNo, YesNoCancel, YesOrNoByDefault };
 enum class MsgAnswer { OK, Cancel, Yes, No };
 
 /// Tests put in one that follows a script and records what was asked (tests/support/ScriptedPrompts.h).

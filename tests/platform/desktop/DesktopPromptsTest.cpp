@@ -99,6 +99,8 @@ TEST_F(DesktopPromptsTest, MessageBoxShowsIconButtonsAndTitle) {
          MsgAnswer::Cancel},
         {MsgButtons::OKCancel, MsgIcon::None, Q::Ok | Q::Cancel, Q::NoIcon, Q::Ok, MsgAnswer::OK},
         {MsgButtons::YesNo, MsgIcon::Question, Q::Yes | Q::No, Q::Question, Q::No, MsgAnswer::No},
+        {MsgButtons::YesOrNoByDefault, MsgIcon::Question, Q::Yes | Q::No, Q::Question, Q::Yes,
+         MsgAnswer::Yes},
         {MsgButtons::YesNoCancel, MsgIcon::Exclamation, Q::Yes | Q::No | Q::Cancel, Q::Warning, Q::Yes,
          MsgAnswer::Yes},
     };
@@ -123,6 +125,25 @@ TEST_F(DesktopPromptsTest, BoxWithoutATitleHasAnEmptyOne) {
         box.accept();
     });
     prompts.MsgBox(&owner, QStringLiteral("text"), MsgButtons::OK, MsgIcon::None, QString());
+}
+
+TEST_F(DesktopPromptsTest, ABoxWhoseDefaultIsNoTakesEnterAndEscapeForIt) {
+    const auto ask = [&] {
+        return prompts.MsgBox(&owner, QStringLiteral("?"), MsgButtons::YesOrNoByDefault, MsgIcon::None,
+                              QString());
+    };
+    {
+        WhenUp<QMessageBox> act([](QMessageBox& box) { QTest::keyClick(box.focusWidget(), Qt::Key_Return); });
+        EXPECT_EQ(ask(), MsgAnswer::No);
+    }
+    {
+        WhenUp<QMessageBox> act([](QMessageBox& box) { QTest::keyClick(&box, Qt::Key_Escape); });
+        EXPECT_EQ(ask(), MsgAnswer::No);
+    }
+    {
+        WhenUp<QMessageBox> act([](QMessageBox& box) { box.close(); });
+        EXPECT_EQ(ask(), MsgAnswer::No);
+    }
 }
 
 TEST_F(DesktopPromptsTest, EscapeCancelsAndEnterTakesTheFirstButton) {
