@@ -97,6 +97,7 @@ void Save(benchmark::State& state) {
     const QString path = PageFile(state.range(0));
     OpenDocumentFile(frame, path);
     frame.active->SetCaption(TestFolder() + QStringLiteral("/saved.html"));
+    frame.active->OnDisk() = {};
     for ([[maybe_unused]] auto step : state)
         mnuSave_Click(frame);
     state.SetComplexityN(state.range(0));

@@ -85,22 +85,19 @@ std::optional<EditedPage> DesignPane::Collect() {
     return answer->page;
 }
 
-bool DesignPane::Save(const QString& path) {
-    if (!WaitUntilReady())
-        return false;
-    const std::optional<EditedPage> page = Collect();
+WriteResult DesignPane::Save(const QString& path) {
+    const std::optional<EditedPage> page = WaitUntilReady() ? Collect() : std::nullopt;
     if (!page)
-        return false;
+        return WriteResult::Failed(tr("The design view does not answer"));
     if (!page->changed && path == path_)
-        return true;
+        return {};
     const QByteArray bytes = !page->changed      ? source_->Bytes()
                              : page->headChanged ? source_->WithDocument(page->document)
                                                  : source_->WithBody(page->body);
-    if (!WholeFile::Write(path, bytes))
-        return false;
-    if (path == path_)
+    const WriteResult written = WholeFile::Write(path, bytes);
+    if (written && path == path_)
         Edited()->MarkSaved();
-    return true;
+    return written;
 }
 
 // The engine's own menu would offer to follow links and to save pictures, which this page refuses.

@@ -23,7 +23,7 @@ class DesignPane final : public WebPane, public DesignControl {
     QString LoadedPath() const override { return path_; }
     /// Waits for a page that is still coming up, with the user's input held back, and no longer than some
     /// seconds.
-    bool Save(const QString& path) override;
+    WriteResult Save(const QString& path) override;
 
   Q_SIGNALS:
     /// The page came up (or did not), or the engine died.

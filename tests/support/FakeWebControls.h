@@ -20,16 +20,17 @@ class FakeDesign final : public QWidget, public DesignControl {
         loaded = path;
     }
     QString LoadedPath() const override { return loaded; }
-    bool Save(const QString& path) override {
+    WriteResult Save(const QString& path) override {
         saves << path;
         if (writes)
             writes(path);
-        return true;
+        return result;
     }
 
     QString loaded;
     /// What saving does to the file; nothing by itself.
     std::function<void(const QString& path)> writes;
+    WriteResult result;
     QStringList loads, saves;
     std::vector<TextEncoding> encodings;
 };

@@ -51,6 +51,7 @@ class TestDocument final : public QWidget, public Document {
         encoding = value;
         input->SetHolds(CharactersOf(value));
     }
+    KnownFile& OnDisk() override { return onDisk; }
     RichTextBox& txtInput() override { return *input; }
     QWidget& Window() override { return *this; }
     bool Unload() override;
@@ -59,6 +60,7 @@ class TestDocument final : public QWidget, public Document {
     QString caption;
     bool modified = false;
     TextEncoding encoding = TextEncoding::Ascii;
+    KnownFile onDisk;
     RecordingBox* input;
     QTimer Timer1;
     /// None until a test gives it some.
@@ -81,9 +83,19 @@ class TestFrame : public Frame {
     CommandSet& Commands() override { return commands; }
     void NewDocument() override;
     void OpenDocumentFile(const QString& path) override { opened << path; }
-    void SaveActiveDocument() override { ++saves; }
+    SaveResult SaveActiveDocument() override {
+        ++saves;
+        return saveResult;
+    }
+    SaveResult WriteOver(Document&, const std::function<WriteResult()>& write) override {
+        if (overResult)
+            return *overResult;
+        return write() ? SaveResult::Saved : SaveResult::Failed;
+    }
     void PreviewInBrowser(const QString& path) override { previewed << path; }
     void SetStatusPanel(const QString& text, bool now) override;
+    void SetIdlePanel(const QString& text) override { SetStatusPanel(text, false); }
+    void ShowNotice(const QString& text) override { SetStatusPanel(text, false); }
     void SelectDocumentTab(const QString& path) override { selectedTabs << path; }
     void PopUpEditMenu(QPoint at) override { popUps.push_back(at); }
     void SelectModeTab(const QString& caption) override { modeTabs << caption; }
@@ -113,4 +125,8 @@ class TestFrame : public Frame {
     QStringList opened, previewed, statuses, selectedTabs, modeTabs;
     std::vector<QPoint> popUps;
     int saves = 0;
+    /// What the Save command says, and what becomes of a step that is to write over a file instead of that
+    /// step.
+    SaveResult saveResult = SaveResult::Saved;
+    std::optional<SaveResult> overResult;
 };

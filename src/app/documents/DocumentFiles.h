@@ -1,6 +1,8 @@
 // Text between files and documents, and the one place where a document's encoding is settled.
 #pragma once
 
+#include "platform/store/FileMark.h"
+#include "platform/store/WriteResult.h"
 #include "platform/values/TextEncoding.h"
 
 #include <optional>
@@ -9,10 +11,20 @@
 class Document;
 class Settings;
 
+/// How much of a file was read.
+enum class ReadPart {
+    Whole,
+    UpToEndOfText,       ///< it holds an end-of-text byte
+    NothingForEndOfText, ///< it holds one, and was to be read in one go
+    Nothing,             ///< it can't be read
+};
+
 /// What a file holds.
 struct FileText {
     QString text; ///< line ends as in the file
     TextEncoding encoding = TextEncoding::Ascii;
+    FileMark mark; ///< the file as it was read; unset where no setting asks for it
+    ReadPart part = ReadPart::Whole;
 };
 
 /// With Utf8Pages off every file has code page 1252.
@@ -25,10 +37,17 @@ std::optional<FileText> ReadUpToEndOfText(const Settings& store, const QString& 
 /// The text of a file read in one go, which an end-of-text byte makes fail. Nothing where it fails.
 std::optional<FileText> ReadInOneGo(const Settings& store, const QString& path);
 
+/// The same of a file whose document stands empty where that fails.
+FileText ReadOrNothing(const Settings& store, const QString& path);
+
+/// What the document knows of its file from now on is what stands there.
+void TakeAsKnown(const Settings& store, const QString& path, Document& document);
+
 /// Writes a document's text to a file: without the blanks (32) at its two ends, and with one carriage return
 /// and line feed more. The document then has the encoding it was written in, and nothing in it is modified.
-/// Returns false where it can't be written; the old file then stands unharmed, and the document is as it was.
-bool Save(const Settings& store, const QString& path, Document& document);
+/// It knows its file as the one just written. Where it can't be written the old file stands unharmed, and the
+/// document is as it was.
+WriteResult Save(const Settings& store, const QString& path, Document& document);
 
 /// A document that is about to get a whole new text becomes one in UTF-8 where the text declares it or needs
 /// it, as long as nothing beyond ASCII stands in its file: a page of ASCII, or one that has no file yet.

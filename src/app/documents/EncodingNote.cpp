@@ -5,5 +5,5 @@
 
 void TellEncoding(Frame& frame, const Document& document) {
     if (IsUtf8(document.Encoding()))
-        frame.SetStatusPanel(QStringLiteral("UTF-8"));
+        frame.SetIdlePanel(QStringLiteral("UTF-8"));
 }

@@ -4,6 +4,7 @@
 #include "app/documents/DocumentPaths.h"
 #include "app/documents/OpenDocument.h"
 #include "app/documents/RecentFiles.h"
+#include "app/documents/SaveOver.h"
 #include "dialogs/DialogState.h"
 #include "dialogs/FileDialogs.h"
 #include "editor/frame/ActiveText.h"
@@ -63,31 +64,31 @@ void mnuOpen_Click(Frame& frame) {
     frame.State<DialogState>().LastDir = answer.folder;
 }
 
-void mnuSave_Click(Frame& frame) {
+SaveResult mnuSave_Click(Frame& frame) {
     Document* document = frame.ActiveForm();
     if (!document)
-        return;
+        return SaveResult::Cancelled;
     if (document->Caption().isEmpty())
-        mnuSaveAs_Click(frame);
-    else
-        DocumentFiles::Save(frame.Store(), document->Caption(), *document);
+        return mnuSaveAs_Click(frame);
+    return SaveOver(frame, *document);
 }
 
-void mnuSaveAs_Click(Frame& frame) {
+SaveResult mnuSaveAs_Click(Frame& frame) {
     if (!frame.ActiveForm())
-        return;
+        return SaveResult::Cancelled;
     const FileAnswer answer = AskWhereToSave(frame);
     Document* document = frame.ActiveForm();
     if (answer.Cancelled() || !document)
-        return;
+        return SaveResult::Cancelled;
     const QString path = answer.Path();
     // The document takes the new path either way; only what is safely in the file counts as saved.
-    DocumentFiles::Save(frame.Store(), path, *document);
+    const SaveResult result = SaveUnder(frame, path, *document);
     frame.State<DialogState>().LastDir = answer.folder;
     Q_EMIT frame.State<DocumentPaths>().Left(document->Caption());
     document->SetCaption(path);
     AddToRecentFiles(frame);
     Q_EMIT frame.State<DocumentPaths>().Taken(path, Path::NameOnDisk(path));
+    return result;
 }
 
 void mnuInsertContents_Click(Frame& frame) {

@@ -50,5 +50,5 @@ void OpenRecentFile(Frame& frame, int n) {
     if (RefusedAsDuplicate(frame, path))
         return;
     frame.NewDocument();
-    TakeInRecentText(frame, path, DocumentFiles::ReadInOneGo(frame.Store(), path).value_or(FileText()));
+    TakeInRecentText(frame, path, DocumentFiles::ReadOrNothing(frame.Store(), path));
 }

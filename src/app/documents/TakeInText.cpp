@@ -1,5 +1,6 @@
 #include "app/documents/TakeInText.h"
 
+#include "app/documents/CutPages.h"
 #include "app/documents/DocumentPaths.h"
 #include "app/documents/EncodingNote.h"
 #include "app/documents/RecentFiles.h"
@@ -36,6 +37,12 @@ void CountAsLoaded(Document& document) {
     document.SetModified(false);
 }
 
+void TakeInFile(Document& document, const QString& path, const FileText& file) {
+    document.SetCaption(path);
+    document.SetEncoding(file.encoding);
+    document.OnDisk() = {.mark = file.mark, .told = {}, .wasReadWhole = file.part == ReadPart::Whole};
+}
+
 } // namespace
 
 bool IsLoaded(Frame& frame, const QString& path) {
@@ -51,23 +58,23 @@ void TakeInText(Frame& frame, const QString& path, FileText file) {
     Document* document = frame.ActiveForm();
     if (!document)
         return;
-    document->SetCaption(path);
-    document->SetEncoding(file.encoding);
+    TakeInFile(*document, path, file);
     WriteAsSet(frame, *document, std::move(file.text));
     CountAsLoaded(*document);
     AddToRecentFiles(frame);
     Q_EMIT frame.State<DocumentPaths>().Taken(path, Path::NameOnDisk(path));
     TellEncoding(frame, *document);
+    CutPages::Tell(frame, path, file.part);
 }
 
 void TakeInRecentText(Frame& frame, const QString& path, FileText file) {
     Document* document = frame.ActiveForm();
     if (!document)
         return;
-    document->SetCaption(path);
-    document->SetEncoding(file.encoding);
+    TakeInFile(*document, path, file);
     WriteColored(frame, std::move(file.text));
     CountAsLoaded(*document);
     Q_EMIT frame.State<DocumentPaths>().Taken(path, Path::NameOnDisk(path));
     TellEncoding(frame, *document);
+    CutPages::Tell(frame, path, file.part);
 }

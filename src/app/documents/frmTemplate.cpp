@@ -149,8 +149,8 @@ MsgAnswer frmTemplate::AskAboutSaving() {
     const MsgAnswer answer =
         frame_.Ask().MsgBox(frame_.Window(), u"Do you want to save?"_s, MsgButtons::YesNoCancel,
                             MsgIcon::Question, u"Save Document?"_s);
-    if (answer == MsgAnswer::Yes)
-        frame_.SaveActiveDocument();
+    if (answer == MsgAnswer::Yes && frame_.SaveActiveDocument() == SaveResult::Refused)
+        return MsgAnswer::Cancel;
     return answer;
 }
 

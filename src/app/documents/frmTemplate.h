@@ -45,6 +45,7 @@ class frmTemplate final : public QMdiSubWindow, public Document {
     void SetModified(bool modified) override;
     TextEncoding Encoding() const override { return encoding_; }
     void SetEncoding(TextEncoding encoding) override;
+    KnownFile& OnDisk() override { return onDisk_; }
     RichTextBox& txtInput() override { return *txtInput_; }
     QWidget& Window() override { return *this; }
     DocumentModes* Modes() override { return modes_.get(); }
@@ -67,7 +68,8 @@ class frmTemplate final : public QMdiSubWindow, public Document {
   private:
     void ReadSettings();
     void ShowInItsState();
-    /// Yes, with nothing asked, where nothing changed.
+    /// Yes, with nothing asked, where nothing changed. Cancel also where the file is to be left as others
+    /// changed it.
     MsgAnswer AskAboutSaving();
     void TakeDown();
 
@@ -75,6 +77,7 @@ class frmTemplate final : public QMdiSubWindow, public Document {
     QString caption_;
     bool modified_ = false;
     TextEncoding encoding_ = TextEncoding::Ascii;
+    KnownFile onDisk_;
     QWidget* client_;
     RichTextBox* txtInput_;
     QTimer* timer1_;

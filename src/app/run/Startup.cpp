@@ -2,7 +2,6 @@
 
 #include "app/documents/RecentFiles.h"
 #include "app/run/ProgramState.h"
-#include "app/run/StandingNotice.h"
 #include "app/run/Version.h"
 #include "app/surface/UserButtons.h"
 #include "app/window/DocumentTabs.h"
@@ -192,6 +191,5 @@ void Startup::CaptionUserButtons() {
 void Startup::TellOfSettings() {
     // Last of all: opening a document writes into the panel, too.
     if (const QStringList unreadable = frame_.Store().Unreadable(); !unreadable.isEmpty())
-        new StandingNotice(frame_.Panels(),
-                           u"The settings can't be read, nor will they be kept: "_s + unreadable.first());
+        frame_.ShowNotice(u"The settings can't be read, nor will they be kept: "_s + unreadable.first());
 }

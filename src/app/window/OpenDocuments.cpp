@@ -41,6 +41,14 @@ frmTemplate* OpenDocuments::Active() const {
     return nullptr;
 }
 
+QList<frmTemplate*> OpenDocuments::All() const {
+    QList<frmTemplate*> all;
+    for (QMdiSubWindow* window : area_.subWindowList(QMdiArea::CreationOrder))
+        if (frmTemplate* document = OpenOne(window))
+            all << document;
+    return all;
+}
+
 void OpenDocuments::Activate(Document& document) {
     frmTemplate* window = OpenOne(&document.Window());
     if (!window)

@@ -19,6 +19,8 @@ class OpenDocuments final : public QObject {
 
     /// The document that commands work on: always one that is open, and null only where none is.
     frmTemplate* Active() const;
+    /// All that are open, in the order in which they were opened.
+    QList<frmTemplate*> All() const;
     /// Makes a document the active one, in front of the others.
     void Activate(Document& document);
     /// Gives the focus to the text of the active one, if that is on view.

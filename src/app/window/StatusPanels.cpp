@@ -38,6 +38,7 @@ StatusBar::StatusBar(QWidget* parent)
     addWidget(program_, 1);
     // A long text is cut at the edge; it never widens the window.
     program_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    connect(&notice_, &StandingNotice::Ended, this, [this] { program_->setText(behind_); });
     minute_.setObjectName(QStringLiteral("minute"));
     minute_.setSingleShot(true);
     connect(&minute_, &QTimer::timeout, this, &StatusBar::Tick);
@@ -45,9 +46,22 @@ StatusBar::StatusBar(QWidget* parent)
 }
 
 void StatusBar::SetPanel3(const QString& text, bool now) {
-    program_->setText(text);
+    if (!text.isEmpty() && !now)
+        notice_.End();
+    behind_ = text;
+    program_->setText(text.isEmpty() && notice_.Stands() ? notice_.Text() : text);
     if (now)
         program_->repaint();
+}
+
+void StatusBar::SetIdle(const QString& text) {
+    behind_ = text;
+    program_->setText(notice_.Stands() ? notice_.Text() : text);
+}
+
+void StatusBar::ShowNotice(const QString& text, StandingNotice::Ends ends) {
+    notice_.Begin(text, ends);
+    program_->setText(text);
 }
 
 QString StatusBar::Panel3() const {

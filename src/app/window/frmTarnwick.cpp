@@ -6,6 +6,7 @@
 #include "app/documents/frmTemplate.h"
 #include "app/documents/OpenDocument.h"
 #include "app/documents/Preview.h"
+#include "app/documents/SaveOver.h"
 #include "app/documents/Skeletons.h"
 #include "app/help/HelpCommands.h"
 #include "app/run/frmSplash.h"
@@ -18,6 +19,7 @@
 #include "app/surface/ToolbarCommands.h"
 #include "app/surface/UserButtons.h"
 #include "app/surface/WindowCommands.h"
+#include "app/window/ChangedFiles.h"
 #include "app/window/DocumentTabs.h"
 #include "app/window/FileDrop.h"
 #include "app/window/FrameFocus.h"
@@ -82,7 +84,8 @@ frmTarnwick::frmTarnwick(Settings& store, Prompts& ask)
     : store_(store), ask_(ask), forms_(new Forms(this)), area_(new QMdiArea(this)),
       documents_(new OpenDocuments(*area_, this)), focus_(new FrameFocus(*this, *area_, *documents_)),
       tabStrip2_(new DocumentTabs(this)), arrivals_(new Arrivals(*this, this)),
-      statusBar_(new StatusBar(this)), vsSpell1_(new SpellChecker(this)) {
+      statusBar_(new StatusBar(this)), changedFiles_(new ChangedFiles(*this, *documents_, *statusBar_)),
+      vsSpell1_(new SpellChecker(this)) {
     setObjectName(u"frmTarnwick"_s);
     vsSpell1_->setObjectName(u"VSSpell1"_s);
     setContextMenuPolicy(Qt::NoContextMenu);
@@ -190,8 +193,12 @@ void frmTarnwick::OpenDocumentFile(const QString& path) {
     ::OpenDocumentFile(*this, path);
 }
 
-void frmTarnwick::SaveActiveDocument() {
-    commands_.Run(u"mnuSave"_s);
+SaveResult frmTarnwick::SaveActiveDocument() {
+    return mnuSave_Click(*this);
+}
+
+SaveResult frmTarnwick::WriteOver(Document& document, const std::function<WriteResult()>& write) {
+    return ::WriteOver(*this, document, write);
 }
 
 void frmTarnwick::PreviewInBrowser(const QString& path) {
@@ -200,6 +207,14 @@ void frmTarnwick::PreviewInBrowser(const QString& path) {
 
 void frmTarnwick::SetStatusPanel(const QString& text, bool now) {
     statusBar_->SetPanel3(text, now);
+}
+
+void frmTarnwick::SetIdlePanel(const QString& text) {
+    statusBar_->SetIdle(text);
+}
+
+void frmTarnwick::ShowNotice(const QString& text) {
+    statusBar_->ShowNotice(text);
 }
 
 void frmTarnwick::SelectDocumentTab(const QString& path) {

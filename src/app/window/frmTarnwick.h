@@ -8,6 +8,7 @@
 #include <QMainWindow>
 
 class Arrivals;
+class ChangedFiles;
 class FileDrop;
 class FrameFocus;
 class frmTemplate;
@@ -37,10 +38,13 @@ class frmTarnwick final : public QMainWindow, public MainFrame {
 
     void NewDocument() override;
     void OpenDocumentFile(const QString& path) override;
-    void SaveActiveDocument() override;
+    SaveResult SaveActiveDocument() override;
+    SaveResult WriteOver(Document& document, const std::function<WriteResult()>& write) override;
     void PreviewInBrowser(const QString& path = QString()) override;
 
     void SetStatusPanel(const QString& text, bool now = false) override;
+    void SetIdlePanel(const QString& text) override;
+    void ShowNotice(const QString& text) override;
     void SelectDocumentTab(const QString& path) override;
     void PopUpEditMenu(QPoint at) override;
     void SelectModeTab(const QString& caption) override;
@@ -55,6 +59,8 @@ class frmTarnwick final : public QMainWindow, public MainFrame {
 
     /// What another copy of the program, or a drop, brings.
     Arrivals& FromOutside() { return *arrivals_; }
+    /// What tells of files that others changed.
+    ChangedFiles& ChangedByOthers() { return *changedFiles_; }
     /// Comes to the front of the desktop, out of the minimised state if need be.
     void ComeToFront();
 
@@ -89,6 +95,7 @@ class frmTarnwick final : public QMainWindow, public MainFrame {
     UserButtons* picture2_ = nullptr;
     ModeStrip* picture4_ = nullptr;
     StatusBar* statusBar_;
+    ChangedFiles* changedFiles_;
     SpellChecker* vsSpell1_;
     FileDrop* fileDrop_ = nullptr;
     bool closing_ = false;

@@ -1,6 +1,7 @@
 // What the program sees of a document window.
 #pragma once
 
+#include "editor/frame/KnownFile.h"
 #include "platform/values/TextEncoding.h"
 
 #include <QString>
@@ -24,6 +25,8 @@ class Document {
     /// it is written, and asked for by nothing else. Setting it lets txtInput hold the encoding's characters.
     virtual TextEncoding Encoding() const = 0;
     virtual void SetEncoding(TextEncoding encoding) = 0;
+    /// What it knows of its file.
+    virtual KnownFile& OnDisk() = 0;
     virtual RichTextBox& txtInput() = 0;
     /// The switch between source, design and browser view; null for a document that has none.
     virtual DocumentModes* Modes() { return nullptr; }

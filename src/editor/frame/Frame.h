@@ -1,6 +1,10 @@
 // The main frame as everything below the application sees it.
 #pragma once
 
+#include "editor/frame/SaveResult.h"
+#include "platform/store/WriteResult.h"
+
+#include <functional>
 #include <memory>
 #include <QString>
 #include <typeindex>
@@ -35,12 +39,21 @@ class Frame {
     /// Reads a file into a new window.
     virtual void OpenDocumentFile(const QString& path) = 0;
     /// The Save command on the active document.
-    virtual void SaveActiveDocument() = 0;
+    virtual SaveResult SaveActiveDocument() = 0;
+    /// Lets a step write over the file of a document: one that others changed is asked about first, and a
+    /// step that failed is told of.
+    virtual SaveResult WriteOver(Document& document, const std::function<WriteResult()>& write) = 0;
     /// Shows the active document, or the given file, in the external browser.
     virtual void PreviewInBrowser(const QString& path = QString()) = 0;
 
     /// Writes panel 3 of the status bar; now paints it before returning.
     virtual void SetStatusPanel(const QString& text, bool now = false) = 0;
+    /// Writes what the panel says when there is nothing to tell, as the caret's line: it stays behind a
+    /// notice.
+    virtual void SetIdlePanel(const QString& text) = 0;
+    /// Writes panel 3 so that it outlasts windows coming up and going: until the next key or click, or until
+    /// something else is told.
+    virtual void ShowNotice(const QString& text) = 0;
     /// Selects the first document tab whose Tag equals a path.
     virtual void SelectDocumentTab(const QString& path) = 0;
     /// Pops up the Edit menu at a place on the screen, in pixels.

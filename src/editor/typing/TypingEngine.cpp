@@ -37,7 +37,7 @@ void TypingEngine::txtInput_Change() {
 
 void TypingEngine::ShowLinePosition() {
     const RichTextBox& text = document_.txtInput();
-    frame_.SetStatusPanel(QStringLiteral("Line %1").arg(text.GetLineFromChar(text.SelStart()) + 1));
+    frame_.SetIdlePanel(QStringLiteral("Line %1").arg(text.GetLineFromChar(text.SelStart()) + 1));
 }
 
 void TypingEngine::txtInput_GotFocus() {

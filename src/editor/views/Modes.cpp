@@ -71,6 +71,7 @@ void DocumentModes::LoadControls() {
 }
 
 void DocumentModes::Show(Shown shown) {
+    shown_ = shown;
     RichTextBox& source = document_.txtInput();
     // A control of the strips keeps the focus. The engine's first view makes the system's window anew, and
     // then nothing has it until the window is active again.
@@ -114,17 +115,30 @@ void DocumentModes::ViewClicked() {
     frame_.Ask().MsgBox(frame_.Window(), cannotDisplay, MsgButtons::OK, MsgIcon::Exclamation, ProgramTitle);
 }
 
-void DocumentModes::SaveDesign() {
-    if (design_ && !design_->LoadedPath().isEmpty())
-        design_->Save(design_->LoadedPath());
+QString DocumentModes::ShownTab() const {
+    switch (shown_) {
+    case Shown::Design:
+        return designTab;
+    case Shown::Browser:
+        return viewTab;
+    case Shown::Source:
+        break;
+    }
+    return editTab;
 }
 
-void DocumentModes::EditAnsPos() {
-    SaveDesign();
+SaveResult DocumentModes::SaveDesign() {
+    if (!design_ || design_->LoadedPath().isEmpty())
+        return SaveResult::Cancelled;
+    return frame_.WriteOver(document_, [this] { return design_->Save(design_->LoadedPath()); });
 }
 
-void DocumentModes::ViewAnsPos() {
-    SaveDesign();
+SaveResult DocumentModes::EditAnsPos() {
+    return SaveDesign();
+}
+
+SaveResult DocumentModes::ViewAnsPos() {
+    return SaveDesign();
 }
 
 void DocumentModes::DesignAnsPos() {}
@@ -148,17 +162,31 @@ DocumentModes* ActiveModes(Frame& frame) {
     return document ? document->Modes() : nullptr;
 }
 
+/// The tab of what is in front: the one that was clicked is not switched to.
+void StayInMode(Frame& frame) {
+    const DocumentModes* modes = ActiveModes(frame);
+    const QString shown = modes ? modes->ShownTab() : editTab;
+    frame.SelectModeTab(shown);
+    if (shown == designTab)
+        frame.State<DesignVisit>().Begin();
+}
+
 /// The active document comes out of Design: saves what was done there and opens the file anew. A document
-/// that has no file keeps its window and its text.
-void Reopen(Frame& frame, void (DocumentModes::*save)()) {
+/// that has no file keeps its window and its text. False where the user wants the file left as others wrote
+/// it: what was done in Design stays there.
+bool Reopen(Frame& frame, SaveResult (DocumentModes::*save)()) {
     Document* document = frame.ActiveForm();
     const QString fileName = document->Caption();
-    if (DocumentModes* modes = document->Modes())
-        (modes->*save)();
+    DocumentModes* modes = document->Modes();
+    if (modes && (modes->*save)() == SaveResult::Refused) {
+        StayInMode(frame);
+        return false;
+    }
     if (fileName.isEmpty())
-        return;
+        return true;
     document->Unload();
     frame.OpenDocumentFile(fileName);
+    return true;
 }
 
 bool WantsChangesSaved(Frame& frame) {
@@ -166,8 +194,11 @@ bool WantsChangesSaved(Frame& frame) {
                               MsgIcon::None, ProgramTitle) == MsgAnswer::Yes;
 }
 
+/// What others wrote is not to be edited as if it were this document: where that is to be left as it is, the
+/// document stays in front.
 void ShowDesign(Frame& frame) {
-    frame.SaveActiveDocument();
+    if (frame.SaveActiveDocument() == SaveResult::Refused)
+        return StayInMode(frame);
     if (DocumentModes* modes = ActiveModes(frame))
         modes->DesignClicked();
     frame.State<DesignVisit>().Begin();
@@ -181,10 +212,12 @@ void ModeStrip_Click(Frame& frame, const QString& selected) {
     // Cleared before the question: the answer decides for this visit to the design view, and a further click
     // is a further question.
     const bool fromDesign = frame.State<DesignVisit>().End();
-    if (selected == editTab && fromDesign && WantsChangesSaved(frame))
-        Reopen(frame, &DocumentModes::EditAnsPos);
+    if (selected == editTab && fromDesign && WantsChangesSaved(frame) &&
+        !Reopen(frame, &DocumentModes::EditAnsPos))
+        return;
     if (selected == viewTab && fromDesign && WantsChangesSaved(frame)) {
-        Reopen(frame, &DocumentModes::ViewAnsPos);
+        if (!Reopen(frame, &DocumentModes::ViewAnsPos))
+            return;
         frame.SelectModeTab(viewTab);
     }
     if (selected == designTab)

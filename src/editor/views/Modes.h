@@ -1,6 +1,8 @@
 // Edit, Design and View: which of its three controls a document window shows, and the click that switches.
 #pragma once
 
+#include "editor/frame/SaveResult.h"
+
 #include <QString>
 
 class BrowserControl;
@@ -25,10 +27,13 @@ class DocumentModes {
     /// Shows the browser view, saves the document and shows its file there; says why it can't.
     void ViewClicked();
     /// Both save the page that the design view holds to the file it was loaded from.
-    void EditAnsPos();
-    void ViewAnsPos();
+    SaveResult EditAnsPos();
+    SaveResult ViewAnsPos();
     /// Does nothing.
     void DesignAnsPos();
+
+    /// The caption of the tab whose control is in front.
+    QString ShownTab() const;
 
     /// The design view's place in a window just loaded. It differs from the one that the first resize gives.
     void PlaceAtLoad();
@@ -38,12 +43,13 @@ class DocumentModes {
   private:
     enum class Shown { Source, Design, Browser };
     void Show(Shown shown);
-    void SaveDesign();
+    SaveResult SaveDesign();
 
     Frame& frame_;
     Document& document_;
     DesignControl* design_ = nullptr;
     BrowserControl* browser_ = nullptr;
+    Shown shown_ = Shown::Source;
 };
 
 /// A click on the mode strip TabStrip3, on the tab that is shown already too; selected is the caption of the

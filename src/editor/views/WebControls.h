@@ -1,6 +1,7 @@
 // The two controls that show a page as a browser does, and where they come from.
 #pragma once
 
+#include "platform/store/WriteResult.h"
 #include "platform/values/TextEncoding.h"
 
 #include <functional>
@@ -21,8 +22,8 @@ class DesignControl {
     /// The path of the page that Load took in; empty for none.
     virtual QString LoadedPath() const = 0;
     /// Writes the page to a file. One that nobody changed stands in its file as it was and is not written
-    /// there again. Returns false where nothing came of it; the file then stands unharmed.
-    virtual bool Save(const QString& path) = 0;
+    /// there again. Where nothing came of it the file stands unharmed.
+    virtual WriteResult Save(const QString& path) = 0;
 };
 
 /// Shows a page and follows its links.
@@ -46,7 +47,7 @@ class WebControlsFactory {
     virtual BrowserControl* MakeBrowser(QWidget* parent) = 0;
 };
 
-Q_DECLARE_INTERFACE(WebControlsFactory, "tarnwick.WebControlsFactory/2")
+Q_DECLARE_INTERFACE(WebControlsFactory, "tarnwick.WebControlsFactory/3")
 
 /// The frame's road to the controls: they cost memory and start-up time, so they come with the first document
 /// that asks for them.

@@ -87,6 +87,12 @@ inline const SettingsKey ShowLineNumbers = In("Program Options", "ShowLineNumber
 inline const SettingsKey FileDialogFolders = In("Program Options", "FileDialogFolders", "1");
 /// Boxes as wide as what is in them, and as their titles.
 inline const SettingsKey WideBoxes = In("Program Options", "WideBoxes", "1");
+/// Whether a save asks before it overwrites what others changed; whether files that others changed, and saves
+/// that failed, are told of; whether a file of which only a part was read is told of and kept whole.
+inline const SettingsKey AskBeforeOverwrite = In("Program Options", "AskBeforeOverwrite", "1");
+inline const SettingsKey TellChangedFiles = In("Program Options", "TellChangedFiles", "1");
+inline const SettingsKey TellFailedSaves = In("Program Options", "TellFailedSaves", "1");
+inline const SettingsKey KeepCutPages = In("Program Options", "KeepCutPages", "1");
 
 // Browser Options
 inline const SettingsKey Web = In("Browser Options", "Web", "");

@@ -6,6 +6,7 @@
 #include "editor/color/InsertTag.h"
 #include "editor/frame/ActiveText.h"
 #include "editor/frame/Frame.h"
+#include "editor/frame/TellFailedSave.h"
 #include "platform/store/Settings.h"
 #include "platform/store/WholeFile.h"
 #include "platform/text/RichTextBox.h"
@@ -22,7 +23,8 @@ bool SaveToExternalFile(Frame& frame, QWidget* owner, const QString& sheet) {
         PickFileToSave(frame, owner, {.filter = sheetFilter, .defaultExtension = QStringLiteral("css")});
     if (answer.Cancelled())
         return false;
-    WholeFile::Write(answer.Path(), PrintedLine(sheet));
+    if (const WriteResult written = WholeFile::Write(answer.Path(), PrintedLine(sheet)); !written)
+        TellFailedSave(frame, answer.Path(), written.Reason());
     frame.State<DialogState>().LastDir = answer.folder;
     return true;
 }

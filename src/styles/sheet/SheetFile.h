@@ -8,8 +8,9 @@
 class Frame;
 class QWidget;
 
-/// Asks for a file and writes the sheet to it. A write that fails is passed over: the old file then stands
-/// whole. False on Cancel; else the file's folder is the one that file dialogs open in from now on.
+/// Asks for a file and writes the sheet to it. A write that fails is told of in the status bar: the old file
+/// then stands whole. False on Cancel; else the file's folder is the one that file dialogs open in from now
+/// on.
 bool SaveToExternalFile(Frame& frame, QWidget* owner, const QString& sheet);
 
 /// The LINK tag to a sheet's file, with its line end: no blank stands before "title", and one within its

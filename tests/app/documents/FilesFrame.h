@@ -8,6 +8,7 @@
 #include "app/documents/Preview.h"
 #include "app/documents/Skeletons.h"
 #include "app/surface/MenuEntry.h"
+#include "platform/store/ProgramFolder.h"
 #include "support/FreshUser.h"
 #include "support/TestFrame.h"
 
@@ -33,9 +34,9 @@ class FilesFrame : public TestFrame {
         opened << path;
         ::OpenDocumentFile(*this, path);
     }
-    void SaveActiveDocument() override {
+    SaveResult SaveActiveDocument() override {
         ++saves;
-        mnuSave_Click(*this);
+        return mnuSave_Click(*this);
     }
     void Run(const char* command) { commands.Run(QString::fromLatin1(command)); }
 
@@ -51,12 +52,15 @@ class FilesFrame : public TestFrame {
     }
 
     static QString At(const QString& name) { return TestFolder() + u'/' + name; }
-    static QString Make(const QString& name, const QByteArray& content) {
-        QFile file(At(name));
+    static QString Make(const QString& name, const QByteArray& content) { return MakeAt(At(name), content); }
+    static QString MakeAt(const QString& path, const QByteArray& content) {
+        QFile file(path);
         EXPECT_TRUE(file.open(QIODevice::WriteOnly));
         EXPECT_EQ(file.write(content), content.size());
-        return At(name);
+        return path;
     }
+    /// The folder of what is kept, which need not be there.
+    static QString Recovery() { return InProgramFolder(QStringLiteral("recovery")); }
     static QByteArray Content(const QString& path) {
         QFile file(path);
         return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("(unreadable)");

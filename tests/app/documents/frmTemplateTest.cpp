@@ -30,7 +30,7 @@ class PlainViews final : public WebControlsFactory {
         QWidget& widget() override { return *this; }
         void Load(const QString&) override {}
         QString LoadedPath() const override { return {}; }
-        bool Save(const QString&) override { return false; }
+        WriteResult Save(const QString&) override { return WriteResult::Failed({}); }
     };
     class Browser final : public QWidget, public BrowserControl {
       public:
@@ -371,6 +371,37 @@ TEST_F(frmTemplateOf, YesSavesTheWindowThatAskedNotTheOneInFront) {
     ASSERT_TRUE(file.open(QIODevice::ReadOnly));
     EXPECT_EQ(file.readAll(), QByteArray("new <P>old\r\n"));
     EXPECT_TRUE(run->Active().Modified());
+}
+
+TEST_F(frmTemplateOf, AFileToBeLeftAsOthersWroteItKeepsTheWindow) {
+    Fresh();
+    const QString path = MakeFile(QStringLiteral("a.htm"), "<P>old");
+    run->frame->OpenDocumentFile(path);
+    frmTemplate& document = run->Active();
+    document.txtInput().SetSelText(QStringLiteral("new "));
+    MakeFile(QStringLiteral("a.htm"), "theirs");
+    const auto expectAllIsLeft = [&] {
+        EXPECT_EQ(&run->Active(), &document);
+        EXPECT_TRUE(document.isVisible());
+        EXPECT_TRUE(document.Modified());
+        EXPECT_EQ(run->frame->TabStrip2().count(), 1);
+        QFile file(path);
+        EXPECT_TRUE(file.open(QIODevice::ReadOnly));
+        EXPECT_EQ(file.readAll(), QByteArray("theirs"));
+    };
+    run->prompts.messageAnswers = {MsgAnswer::Yes, MsgAnswer::No};
+    EXPECT_FALSE(document.Unload());
+    expectAllIsLeft();
+    run->prompts.messageAnswers = {MsgAnswer::Yes, MsgAnswer::No};
+    EXPECT_FALSE(run->Stop());
+    expectAllIsLeft();
+    run->prompts.messageAnswers = {MsgAnswer::Yes, MsgAnswer::No};
+    EXPECT_FALSE(document.SaveAtSessionEnd());
+    expectAllIsLeft();
+    EXPECT_EQ(run->prompts.asked.size(), 6);
+    run->prompts.messageAnswers = {MsgAnswer::Yes, MsgAnswer::Yes};
+    EXPECT_TRUE(document.Unload());
+    EXPECT_EQ(run->prompts.asked.size(), 8);
 }
 
 TEST_F(frmTemplateOf, YesWithoutAPathClosesEvenIfSaveAsIsCancelled) {

@@ -9,6 +9,7 @@
 #include <QLocale>
 #include <QMainWindow>
 #include <QSignalSpy>
+#include <QTest>
 
 namespace {
 
@@ -67,6 +68,44 @@ TEST(StatusPanels, PanelThreeIsTheProgramsAndTakesAnyTextAsItStands) {
     bar.SetPanel3(QStringLiteral("<B>Line</B> 3"));
     EXPECT_EQ(PanelText(bar, "Panel3"), QStringLiteral("<B>Line</B> 3"));
     EXPECT_EQ(bar.findChild<QLabel*>(QStringLiteral("Panel3"))->textFormat(), Qt::PlainText);
+}
+
+TEST(StatusPanels, ANoticeStandsBeforeWhatIsSaidWhenThereIsNothingToTell) {
+    StatusBar bar;
+    bar.SetIdle(QStringLiteral("Line 1"));
+    EXPECT_EQ(bar.Panel3(), QStringLiteral("Line 1"));
+    bar.ShowNotice(QStringLiteral("told"));
+    bar.SetIdle(QStringLiteral("Line 2"));
+    EXPECT_EQ(bar.Panel3(), QStringLiteral("told"));
+    bar.ShowNotice(QStringLiteral("told later"));
+    EXPECT_EQ(bar.Panel3(), QStringLiteral("told later"));
+    bar.SetPanel3(QStringLiteral("something else"));
+    bar.SetIdle(QStringLiteral("Line 3"));
+    EXPECT_EQ(bar.Panel3(), QStringLiteral("Line 3")) << "it has ended";
+}
+
+TEST(StatusPanels, AnActShowsWhatWasSaidBehindANotice) {
+    StatusBar bar;
+    bar.SetIdle(QStringLiteral("Line 1"));
+    bar.ShowNotice(QStringLiteral("told"));
+    bar.SetIdle(QStringLiteral("Line 2"));
+    QTest::keyClick(&bar, Qt::Key_A);
+    EXPECT_EQ(bar.Panel3(), QStringLiteral("Line 2"));
+    bar.SetIdle(QStringLiteral("Line 3"));
+    EXPECT_EQ(bar.Panel3(), QStringLiteral("Line 3"));
+}
+
+TEST(StatusPanels, ALongStepOnlyCoversANotice) {
+    StatusBar bar;
+    bar.ShowNotice(QStringLiteral("told"));
+    bar.SetPanel3(QStringLiteral("Coloring HTML tags, please wait . . . "), true);
+    EXPECT_EQ(bar.Panel3(), QStringLiteral("Coloring HTML tags, please wait . . . "));
+    bar.SetPanel3(QString());
+    EXPECT_EQ(bar.Panel3(), QStringLiteral("told"));
+    QTest::keyClick(&bar, Qt::Key_A);
+    bar.SetPanel3(QStringLiteral("Coloring HTML tags, please wait . . . "), true);
+    bar.SetPanel3(QString());
+    EXPECT_EQ(bar.Panel3(), QString());
 }
 
 TEST(StatusPanels, ALongTextDoesNotWidenTheWindow) {

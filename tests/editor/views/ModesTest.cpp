@@ -28,10 +28,10 @@ class ModesFrame final : public TestFrame {
         TestFrame::NewDocument();
         GiveModes(path);
     }
-    void SaveActiveDocument() override {
-        TestFrame::SaveActiveDocument();
+    SaveResult SaveActiveDocument() override {
         if (!nameGivenOnSave.isEmpty())
             active->caption = nameGivenOnSave;
+        return TestFrame::SaveActiveDocument();
     }
 
     void GiveModes(const QString& path) {
@@ -119,6 +119,59 @@ TEST(Modes, ADocumentNamedWhileDesignSavesItLoadsThatFile) {
     frame.nameGivenOnSave = QStringLiteral("/site/new.htm");
     frame.Click(design);
     EXPECT_THAT(frame.Design()->loads, ElementsAre(QStringLiteral("/site/new.htm")));
+}
+
+// What others wrote is to stay as it is: the user stays where he is, with what he has.
+TEST(Modes, DesignIsNotEnteredWhereTheSaveIsRefused) {
+    for (const auto& [from, shown] : {std::pair(edit, "txtInput"), std::pair(view, "WebBrowser1")}) {
+        ModesFrame frame;
+        frame.Click(from);
+        frame.saveResult = SaveResult::Refused;
+        frame.Click(design);
+        EXPECT_THAT(frame.Shown(), ElementsAre(QString::fromLatin1(shown)));
+        EXPECT_EQ(frame.modeTabs.last(), from);
+        EXPECT_THAT(frame.Design()->loads, IsEmpty());
+        EXPECT_FALSE(frame.ComingFromDesign());
+    }
+}
+
+TEST(Modes, DesignIsNotLoadedAnewWhereTheSaveIsRefused) {
+    ModesFrame frame;
+    frame.Click(design);
+    frame.saveResult = SaveResult::Refused;
+    frame.Click(design);
+    EXPECT_EQ(frame.Design()->loads.size(), 1);
+    EXPECT_EQ(frame.modeTabs.last(), design);
+    EXPECT_TRUE(frame.ComingFromDesign());
+}
+
+TEST(Modes, ViewShowsWhatOthersWroteWhereTheSaveIsRefused) {
+    ModesFrame frame;
+    frame.saveResult = SaveResult::Refused;
+    frame.Click(view);
+    EXPECT_THAT(frame.Browser()->pages, ElementsAre(QStringLiteral("/site/a.htm")));
+}
+
+TEST(Modes, TheUserStaysInDesignWhereItsSaveIsRefused) {
+    for (const QString& to : {edit, view}) {
+        ModesFrame frame;
+        frame.Click(design);
+        frame.prompts.messageAnswers = {MsgAnswer::Yes};
+        frame.overResult = SaveResult::Refused;
+        frame.Click(to);
+        EXPECT_THAT(frame.Shown(), ElementsAre(QStringLiteral("DHTMLEdit")));
+        EXPECT_EQ(frame.modeTabs, QStringList{design});
+        EXPECT_TRUE(frame.ComingFromDesign());
+        EXPECT_THAT(frame.opened, IsEmpty());
+        EXPECT_EQ(frame.saves, 1);
+        // Once he lets it be overwritten he leaves as ever.
+        frame.prompts.messageAnswers = {MsgAnswer::Yes};
+        frame.overResult.reset();
+        FakeDesign* left = frame.Design();
+        frame.Click(to);
+        EXPECT_THAT(left->saves, ElementsAre(QStringLiteral("/site/a.htm")));
+        EXPECT_THAT(frame.opened, ElementsAre(QStringLiteral("/site/a.htm")));
+    }
 }
 
 TEST(Modes, ViewSavesThenNavigates) {

@@ -47,6 +47,14 @@ TEST_F(SheetFileTest, SavesUnderTheNameAskedFor) {
     EXPECT_FALSE(Loaded(T(u"frmCSS")));
 }
 
+TEST_F(SheetFileTest, ASaveThatFailsTellsWhy) {
+    Save({Here("gone/a.css")});
+    EXPECT_EQ(frame.statuses, QStringList{T(u"Could not save a.css: No such file or directory")});
+    OpenSheet();
+    Save({Here("a.css")});
+    EXPECT_EQ(frame.statuses.size(), 1);
+}
+
 TEST_F(SheetFileTest, ACancelKeepsTheForm) {
     frame.State<DialogState>().LastDir = T(u"/last");
     frame.prompts.saveAnswers = {ScriptedPrompts::Cancelled()};

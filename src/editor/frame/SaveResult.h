@@ -1,0 +1,9 @@
+// What became of a document that was to be saved.
+#pragma once
+
+enum class SaveResult {
+    Saved,
+    Failed,    ///< the file stands as it was
+    Refused,   ///< others changed the file, and the user wants it left as it is: so is all else
+    Cancelled, ///< no file was chosen, or there was nothing to save
+};
