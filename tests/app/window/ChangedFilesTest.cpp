@@ -183,6 +183,16 @@ TEST_F(ChangedFilesTest, ASaveThatFailedIsToldWhenItsDocumentHasGone) {
     EXPECT_EQ(Panel3(), u"Could not save a.htm: No such file or directory"_s);
 }
 
+TEST_F(ChangedFilesTest, APageThatIsOpenedMeanwhileOnlyCoversANotice) {
+    Start();
+    run->frame->ShowNotice(u"Could not save a.htm: why"_s);
+    Open(u"b.htm"_s, "<P>b");
+    ComeToFront();
+    EXPECT_EQ(Panel3(), u"Could not save a.htm: why"_s);
+    Act();
+    EXPECT_EQ(Panel3(), u"Line 1"_s);
+}
+
 TEST_F(ChangedFilesTest, ACutPageIsToldOfWhenItStandsThere) {
     Start();
     Open(u"a.htm"_s, "<P>\xC5\xBC\x1arest");
