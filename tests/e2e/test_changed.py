@@ -70,6 +70,25 @@ def test_no_leaves_what_others_wrote_and_yes_overwrites_it(desk):
     wait_for("the page as it was opened", lambda: desk.text() == "<P>words</P>")
 
 
+def test_the_click_that_brings_the_program_back_leaves_the_words(desk):
+    import pyatspi
+    path = desk.write("page.htm", b"<P>words</P>\r\n<P>more</P>")
+    desk.run(path)
+    desk.wait_page("words")
+    desk.start(["xev", "-geometry", "200x100+0+0"])
+    desk.wait_active("Event Tester")
+    wait_for("the program in the background", lambda: not is_in_front(desk))
+    desk.write("page.htm", THEIRS)
+    text = desk.widget("Document text", "text").queryText()
+    for line, words in ((2, "Changed on disk: page.htm"), (1, "Line 1")):
+        at = 0 if line == 1 else text.getText(0, -1).index("more")
+        x, y, _, height = text.getCharacterExtents(at, pyatspi.DESKTOP_COORDS)
+        desk.click(x + 1, y + height // 2)
+        wait_for("the caret", lambda: text.caretOffset == at)
+        desk.wait_active(FRAME)
+        told(desk, words)
+
+
 def test_no_keeps_a_page_open_that_was_to_be_closed(desk):
     path = desk.write("page.htm", b"<P>words</P>")
     desk.run(path)
