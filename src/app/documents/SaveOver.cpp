@@ -37,7 +37,8 @@ SaveResult WriteNow(Frame& frame, const QString& path, Document& document,
     const WriteResult written = kept.result ? write() : kept.result;
     if (!written) {
         TellFailedSave(frame, path, written.Reason());
-        return SaveResult::Failed;
+        // What can't be kept is not lost as long as all is left as it is.
+        return kept.result ? SaveResult::Failed : SaveResult::Refused;
     }
     if (!kept.path.isEmpty())
         CutPages::TellKept(frame, path, kept.path);
@@ -68,8 +69,10 @@ SaveResult SaveOver(Frame& frame, Document& document) {
 }
 
 SaveResult WriteOver(Frame& frame, Document& document, const std::function<WriteResult()>& write) {
+    const QWidget* window = &document.Window();
     const SaveResult result = AskAndWrite(frame, document, write);
-    if (result == SaveResult::Saved)
+    // A step that lets events through may have seen it go.
+    if (result == SaveResult::Saved && frame.LoadedForms().Holds(window))
         DocumentFiles::TakeAsKnown(frame.Store(), document.Caption(), document);
     return result;
 }

@@ -12,7 +12,7 @@ class Frame;
 
 /// Writes a document to its own file. Asks first where that is not the one any more that was read or written
 /// last (AskBeforeOverwrite); a file of which only a part was read is kept whole first (KeepCutPages), and
-/// not written over where it can't be. A failure is told of in the status bar.
+/// where it can't be, the save is refused. A failure is told of in the status bar.
 SaveResult SaveOver(Frame& frame, Document& document);
 
 /// The same for a step that writes the file by itself. What stands there afterwards is what the document

@@ -3,7 +3,7 @@
 
 enum class SaveResult {
     Saved,
-    Failed,    ///< the file stands as it was
-    Refused,   ///< others changed the file, and the user wants it left as it is: so is all else
+    Failed,  ///< the file stands as it was
+    Refused, ///< others changed the file, or it can't be kept whole: it is left as it is, and so is all else
     Cancelled, ///< no file was chosen, or there was nothing to save
 };

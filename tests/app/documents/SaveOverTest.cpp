@@ -323,7 +323,7 @@ TEST_F(SaveOverTest, WhatCannotBeKeptIsNotOverwritten) {
     Edit(QStringLiteral("mine"));
     // A file in the folder's place: nothing can be put into it.
     FilesFrame::MakeAt(FilesFrame::Recovery(), "in the way");
-    EXPECT_EQ(Save(), SaveResult::Failed);
+    EXPECT_EQ(Save(), SaveResult::Refused);
     EXPECT_EQ(Content(), "x\x1arest");
     EXPECT_TRUE(frame.active->Modified());
     EXPECT_EQ(frame.statuses,
@@ -363,6 +363,15 @@ TEST_F(SaveOverTest, WithTheSettingOffNothingIsToldOrKept) {
 }
 
 // What writes the file by itself
+
+TEST_F(SaveOverTest, ADocumentThatGoesWhileAStepWritesIsNotMissed) {
+    Open();
+    const auto write = [&] {
+        frame.CloseDocument();
+        return WriteResult();
+    };
+    EXPECT_EQ(WriteOver(frame, *frame.active, write), SaveResult::Saved);
+}
 
 TEST_F(SaveOverTest, AnotherStepAsksAndTellsAsWell) {
     Open();
