@@ -80,13 +80,19 @@ def test_the_click_that_brings_the_program_back_leaves_the_words(desk):
     wait_for("the program in the background", lambda: not is_in_front(desk))
     desk.write("page.htm", THEIRS)
     text = desk.widget("Document text", "text").queryText()
-    for line, words in ((2, "Changed on disk: page.htm"), (1, "Line 1")):
-        at = 0 if line == 1 else text.getText(0, -1).index("more")
+    more = text.getText(0, -1).index("more")
+
+    def click_on(at):
         x, y, _, height = text.getCharacterExtents(at, pyatspi.DESKTOP_COORDS)
         desk.click(x + 1, y + height // 2)
         wait_for("the caret", lambda: text.caretOffset == at)
-        desk.wait_active(FRAME)
-        told(desk, words)
+    click_on(more)
+    desk.wait_active(FRAME)
+    told(desk, "Changed on disk: page.htm")
+    # The look may have ended behind that click: then one more is spared.
+    for at in (0, more, 0):
+        click_on(at)
+    told(desk, "Line 1")
 
 
 def test_no_keeps_a_page_open_that_was_to_be_closed(desk):
