@@ -86,6 +86,7 @@ std::optional<EditedPage> DesignPane::Collect() {
 }
 
 WriteResult DesignPane::Save(const QString& path) {
+    unsaved_.reset();
     const std::optional<EditedPage> page = WaitUntilReady() ? Collect() : std::nullopt;
     if (!page)
         return WriteResult::Failed(tr("The design view does not answer"));
@@ -95,7 +96,9 @@ WriteResult DesignPane::Save(const QString& path) {
                              : page->headChanged ? source_->WithDocument(page->document)
                                                  : source_->WithBody(page->body);
     const WriteResult written = WholeFile::Write(path, bytes);
-    if (written && path == path_)
+    if (!written)
+        unsaved_ = bytes;
+    else if (path == path_)
         Edited()->MarkSaved();
     return written;
 }

@@ -24,6 +24,7 @@ class DesignPane final : public WebPane, public DesignControl {
     /// Waits for a page that is still coming up, with the user's input held back, and no longer than some
     /// seconds.
     WriteResult Save(const QString& path) override;
+    std::optional<QByteArray> Unsaved() const override { return unsaved_; }
 
   Q_SIGNALS:
     /// The page came up (or did not), or the engine died.
@@ -44,4 +45,5 @@ class DesignPane final : public WebPane, public DesignControl {
     QString path_;
     TextEncoding encoding_ = TextEncoding::Ascii;
     std::optional<PageSource> source_;
+    std::optional<QByteArray> unsaved_;
 };

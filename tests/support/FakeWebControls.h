@@ -24,13 +24,16 @@ class FakeDesign final : public QWidget, public DesignControl {
         saves << path;
         if (writes)
             writes(path);
-        return result;
+        return unsaved ? WriteResult::Failed(QStringLiteral("no room")) : result;
     }
+    std::optional<QByteArray> Unsaved() const override { return unsaved; }
 
     QString loaded;
     /// What saving does to the file; nothing by itself.
     std::function<void(const QString& path)> writes;
     WriteResult result;
+    /// A page whose saving comes to nothing.
+    std::optional<QByteArray> unsaved;
     QStringList loads, saves;
     std::vector<TextEncoding> encodings;
 };

@@ -412,4 +412,14 @@ TEST_F(Design, ALargePageComesThroughWhole) {
     EXPECT_TRUE(Saved() == page.replace("<p>paragraph 0 ", "<p>typed paragraph 0 "));
 }
 
+TEST_F(Design, PageThatCouldNotBeWrittenCanBeHad) {
+    Edit("<html><head></head><body><p>one</p></body></html>");
+    const QString folder = QFileInfo(path).absolutePath() + QStringLiteral("/none/page.htm");
+    EXPECT_FALSE(pane.Unsaved());
+    EXPECT_FALSE(pane.Save(folder));
+    EXPECT_EQ(pane.Unsaved(), QByteArray("<html><head></head><body><p>typed one</p></body></html>"));
+    EXPECT_TRUE(pane.Save(path));
+    EXPECT_FALSE(pane.Unsaved());
+}
+
 } // namespace

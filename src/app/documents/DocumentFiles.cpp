@@ -4,6 +4,7 @@
 #include "platform/store/Settings.h"
 #include "platform/store/WholeFile.h"
 #include "platform/text/RichTextBox.h"
+#include "platform/values/Utf8.h"
 #include "platform/values/Values.h"
 
 namespace DocumentFiles {
@@ -89,6 +90,19 @@ void SuitEncoding(const Settings& store, Document& document, const QString& text
     const TextEncoding suiting = EncodingFor(store, document.Encoding(), text);
     if (document.Encoding() == TextEncoding::Ascii && IsUtf8(suiting))
         document.SetEncoding(suiting);
+}
+
+KeptText Keep(Document& document) {
+    return {document.txtInput().Utf8Text(), document.Encoding()};
+}
+
+FileText TakeBack(const KeptText& kept) {
+    return {Utf8::ToText(kept.utf8), kept.encoding};
+}
+
+KeptText KeepBytes(const Settings& store, QByteArrayView bytes) {
+    const FileText file = TextOf(store, bytes);
+    return {file.text.toUtf8(), file.encoding};
 }
 
 } // namespace DocumentFiles

@@ -6,6 +6,7 @@
 #include "platform/values/TextEncoding.h"
 
 #include <optional>
+#include <QByteArray>
 #include <QString>
 
 class Document;
@@ -25,6 +26,13 @@ struct FileText {
     TextEncoding encoding = TextEncoding::Ascii;
     FileMark mark; ///< the file as it was read; unset where no setting asks for it
     ReadPart part = ReadPart::Whole;
+};
+
+/// A document's text as it is kept outside of its file.
+struct KeptText {
+    QByteArray utf8;
+    TextEncoding encoding = TextEncoding::Ascii; ///< of the document, not of these bytes
+    bool operator==(const KeptText&) const = default;
 };
 
 /// With Utf8Pages off every file has code page 1252.
@@ -52,5 +60,13 @@ WriteResult Save(const Settings& store, const QString& path, Document& document)
 /// A document that is about to get a whole new text becomes one in UTF-8 where the text declares it or needs
 /// it, as long as nothing beyond ASCII stands in its file: a page of ASCII, or one that has no file yet.
 void SuitEncoding(const Settings& store, Document& document, const QString& text);
+
+/// What stands in a document now, and the way back to what was read from a file: a document that gets it is
+/// saved to the very bytes that the first one would have been saved to.
+KeptText Keep(Document& document);
+FileText TakeBack(const KeptText& kept);
+
+/// The same of the bytes that a document's file was to hold.
+KeptText KeepBytes(const Settings& store, QByteArrayView bytes);
 
 } // namespace DocumentFiles

@@ -31,6 +31,18 @@ void WriteAsSet(Frame& frame, Document& document, QString text) {
     frame.SetStatusPanel(QString());
 }
 
+/// The pass writes a text twice that ends in an open tag, as it does while one is typed: what stands behind
+/// the last ">" is a text of its own.
+void WriteExactly(Frame& frame, Document& document, const QString& text) {
+    RichTextBox& txtInput = document.txtInput();
+    const qsizetype closed = text.lastIndexOf(u'>') + 1;
+    WriteAsSet(frame, document, text.left(closed));
+    txtInput.SetSelStart(txtInput.TextLength());
+    WriteAsSet(frame, document, text.mid(closed));
+    if (txtInput.Text() != text)
+        txtInput.SetText(text);
+}
+
 /// What stands there now is unchanged, and where undo ends: undoing the load itself would empty the page.
 void CountAsLoaded(Document& document) {
     document.txtInput().EmptyUndoBuffer();
@@ -77,4 +89,21 @@ void TakeInRecentText(Frame& frame, const QString& path, FileText file) {
     Q_EMIT frame.State<DocumentPaths>().Taken(path, Path::NameOnDisk(path));
     TellEncoding(frame, *document);
     CutPages::Tell(frame, path, file.part);
+}
+
+void TakeInRecovered(Frame& frame, const QString& path, const FileText& file) {
+    Document* document = frame.ActiveForm();
+    if (!document)
+        return;
+    document->SetCaption(path);
+    document->SetEncoding(file.encoding);
+    WriteExactly(frame, *document, file.text);
+    document->txtInput().EmptyUndoBuffer();
+    document->SetModified(true);
+    if (!path.isEmpty()) {
+        AddToRecentFiles(frame);
+        const QString name = Path::NameOnDisk(path);
+        Q_EMIT frame.State<DocumentPaths>().Taken(path, name.isEmpty() ? Path::FileName(path) : name);
+    }
+    TellEncoding(frame, *document);
 }

@@ -17,3 +17,7 @@ void TakeInText(Frame& frame, const QString& path, FileText file);
 
 /// The same for a recent file: coloured whatever ColoredTags says, and the recent files stay as they are.
 void TakeInRecentText(Frame& frame, const QString& path, FileText file);
+
+/// The same for a text that was never saved, as it stood in its window to the character: its file need not be
+/// there, or it has none, with an empty path. It counts as changed.
+void TakeInRecovered(Frame& frame, const QString& path, const FileText& file);

@@ -126,6 +126,13 @@ QSize frmTemplate::sizeHint() const {
 void frmTemplate::SetEncoding(TextEncoding encoding) {
     encoding_ = encoding;
     txtInput_->SetHolds(CharactersOf(encoding));
+    Q_EMIT Altered();
+}
+
+void frmTemplate::SetModified(bool modified) {
+    if (std::exchange(modified_, modified) != modified)
+        Q_EMIT ModifiedChanged();
+    Q_EMIT Altered();
 }
 
 void frmTemplate::SetCaption(const QString& path) {
@@ -133,11 +140,7 @@ void frmTemplate::SetCaption(const QString& path) {
     QString title = path;
     // A title takes "[*]" for the place of a change mark; doubled it is just text.
     setWindowTitle(title.replace(u"[*]"_s, u"[*][*]"_s));
-}
-
-void frmTemplate::SetModified(bool modified) {
-    if (std::exchange(modified_, modified) != modified)
-        Q_EMIT ModifiedChanged();
+    Q_EMIT Altered();
 }
 
 MsgAnswer frmTemplate::AskAboutSaving() {
@@ -151,6 +154,9 @@ MsgAnswer frmTemplate::AskAboutSaving() {
                             MsgIcon::Question, u"Save Document?"_s);
     if (answer == MsgAnswer::Yes && frame_.SaveActiveDocument() == SaveResult::Refused)
         return MsgAnswer::Cancel;
+    // The changes are given up: nobody is to ask again, or to keep them.
+    if (answer == MsgAnswer::No)
+        SetModified(false);
     return answer;
 }
 
@@ -182,15 +188,12 @@ bool frmTemplate::SaveAtSessionEnd() {
     stage_ = Asking;
     const MsgAnswer answer = AskAboutSaving();
     stage_ = Open;
-    if (answer != MsgAnswer::No)
-        return answer == MsgAnswer::Yes;
-    // Or the program's end would ask again.
-    SetModified(false);
-    return Unload();
+    return answer == MsgAnswer::No ? Unload() : answer == MsgAnswer::Yes;
 }
 
 void frmTemplate::TakeDown() {
     timer1_->stop();
+    Q_EMIT Going();
     // Its handlers may still be running, so it is deleted later; from now on no one finds it.
     frame_.LoadedForms().Remove(this);
     QMdiArea* area = mdiArea();

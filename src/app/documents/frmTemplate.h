@@ -59,6 +59,10 @@ class frmTemplate final : public QMdiSubWindow, public Document {
   Q_SIGNALS:
     /// The modified flag is another one than before.
     void ModifiedChanged();
+    /// The text changed, or what is known of it: its caption, its encoding, whether it is modified.
+    void Altered();
+    /// The window goes; all of the document is still there. Modified then means: neither saved nor given up.
+    void Going();
 
   protected:
     void showEvent(QShowEvent* event) override;

@@ -2,6 +2,7 @@
 #include "app/documents/Arrivals.h"
 
 #include "app/documents/frmTemplate.h"
+#include "app/recovery/OfferCopies.h"
 #include "app/run/frmSplash.h"
 #include "app/run/SingleInstance.h"
 #include "app/run/Startup.h"
@@ -89,6 +90,12 @@ void DeleteWhatIsUnloaded() {
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
 }
 
+/// Once the frame is on the screen.
+void OfferCopiesSoon(frmTarnwick& frame) {
+    QMetaObject::invokeMethod(
+        &frame, [&frame] { OfferCopies(frame, frame.Copies()); }, Qt::QueuedConnection);
+}
+
 } // namespace
 
 int RunProgram(frmTarnwick& frame, SingleInstance& instance, const QString& commandLine) {
@@ -106,6 +113,7 @@ int RunProgram(frmTarnwick& frame, SingleInstance& instance, const QString& comm
         return 0;
     frame.show();
     frame.FromOutside().Open({});
+    OfferCopiesSoon(frame);
     DeleteWhatIsUnloaded();
     return stopped ? 0 : QApplication::exec();
 }

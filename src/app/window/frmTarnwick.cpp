@@ -9,6 +9,7 @@
 #include "app/documents/SaveOver.h"
 #include "app/documents/Skeletons.h"
 #include "app/help/HelpCommands.h"
+#include "app/recovery/Recovery.h"
 #include "app/run/frmSplash.h"
 #include "app/run/ProgramState.h"
 #include "app/run/Shutdown.h"
@@ -84,8 +85,8 @@ frmTarnwick::frmTarnwick(Settings& store, Prompts& ask)
     : store_(store), ask_(ask), forms_(new Forms(this)), area_(new QMdiArea(this)),
       documents_(new OpenDocuments(*area_, this)), focus_(new FrameFocus(*this, *area_, *documents_)),
       tabStrip2_(new DocumentTabs(this)), arrivals_(new Arrivals(*this, this)),
-      statusBar_(new StatusBar(this)), changedFiles_(new ChangedFiles(*this, *documents_, *statusBar_)),
-      vsSpell1_(new SpellChecker(this)) {
+      recovery_(new Recovery(*this, this)), statusBar_(new StatusBar(this)),
+      changedFiles_(new ChangedFiles(*this, *documents_, *statusBar_)), vsSpell1_(new SpellChecker(this)) {
     setObjectName(u"frmTarnwick"_s);
     vsSpell1_->setObjectName(u"VSSpell1"_s);
     setContextMenuPolicy(Qt::NoContextMenu);
@@ -181,6 +182,7 @@ void frmTarnwick::NewDocument() {
     SelectModeTab(u"Edit"_s);
     auto* document = new frmTemplate(*this);
     forms_->Add(document);
+    recovery_->Watch(*document);
     area_->addSubWindow(document);
     const int step = State<ProgramState>().DocumentCount % cascadeSteps * cascadeStep;
     document->move(step, step);

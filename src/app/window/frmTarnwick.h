@@ -17,6 +17,7 @@ class OpenDocuments;
 class Prompts;
 class QMdiArea;
 class QMdiSubWindow;
+class Recovery;
 class Settings;
 class StatusBar;
 class ToolbarHolder;
@@ -61,6 +62,8 @@ class frmTarnwick final : public QMainWindow, public MainFrame {
     Arrivals& FromOutside() { return *arrivals_; }
     /// What tells of files that others changed.
     ChangedFiles& ChangedByOthers() { return *changedFiles_; }
+    /// What keeps copies of the changed documents.
+    Recovery& Copies() { return *recovery_; }
     /// Comes to the front of the desktop, out of the minimised state if need be.
     void ComeToFront();
 
@@ -91,6 +94,7 @@ class frmTarnwick final : public QMainWindow, public MainFrame {
     FrameFocus* focus_;
     DocumentTabs* tabStrip2_;
     Arrivals* arrivals_;
+    Recovery* recovery_;
     ToolbarHolder* picture3_ = nullptr;
     UserButtons* picture2_ = nullptr;
     ModeStrip* picture4_ = nullptr;

@@ -10,6 +10,7 @@
 
 #include <QApplication>
 #include <QMdiSubWindow>
+#include <QPointer>
 
 namespace {
 
@@ -130,7 +131,17 @@ QString DocumentModes::ShownTab() const {
 SaveResult DocumentModes::SaveDesign() {
     if (!design_ || design_->LoadedPath().isEmpty())
         return SaveResult::Cancelled;
-    return frame_.WriteOver(document_, [this] { return design_->Save(design_->LoadedPath()); });
+    // The save waits for the page, and the window may be gone behind it, this object with it.
+    Frame& frame = frame_;
+    const QString path = design_->LoadedPath();
+    const QPointer<QWidget> view = &design_->widget();
+    const SaveResult result = frame.WriteOver(document_, [this, path] { return design_->Save(path); });
+    if (result != SaveResult::Failed || !view)
+        return result;
+    const auto& keep = frame.State<UnsavedDesign>().Keep;
+    if (const std::optional<QByteArray> page = design_->Unsaved(); page && keep)
+        keep(path, *page);
+    return result;
 }
 
 SaveResult DocumentModes::EditAnsPos() {

@@ -5,6 +5,8 @@
 #include "platform/values/TextEncoding.h"
 
 #include <functional>
+#include <optional>
+#include <QByteArray>
 #include <QString>
 #include <QtPlugin>
 
@@ -24,6 +26,9 @@ class DesignControl {
     /// Writes the page to a file. One that nobody changed stands in its file as it was and is not written
     /// there again. Where nothing came of it the file stands unharmed.
     virtual WriteResult Save(const QString& path) = 0;
+    /// What the last Save had and could not bring to the file; nothing where it did, or could not even get
+    /// hold of the page.
+    virtual std::optional<QByteArray> Unsaved() const { return std::nullopt; }
 };
 
 /// Shows a page and follows its links.
@@ -48,6 +53,12 @@ class WebControlsFactory {
 };
 
 Q_DECLARE_INTERFACE(WebControlsFactory, "tarnwick.WebControlsFactory/3")
+
+/// Where a page goes that was changed in the design view and could not be saved: nobody else has it.
+struct UnsavedDesign {
+    /// Gets the path of its file, and the bytes that this was to hold. Left empty, they are lost.
+    std::function<void(const QString& path, const QByteArray& bytes)> Keep;
+};
 
 /// The frame's road to the controls: they cost memory and start-up time, so they come with the first document
 /// that asks for them.

@@ -70,6 +70,13 @@ bool OpenFile::Flush() const {
     return Calls().fsync(number_) == 0 || errno == EINVAL || errno == ENOSYS || errno == ENOTSUP;
 }
 
+bool OpenFile::Lock() const {
+    if (Calls().flock(number_, LOCK_EX | LOCK_NB) != 0)
+        return false;
+    const std::optional<struct stat> status = Status();
+    return status && status->st_nlink > 0;
+}
+
 bool FlushFolderOf(const QByteArray& path) {
     const OpenFile folder(FolderOf(path) + '.', O_RDONLY | O_DIRECTORY);
     return !folder.IsOpen() || folder.Flush();

@@ -32,10 +32,6 @@ QByteArray NewName() {
     return Folder() + QByteArray::number(QRandomGenerator::system()->generate64(), 16) + ".save";
 }
 
-bool IsLocked(const OpenFile& file) {
-    return Calls().flock(file.Number(), LOCK_EX | LOCK_NB) != 0;
-}
-
 } // namespace
 
 SaveRecord::SaveRecord(const QByteArray& path)
@@ -46,16 +42,9 @@ SaveRecord::~SaveRecord() {
         Calls().unlink(name_.constData());
 }
 
-bool SaveRecord::Lock() const {
-    if (!file_.IsOpen() || IsLocked(file_))
-        return false;
-    // Before it was locked it was anyone's to settle.
-    const std::optional<struct stat> status = file_.Status();
-    return status && status->st_nlink > 0;
-}
-
 bool SaveRecord::Keep(const QByteArray& content) const {
-    return Lock() && file_.Write(content);
+    // Before it is locked it is anyone's to settle.
+    return file_.IsOpen() && file_.Lock() && file_.Write(content);
 }
 
 std::unique_ptr<SaveRecord> SaveRecord::OfNewFile(const QByteArray& path) {
@@ -84,7 +73,7 @@ QList<QByteArray> SaveRecord::SettleAll(const QByteArray& path) {
          QDir(QFile::decodeName(folder)).entryList({QStringLiteral("*.save")}, QDir::Files)) {
         const QByteArray name = folder + QFile::encodeName(entry);
         const OpenFile file(name, O_RDONLY | O_NOFOLLOW);
-        if (!file.IsOpen() || IsLocked(file))
+        if (!file.IsOpen() || !file.Lock())
             continue;
         const std::optional<QByteArray> content = file.Read();
         if (!content)

@@ -37,7 +37,6 @@ class SaveRecord {
 
   private:
     explicit SaveRecord(const QByteArray& path);
-    bool Lock() const;
     bool Keep(const QByteArray& content) const;
 
     QByteArray path_, name_;

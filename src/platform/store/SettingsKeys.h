@@ -76,6 +76,7 @@ inline const SettingsKey BlankButtonTips = In("Program Options", "BlankButtonTip
 inline const SettingsKey UntitledNames = In("Program Options", "UntitledNames", "1");
 inline const SettingsKey WindowChooser = In("Program Options", "WindowChooser", "1");
 inline const SettingsKey StripKeys = In("Program Options", "StripKeys", "1");
+inline const SettingsKey Recovery = In("Program Options", "Recovery", "1");
 inline const SettingsKey WebTimer = In("Program Options", "WebTimer", "False");
 /// How large documents are drawn, in percent; and whether keys and wheel change it.
 inline const SettingsKey Zoom = In("Program Options", "Zoom", "100");

@@ -12,6 +12,7 @@
 
 #include <cerrno>
 #include <csignal>
+#include <mutex>
 #else
 #include <QSaveFile>
 #endif
@@ -28,20 +29,29 @@ qint64 Size(const QString& path) {
 namespace {
 
 /// A write past the user's file size limit raises a signal that would end the program; without it the write
-/// fails like any other.
+/// fails like any other. The signal is the process's: the last of several threads that write brings it back.
 class NoSizeSignal {
   public:
     NoSizeSignal() {
+        const std::lock_guard lock(mutex);
+        if (count++ > 0)
+            return;
         struct sigaction ignore = {};
         ignore.sa_handler = SIG_IGN;
-        sigaction(SIGXFSZ, &ignore, &before_);
+        sigaction(SIGXFSZ, &ignore, &before);
     }
-    ~NoSizeSignal() { sigaction(SIGXFSZ, &before_, nullptr); }
+    ~NoSizeSignal() {
+        const std::lock_guard lock(mutex);
+        if (--count == 0)
+            sigaction(SIGXFSZ, &before, nullptr);
+    }
     NoSizeSignal(const NoSizeSignal&) = delete;
     NoSizeSignal& operator=(const NoSizeSignal&) = delete;
 
   private:
-    struct sigaction before_ = {};
+    static inline std::mutex mutex;
+    static inline int count = 0;
+    static inline struct sigaction before = {};
 };
 
 WriteResult Failed(int error) {

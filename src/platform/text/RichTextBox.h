@@ -66,6 +66,8 @@ class RichTextBox : public QsciScintillaBase, public AccessibleText {
     /// The whole text. Assigning puts the caret at 0 and writes in the colour at the caret.
     QString Text() const;
     void SetText(const QString& text);
+    /// The whole text in UTF-8, as the control holds it: ten megabytes are had in a few milliseconds.
+    QByteArray Utf8Text() const { return buffer_.CopyOfBytes(); }
     /// The number of characters of the text, without fetching it.
     int TextLength() const override;
     /// The characters [start, start + length), cut to what there is; never fetches more of the text.

@@ -150,6 +150,17 @@ QString TextBuffer::Text(ByteRange range) const {
     return Utf8::ToText(InPlace(range));
 }
 
+QByteArray TextBuffer::CopyOfBytes() const {
+    // The control keeps room for the next key in the middle of its text. What is asked for across that gap
+    // would be moved together first, and apart again by the next key.
+    const auto gap = static_cast<int>(Ask(Control::SCI_GETGAPPOSITION));
+    QByteArray bytes;
+    bytes.reserve(Bytes());
+    bytes += InPlace({0, gap});
+    bytes += InPlace({gap, Bytes()});
+    return bytes;
+}
+
 QByteArrayView TextBuffer::InPlace(ByteRange range) const {
     if (range.end <= range.start)
         return QByteArrayView();

@@ -54,6 +54,8 @@ class TextBuffer {
     ByteRange CharacterBefore(int byte) const;
 
     QString Text(ByteRange range) const;
+    /// All bytes. They are copied where they lie: nothing of the text is moved for it.
+    QByteArray CopyOfBytes() const;
     /// The units from start to end, both cut to what there is, as a QString cuts them out: a pair may be cut.
     QString TextOfUnits(qint64 start, qint64 end) const;
     /// The same as bytes, without a copy; for as long as nothing is asked of the control that changes the

@@ -4,6 +4,8 @@
 
 #include "app/options/frmExternal.h"
 #include "app/RealFrame.h"
+#include "app/recovery/DocumentCopy.h"
+#include "app/recovery/RecoveryFolder.h"
 #include "app/run/frmSplash.h"
 #include "app/run/SingleInstance.h"
 #include "app/window/DocumentTabs.h"
@@ -534,6 +536,63 @@ TEST_F(Program, FullOrReadOnlyDiskOfTheSettingsLeavesTheOldOnes) {
         EXPECT_EQ(Content(SettingsFile()), before);
         EXPECT_EQ(optionsShown, 0);
     }
+}
+
+// What an earlier run did not save
+
+class LeftPage : public Program {
+  protected:
+    void Leave(const QString& path, const QByteArray& text) {
+        Overwrite(MakeRecoveryFolder() + QStringLiteral("/run-00000000000000aa-1.copy"),
+                  BytesOf({.path = path, .content = {text, TextEncoding::Ascii}}));
+    }
+};
+
+TEST_F(LeftPage, IsOfferedOnceTheFrameIsOnTheScreen) {
+    const QString path = MakeFile(QStringLiteral("page.htm"), "old");
+    Leave(path, "new");
+    prompts.messageAnswers = {MsgAnswer::Yes, MsgAnswer::No};
+    prompts.whileAsked = [&] { EXPECT_TRUE(prompts.asked.last().owner->isVisible()); };
+    EXPECT_EQ(Run(QString(),
+                  [&](frmTarnwick& frame) {
+                      if (prompts.asked.isEmpty())
+                          return false;
+                      EXPECT_TRUE(frame.ActiveForm() && frame.ActiveForm()->Modified());
+                      EXPECT_EQ(frame.ActiveForm()->txtInput().Text(), QStringLiteral("new"));
+                      return true;
+                  }),
+              0);
+    EXPECT_EQ(Content(path), "old");
+    ASSERT_EQ(prompts.asked.size(), 2);
+    EXPECT_EQ(prompts.asked.last().text, QStringLiteral("Do you want to save?"));
+    EXPECT_TRUE(QDir(RecoveryFolder()).isEmpty(QDir::Files));
+}
+
+TEST_F(LeftPage, IsNoAffairOfALaterCopy) {
+    Leave(QStringLiteral("/page.htm"), "new");
+    SingleInstance running;
+    EXPECT_EQ(Run(QString()), 0);
+    EXPECT_TRUE(prompts.asked.isEmpty());
+    EXPECT_EQ(QDir(RecoveryFolder()).entryList(QDir::Files).size(), 1);
+}
+
+TEST_F(LeftPage, StandsOpenOnceWhereTheCommandLineNamesIt) {
+    const QString path = MakeFile(QStringLiteral("page.htm"), "old");
+    Leave(path, "new");
+    prompts.messageAnswers = {MsgAnswer::Yes, MsgAnswer::No};
+    bool handedOver = false;
+    EXPECT_EQ(Run(path,
+                  [&](frmTarnwick& frame) {
+                      if (prompts.asked.isEmpty())
+                          return false;
+                      EXPECT_EQ(frame.Area().subWindowList().size(), 1);
+                      // And so where a later copy brings it.
+                      if (!handedOver)
+                          handedOver = SingleInstance().HandOver(path);
+                      return arrived == 1 && prompts.asked.size() == 2;
+                  }),
+              0);
+    EXPECT_TRUE(prompts.asked[1].text.endsWith(QStringLiteral("Duplicate copies not allowed.")));
 }
 
 } // namespace

@@ -416,4 +416,21 @@ TEST(Modes, DesignAnsPosIsEmptyAndTheOtherTwoAreTheSame) {
                 ElementsAre(QStringLiteral("/site/a.htm"), QStringLiteral("/site/a.htm")));
 }
 
+TEST(Modes, PageThatCannotBeSavedIsHandedOn) {
+    ModesFrame frame;
+    QStringList kept;
+    frame.State<UnsavedDesign>().Keep = [&](const QString& path, const QByteArray& bytes) {
+        kept << path << QString::fromLatin1(bytes);
+    };
+    frame.Click(design);
+    frame.active->modes->EditAnsPos();
+    EXPECT_THAT(kept, IsEmpty());
+    frame.Design()->unsaved = "page";
+    frame.active->modes->EditAnsPos();
+    EXPECT_THAT(kept, ElementsAre(QStringLiteral("/site/a.htm"), QStringLiteral("page")));
+    // Nobody keeps it.
+    frame.State<UnsavedDesign>().Keep = {};
+    frame.active->modes->EditAnsPos();
+}
+
 } // namespace

@@ -9,6 +9,7 @@
 #include <functional>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
+#include <latch>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -19,6 +20,7 @@
 #include <sys/stat.h>
 #include <sys/wait.h>
 #include <sys/xattr.h>
+#include <thread>
 #include <unistd.h>
 
 namespace {
@@ -508,6 +510,49 @@ TEST_F(WholeFileTest, WhatMayReachTheDiskLaterIsNotWaitedFor) {
     EXPECT_TRUE(WholeFile::Write(path, "newer"));
     EXPECT_EQ(flushes, 2) << "the file and its folder";
     Calls() = FileCalls();
+}
+
+// Two threads
+
+/// Two saves that overlap: the one that begins first ends first, while the other still writes.
+TEST_F(WholeFileTest, SizeSignalStaysAwayUntilTheLastThreadHasWritten) {
+    static std::latch otherWrites(1), oneIsDone(1);
+    static std::function<void()> writeOther;
+    static std::thread::id other;
+    static bool ignoredInOther = false;
+    const auto ignored = [] {
+        struct sigaction now = {};
+        EXPECT_EQ(sigaction(SIGXFSZ, nullptr, &now), 0);
+        return now.sa_handler == SIG_IGN;
+    };
+    ASSERT_FALSE(ignored());
+    std::thread thread;
+    writeOther = [&] {
+        thread = std::thread([&] { EXPECT_TRUE(WholeFile::Write(At("other"), "2")); });
+        otherWrites.wait();
+    };
+    const FileCalls system = Calls();
+    // The record and the content of one file are written: the first write of each thread counts.
+    Calls().pwrite = [](int file, const void* bytes, size_t count, off_t at) {
+        if (auto start = std::exchange(writeOther, {})) {
+            start();
+        } else if (!otherWrites.try_wait()) {
+            other = std::this_thread::get_id();
+            otherWrites.count_down();
+            oneIsDone.wait();
+            struct sigaction now = {};
+            sigaction(SIGXFSZ, nullptr, &now);
+            ignoredInOther = now.sa_handler == SIG_IGN;
+        }
+        return ::pwrite(file, bytes, count, at);
+    };
+    EXPECT_TRUE(WholeFile::Write(At("one"), "1"));
+    oneIsDone.count_down();
+    thread.join();
+    Calls() = system;
+    EXPECT_NE(other, std::this_thread::get_id());
+    EXPECT_TRUE(ignoredInOther);
+    EXPECT_FALSE(ignored());
 }
 
 } // namespace

@@ -184,4 +184,17 @@ TEST_F(RichTextUnicodeTest, AClickStandsBesideACharacter) {
     }
 }
 
+TEST_F(RichTextUnicodeTest, BytesAreTheTextWhereverTheLastKeyWas) {
+    EXPECT_EQ(box.Utf8Text(), QByteArray());
+    const QString text = u"\uFEFFże ☃\r\n😀 end"_s;
+    box.SetText(text);
+    EXPECT_EQ(box.Utf8Text(), text.toUtf8());
+    for (int position = 0; position <= text.size(); ++position) {
+        box.SetText(text);
+        box.SetSelStart(position);
+        box.SetSelText(u"x"_s);
+        EXPECT_EQ(box.Utf8Text(), box.Text().toUtf8()) << position;
+    }
+}
+
 } // namespace
