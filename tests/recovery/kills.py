@@ -106,9 +106,9 @@ class Program:
 
 
 def snapshot(site):
-    """All files, with their bytes and times."""
+    """All files, with their bytes and times. What a save that was killed leaves beside them goes with the next save."""
     files = {}
-    for name in sorted(os.listdir(site)):
+    for name in sorted(name for name in os.listdir(site) if not name.startswith(".tarnwick-")):
         path = os.path.join(site, name)
         with open(path, "rb") as file:
             files[path] = (file.read(), os.stat(path).st_mtime_ns)
@@ -161,7 +161,8 @@ class Check:
                     self.disk.setdefault(target, {None}).add(saved(note["text"]))
             if note["did"] in ("saved", "closed"):
                 page.doing = None
-                if page.target and not note["modified"]:
+                # One that was never changed is not modified either where its save came to nothing.
+                if page.target and not note["modified"] and os.path.dirname(page.target[0]) == self.site:
                     self.disk[page.target[0]] = {page.target[1]}
             page.note(note)
             if note["did"] == "closed":
