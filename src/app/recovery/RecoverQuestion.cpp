@@ -4,10 +4,10 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// So many lines and characters a person takes in, and a small screen has room for.
-constexpr qsizetype mostLines = 8;
-constexpr qsizetype longestPath = 72;
-constexpr qsizetype headOfPath = 24;
+// So many lines a small screen has room for, and so many characters a line of the box.
+constexpr qsizetype mostLines = 6;
+constexpr qsizetype longestPath = 56;
+constexpr qsizetype headOfPath = 16;
 
 /// The name stands at the end, and the folders that tell pages of one name apart are mostly next to it.
 QString Shortened(const QString& path) {
