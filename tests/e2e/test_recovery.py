@@ -1,7 +1,7 @@
 """The program is killed, and the next start brings back what was not saved."""
 import os
-from driver import main, read, wait_for, PROGRAM
 import sys
+from driver import main, read, wait_for, PROGRAM
 
 QUESTION = "The Tarnwick"
 CONTENT = b"<P>old</P>"
@@ -71,16 +71,15 @@ def test_no_gives_it_up(desk):
     desk.run()
 
 
-def test_nothing_is_copied_with_the_setting_off(desk):
+def test_with_the_setting_off_nobody_asks_and_the_copies_stay(desk):
+    kill_with_a_change(desk)
     desk.settings("Program Options", Recovery=0)
-    path = desk.write("page.htm", CONTENT)
-    desk.run(path)
-    desk.wait_page("old")
-    desk.type("new ")
-    desk.wait_text("new ")
-    desk.key("ctrl+s")
-    wait_for("the save", lambda: read(path) == b"new " + CONTENT + b"\r\n")
-    assert not os.path.exists(desk.path("own", "recovery"))
+    before = copies(desk)
+    desk.run()
+    assert QUESTION not in desk.windows()
+    desk.key("alt+F4")
+    assert desk.ended() == 0
+    assert copies(desk) == before
 
 
 main(sys.modules[__name__])

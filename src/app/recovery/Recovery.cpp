@@ -7,7 +7,6 @@
 #include "platform/text/RichTextBox.h"
 
 #include <algorithm>
-#include <ranges>
 #include <utility>
 
 using namespace std::chrono;
@@ -113,9 +112,9 @@ void Recovery::BeginRound() {
     sinceRound_.start();
     cost_ = {};
     // Taken from its end: the first that was changed comes first.
-    for (const Kept& kept : kept_ | std::views::reverse)
-        if (kept.isDue)
-            round_.push_back(kept.document);
+    for (auto kept = kept_.rbegin(); kept != kept_.rend(); ++kept)
+        if (kept->isDue)
+            round_.push_back(kept->document);
     CopyNext();
 }
 
