@@ -28,8 +28,8 @@ class OpenFile {
     bool Write(QByteArrayView content) const;
     /// Whether what was written has reached the disk; where flushing is not known, it counts as done.
     bool Flush() const;
-    /// Locks it until it is closed, or its process ends in whatever way. False where it is locked already, and
-    /// where its name went before it was locked: nobody else would meet the lock.
+    /// Locks it until it is closed, or its process ends in whatever way. False where it is locked already,
+    /// and where its name went before it was locked: nobody else would meet the lock.
     bool Lock() const;
     /// False where the system finds out only now that what was written could not be kept.
     bool Close();
