@@ -93,16 +93,20 @@ void SuitEncoding(const Settings& store, Document& document, const QString& text
 }
 
 KeptText Keep(Document& document) {
-    return {document.txtInput().Utf8Text(), document.Encoding()};
+    const KnownFile& file = document.OnDisk();
+    return {document.txtInput().Utf8Text(), document.Encoding(), file.mark, file.wasReadWhole};
 }
 
 FileText TakeBack(const KeptText& kept) {
-    return {Utf8::ToText(kept.utf8), kept.encoding};
+    return {.text = Utf8::ToText(kept.utf8),
+            .encoding = kept.encoding,
+            .mark = kept.mark,
+            .part = kept.wasReadWhole ? ReadPart::Whole : ReadPart::UpToEndOfText};
 }
 
 KeptText KeepBytes(const Settings& store, QByteArrayView bytes) {
     const FileText file = TextOf(store, bytes);
-    return {file.text.toUtf8(), file.encoding};
+    return {.utf8 = file.text.toUtf8(), .encoding = file.encoding, .mark = {}};
 }
 
 } // namespace DocumentFiles

@@ -32,6 +32,8 @@ struct FileText {
 struct KeptText {
     QByteArray utf8;
     TextEncoding encoding = TextEncoding::Ascii; ///< of the document, not of these bytes
+    FileMark mark = {};                          ///< its file as it was read or written last
+    bool wasReadWhole = true;                    ///< false where its file holds more than was read
     bool operator==(const KeptText&) const = default;
 };
 

@@ -95,8 +95,7 @@ void TakeInRecovered(Frame& frame, const QString& path, const FileText& file) {
     Document* document = frame.ActiveForm();
     if (!document)
         return;
-    document->SetCaption(path);
-    document->SetEncoding(file.encoding);
+    TakeInFile(*document, path, file);
     WriteExactly(frame, *document, file.text);
     document->txtInput().EmptyUndoBuffer();
     document->SetModified(true);

@@ -4,7 +4,6 @@
 #include "app/recovery/LeftCopies.h"
 #include "app/recovery/RecoverQuestion.h"
 #include "app/recovery/Recovery.h"
-#include "app/run/StandingNotice.h"
 #include "app/window/MainFrame.h"
 #include "editor/frame/Document.h"
 #include "editor/frame/Forms.h"
@@ -71,7 +70,7 @@ void TellUnreadable(MainFrame& frame, const QStringList& files) {
         files.size() == 1
             ? QStringLiteral("A page that was not saved can't be read; it is kept: ")
             : QStringLiteral("%1 pages that were not saved can't be read; they are kept: ").arg(files.size());
-    new StandingNotice(frame.Panels(), told + files.first());
+    frame.ShowNotice(told + files.first());
 }
 
 } // namespace

@@ -2,6 +2,7 @@
 
 #include "platform/store/WholeFile.h"
 
+#include <algorithm>
 #include <QCryptographicHash>
 #include <QDateTime>
 #include <QFile>
@@ -14,6 +15,9 @@
 namespace {
 
 constexpr qint64 coarsestTime = 2000;
+constexpr qsizetype digestBytes = 32;
+constexpr QByteArrayView nothingSeen = "unknown";
+constexpr QByteArrayView noFile = "none";
 
 QByteArray Digest(QByteArrayView bytes) {
     QCryptographicHash hash(QCryptographicHash::Blake2b_256);
@@ -53,6 +57,29 @@ FileMark FileMark::Of(const QString& path) {
     if (!bytes)
         mark.Take(status);
     return mark;
+}
+
+std::optional<FileMark> FileMark::FromText(QByteArrayView text) {
+    FileMark mark;
+    if (text == nothingSeen)
+        return mark;
+    mark.isSet_ = true;
+    if (text == noFile)
+        return mark;
+    const qsizetype blank = text.indexOf(' ');
+    bool isNumber = false;
+    mark.status_.size = text.first(std::max<qsizetype>(blank, 0)).toLongLong(&isNumber);
+    mark.digest_ = QByteArray::fromHex(text.sliced(blank + 1).toByteArray());
+    // Only what ToText writes, to the letter.
+    const bool isMark = isNumber && mark.status_.IsThere() && mark.digest_.size() == digestBytes;
+    return isMark && mark.ToText() == text ? std::optional(mark) : std::nullopt;
+}
+
+QByteArray FileMark::ToText() const {
+    if (!isSet_)
+        return nothingSeen.toByteArray();
+    return status_.IsThere() ? QByteArray::number(status_.size) + ' ' + digest_.toHex()
+                             : noFile.toByteArray();
 }
 
 void FileMark::Take(const FileStatus& status) {

@@ -1,6 +1,7 @@
 // What was seen of a file, to know later whether it is still the same.
 #pragma once
 
+#include <optional>
 #include <QByteArray>
 #include <QByteArrayView>
 #include <QString>
@@ -28,6 +29,11 @@ class FileMark {
     FileMark(const FileStatus& status, QByteArrayView bytes);
     /// What stands there now; also that nothing does.
     static FileMark Of(const QString& path);
+    /// The mark that ToText wrote, by which only the bytes tell a change; nothing where the text is no mark.
+    static std::optional<FileMark> FromText(QByteArrayView text);
+    /// One line of ASCII for a later run: how many bytes the file has and their digest, or that there was no
+    /// file, or that nothing was seen.
+    QByteArray ToText() const;
 
     /// Whether other bytes stand there than were seen. The file is read only where its status has changed, or
     /// was so young when it was seen that a further change need not show in it; where the bytes turn out to

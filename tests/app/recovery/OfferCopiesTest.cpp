@@ -107,6 +107,31 @@ TEST_F(Offers, RecoveredPageKeepsItsCopyUntilItIsSaved) {
     EXPECT_EQ(ReadFile(page), "new\r\n");
 }
 
+TEST_F(Offers, RecoveredPageKnowsItsFileAsItWasRead) {
+    MakeFile(QStringLiteral("page.htm"), "old");
+    LeaveCopy({.path = page, .content = {.utf8 = "new", .mark = FileMark::Of(page)}});
+    MakeFile(QStringLiteral("page.htm"), "of another");
+    Start(MsgAnswer::Yes);
+    run.prompts.messageAnswers = {MsgAnswer::No};
+    run.frame->SaveActiveDocument();
+    EXPECT_TRUE(run.prompts.asked.last().text.contains(QStringLiteral("has changed on disk")));
+    EXPECT_EQ(ReadFile(page), "of another");
+    run.prompts.messageAnswers = {MsgAnswer::Yes};
+    run.frame->SaveActiveDocument();
+    EXPECT_EQ(ReadFile(page), "new\r\n");
+}
+
+TEST_F(Offers, RecoveredPageThatWasReadInPartHasItsFileKept) {
+    MakeFile(QStringLiteral("page.htm"), "old\x1arest");
+    LeaveCopy({.path = page, .content = {.utf8 = "new", .mark = FileMark::Of(page), .wasReadWhole = false}});
+    Start(MsgAnswer::Yes);
+    const qsizetype asked = run.prompts.asked.size();
+    run.frame->SaveActiveDocument();
+    EXPECT_EQ(run.prompts.asked.size(), asked) << "nobody changed it";
+    EXPECT_EQ(ReadFile(page), "new\r\n");
+    EXPECT_EQ(ReadFile(RecoveryFolder() + QStringLiteral("/kept-1-page.htm")), "old\x1arest");
+}
+
 TEST_F(Offers, RecoveredPageThatIsChangedIsCopiedInItsPlace) {
     const QString file = LeaveCopy(page, "new");
     run.frame->State<RecoveryPace>().shortest = 1ms;

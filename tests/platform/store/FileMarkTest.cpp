@@ -45,6 +45,30 @@ TEST_F(FileMarkTest, WhatWasNeverSeenIsNeverChanged) {
     EXPECT_EQ(none.Compare(TestFolder() + QStringLiteral("/none.htm")), Now::Same);
 }
 
+TEST_F(FileMarkTest, ALaterRunKnowsTheBytes) {
+    FileMark later = FileMark::FromText(mark.ToText()).value();
+    EXPECT_EQ(later.Compare(path), Now::Same);
+    WriteFile(path, "new");
+    EXPECT_EQ(later.Compare(path), Now::Changed);
+    QFile::remove(path);
+    EXPECT_EQ(later.Compare(path), Now::Gone);
+
+    FileMark gone = FileMark::FromText(FileMark::Of(path).ToText()).value();
+    EXPECT_EQ(gone.Compare(path), Now::Same);
+    WriteFile(path, "new");
+    EXPECT_EQ(gone.Compare(path), Now::Changed);
+    EXPECT_EQ(FileMark::FromText(FileMark().ToText()).value(), FileMark());
+}
+
+TEST_F(FileMarkTest, ATextThatIsNoMarkIsNone) {
+    const QByteArray good = mark.ToText();
+    ASSERT_TRUE(FileMark::FromText(good));
+    for (const QByteArray& bad :
+         {QByteArray(), QByteArray("3"), QByteArray("-1 ab"), " " + good, good + "ab", good.chopped(1),
+          "x" + good, "-" + good, good.toUpper(), QByteArray("None")})
+        EXPECT_FALSE(FileMark::FromText(bad)) << bad.constData();
+}
+
 TEST_F(FileMarkTest, OtherBytesAreAChangeWhateverTheirNumber) {
     for (const char* bytes : {"new", "longer", "", "x"}) {
         WriteFile(path, bytes);
