@@ -105,9 +105,10 @@ bool frmCSS::eventFilter(QObject* watched, QEvent* event) {
 }
 
 bool frmCSS::event(QEvent* event) {
-    // Form_Activate
+    // Form_Activate. Behind the event: the engine's first view makes the system's window anew, which the
+    // toolkit goes on to use once it has told that it is active.
     if (event->type() == QEvent::WindowActivate)
-        DisplayCSS();
+        QMetaObject::invokeMethod(this, &frmCSS::DisplayCSS, Qt::QueuedConnection);
     return QDialog::event(event);
 }
 

@@ -19,6 +19,7 @@ class StylePreviewTest : public SheetTest {
         OpenSheet();
         form->activateWindow();
         ASSERT_TRUE(QTest::qWaitForWindowActive(form));
+        QCoreApplication::processEvents();
         Forget();
     }
     FakeBrowser* Browser() { return static_cast<FakeBrowser*>(form->findChild<QWidget*>(T(u"WebBrowser1"))); }
@@ -68,6 +69,9 @@ TEST_F(StylePreviewTest, ShowsThePageAsTheFormBecomesActive) {
     Forget();
     QEvent activate(QEvent::WindowActivate);
     QApplication::sendEvent(form, &activate);
+    // The engine's first view makes the system's window anew, which is at work in this very event.
+    EXPECT_FALSE(Came());
+    QCoreApplication::processEvents();
     EXPECT_TRUE(Came());
 }
 
