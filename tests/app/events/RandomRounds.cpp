@@ -37,9 +37,12 @@ QStringList Litter() {
     return litter;
 }
 
-/// The toolkit keeps its gestures for as long as it sees fit.
+/// The toolkit keeps one of each, and its gestures for as long as it sees fit.
 bool IsKeptByTheToolkit(const QString& kind) {
-    return kind.startsWith(u"object QPanGesture"_s);
+    static const char* const kept[] = {"QPanGesture", "QDragManager", "QShapedPixmapWindow",
+                                       "QPlatformGraphicsBuffer", "QXcbClipboardMime"};
+    return std::ranges::any_of(
+        kept, [&](const char* name) { return kind.startsWith(u"object "_s + QString::fromLatin1(name)); });
 }
 
 QStringList Growth(const Census& before, const Census& now) {
