@@ -52,8 +52,9 @@ void CountOpenFiles(Census& census) {
     for (const QString& number :
          QDir(mine).entryList(QDir::AllEntries | QDir::System | QDir::NoDotAndDotDot)) {
         const QString path = QFile::symLinkTarget(mine + u'/' + number);
-        // The one that this very look has open.
-        if (!path.isEmpty() && !path.startsWith(QStringLiteral("/proc/")))
+        // Neither the one that this very look has open, nor what the system's libraries keep.
+        if (!path.isEmpty() && !path.startsWith(QStringLiteral("/proc/")) &&
+            !path.startsWith(QStringLiteral("/usr/")))
             ++census[QStringLiteral("open ") + WithoutNumbers(path)];
     }
 }

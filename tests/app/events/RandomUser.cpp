@@ -37,7 +37,7 @@ constexpr int mostDocuments = 8;
 constexpr int mostTries = 400;
 constexpr int told = 40;
 constexpr int pauseMilliseconds = 5;
-constexpr int mostAsks = 2000;
+constexpr int mostAsks = 1000;
 
 /// Of this thread alone, so that a busy machine makes no event longer.
 double SecondsSpent() {
@@ -149,11 +149,13 @@ void RandomUser::Step() {
     for (const QString& warning : Warnings::Take())
         Fail(u"warning: "_s + warning);
     reached_.Look(*frame_);
-    if (left_ == 0)
+    if (left_ <= 0)
         return Leave();
     KeepSmall();
-    if (Happen())
-        --left_;
+    // Counted first: it may let others happen before it ends.
+    --left_;
+    if (!Happen())
+        ++left_;
 }
 
 bool RandomUser::Happen() {
