@@ -1,20 +1,37 @@
 #include "app/window/ReleaseButtons.h"
 
 #include <QAbstractButton>
+#include <QApplication>
 #include <QEvent>
 
 namespace {
 
+/// A window that belongs to the modal one, at any depth, is free.
+bool IsBlocked(const QWidget& widget) {
+    const QWidget* modal = QApplication::activeModalWidget();
+    if (!modal)
+        return false;
+    const QWidget* window = widget.window();
+    while (window && window != modal)
+        window = window->parentWidget() ? window->parentWidget()->window() : nullptr;
+    return !window;
+}
+
 class Watch final : public QObject {
   public:
-    explicit Watch(QWidget& window) : QObject(&window), window_(window) { window.installEventFilter(this); }
+    explicit Watch(QWidget& window) : QObject(&window), window_(window) { qApp->installEventFilter(this); }
 
   protected:
     bool eventFilter(QObject* watched, QEvent* event) override {
-        if (event->type() == QEvent::WindowBlocked)
+        // The timer goes on, so that the click comes with its first turn behind the box.
+        if (event->type() == QEvent::Timer) {
+            const auto* button = qobject_cast<QAbstractButton*>(watched);
+            return button && IsBlocked(*button);
+        }
+        if (event->type() == QEvent::WindowBlocked && watched == &window_)
             for (QAbstractButton* button : window_.findChildren<QAbstractButton*>())
                 button->setDown(false);
-        return QObject::eventFilter(watched, event);
+        return false;
     }
 
   private:
