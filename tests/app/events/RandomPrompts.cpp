@@ -55,7 +55,10 @@ QString RandomPrompts::InputBox(QWidget* owner, const QString& prompt, const QSt
         return QStringLiteral("3");
     if (kind_ == Kind::Boxes)
         return boxes_.InputBox(owner, prompt, title, standard);
-    return dice_.Percent(25) ? QString() : dice_.Percent(25) ? standard : AnyText(dice_);
+    // A field of one line gives no line ends.
+    return dice_.Percent(25)   ? QString()
+           : dice_.Percent(25) ? standard
+                               : AnyText(dice_).remove(u'\r').remove(u'\n');
 }
 
 std::optional<ColorNumber> RandomPrompts::ChooseColor(QWidget* owner, QByteArray& customColors) {

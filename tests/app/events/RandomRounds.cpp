@@ -23,7 +23,8 @@ constexpr int roundsOfAThird = 4;
 /// Files that nobody saved: temporary ones, halves of saves, and what the program's folder does not hold.
 QStringList Litter() {
     static const QRegularExpression own(
-        u"^(tarnwick\\.chm|tabletest\\.html|_css\\.htm|send\\.out|custom\\.vtc|.*\\.tnw)$"_s);
+        u"^(tarnwick\\.chm|tabletest\\.html|_css\\.htm|send\\.out|custom\\.vtc|.*\\.tnw)$"_s,
+        QRegularExpression::DotMatchesEverythingOption);
     QStringList litter;
     const QString all = QFileInfo(Playground::Root()).absolutePath();
     QDirIterator files(all, QDir::Files | QDir::Hidden | QDir::System, QDirIterator::Subdirectories);
