@@ -71,7 +71,10 @@ bool Resize(Stage& stage) {
 }
 
 bool Activate(Stage& stage) {
-    const QList<QWidget*> windows = Targets::Windows();
+    QList<QWidget*> windows = Targets::Windows();
+    // The start screen is only looked at.
+    windows.removeIf(
+        [](const QWidget* window) { return window->windowFlags() & Qt::WindowDoesNotAcceptFocus; });
     if (windows.isEmpty())
         return false;
     QWidget& window = *stage.dice.From(windows);
