@@ -4,6 +4,7 @@
 
 #include "app/documents/Arrivals.h"
 #include "app/documents/frmTemplate.h"
+#include "app/window/KnownForms.h"
 #include "editor/frame/Commands.h"
 #include "editor/frame/Forms.h"
 #include "editor/spelling/SpellChecker.h"
@@ -15,6 +16,7 @@
 #include <QPushButton>
 #include <QTabBar>
 #include <QTimer>
+#include <vector>
 
 namespace {
 
@@ -99,31 +101,44 @@ bool AutoFill(Stage& stage) {
     return true;
 }
 
-/// How a form comes up that no command shows by itself: by a control of another one, which a command shows.
+/// How a form comes up: by a control of another one, which a command shows, or by the command itself.
 struct Road {
     const char* form;
     const char* command;
     const char* over;
     const char* control;
+    Qt::MouseButton button = Qt::LeftButton;
 };
 
 constexpr Road roads[] = {
-    {"frmGridInput", "tb_table", "frmTable", "Grid1"},     {"frmFrame", "tb_frame", "VisFrame", "cmdFrame_0"},
-    {"frmInfo", "mnuNew", "frmTime", "cmdInfo"},           {"frmWizard", "mnuWizard", "frmBody", "cmdOK"},
+    {"frmGridInput", "tb_table", "frmTable", "Grid1"},
+    {"frmFrame", "tb_frame", "VisFrame", "cmdFrame_0"},
+    {"frmInfo", "mnuNew", "frmTime", "cmdInfo"},
+    {"frmImage", "mnuImage", "frmGraphicLink", "cmdPicOpen"},
+    {"frmTools", "mnuNew", "frmTarnwick", "Command1_0", Qt::RightButton},
+    {"frmWizard", "mnuWizard", "frmBody", "cmdOK"},
     {"frmWizard", "mnuWizard", "frmGraphicLink", "cmdOK"},
 };
 
 bool GoForMissedForm(Stage& stage) {
-    const Road& road = stage.dice.From(roads);
-    if (!stage.reached.MissedForms().contains(QString::fromLatin1(road.form)))
+    const QStringList missed = stage.reached.MissedForms();
+    std::vector<Road> open;
+    for (const Road& road : roads)
+        if (missed.contains(QString::fromLatin1(road.form)))
+            open.push_back(road);
+    for (const FormRow& row : KnownForms())
+        if (*row.reach.entry.name && missed.contains(QString::fromLatin1(row.name)))
+            open.push_back({row.name, row.reach.entry.name, "", ""});
+    if (open.empty())
         return false;
+    const Road& road = stage.dice.From(open);
     QWidget* over = stage.frame.LoadedForms().Find(QString::fromLatin1(road.over));
     auto* control =
         over && over->isVisible() ? over->findChild<QWidget*>(QString::fromLatin1(road.control)) : nullptr;
     if (!control)
         return Trigger(stage, ActionOf(stage, QString::fromLatin1(road.command)));
     stage.log.Note(QStringLiteral("go on by ") + Targets::NameOf(*control));
-    stage.hand.Click(*control, control->rect().center(), Qt::LeftButton);
+    stage.hand.Click(*control, control->rect().center(), road.button);
     return true;
 }
 

@@ -7,9 +7,14 @@
 #include <iostream>
 #include <QApplication>
 #include <QClipboard>
+#include <QColorDialog>
 #include <QDirIterator>
 #include <QElapsedTimer>
+#include <QFileDialog>
 #include <QFileInfo>
+#include <QMimeDatabase>
+#include <QPrintDialog>
+#include <QPrinter>
 #include <QRegularExpression>
 #include <QTest>
 
@@ -40,10 +45,26 @@ QStringList Litter() {
 
 /// The toolkit keeps one of each, and its gestures for as long as it sees fit.
 bool IsKeptByTheToolkit(const QString& kind) {
-    static const char* const kept[] = {"QPanGesture", "QDragManager", "QShapedPixmapWindow",
-                                       "QPlatformGraphicsBuffer", "QXcbClipboardMime"};
+    static const char* const kept[] = {"QPanGesture",      "QFactoryLoader",      "QCupsPrinterSupportPlugin",
+                                       "QDragManager",     "QShapedPixmapWindow", "QPlatformGraphicsBuffer",
+                                       "QXcbClipboardMime"};
     return std::ranges::any_of(
         kept, [&](const char* name) { return kind.startsWith(u"object "_s + QString::fromLatin1(name)); });
+}
+
+/// What the toolkit loads once, whenever it is first asked for, and keeps.
+void LoadWhatIsKept() {
+    QPrinter printer;
+    QPrintDialog print(&printer);
+    QColorDialog color;
+    QFileDialog file;
+    file.setOption(QFileDialog::DontUseNativeDialog);
+    for (QDialog* dialog : std::initializer_list<QDialog*>{&print, &color, &file}) {
+        dialog->show();
+        QCoreApplication::processEvents();
+        dialog->hide();
+    }
+    QMimeDatabase().mimeTypeForFile(Playground::Root());
 }
 
 QStringList Growth(const Census& before, const Census& now) {
@@ -73,6 +94,8 @@ void RandomRounds::Play(Length length) {
         length.events = wanted;
     if (qEnvironmentVariableIsSet("TARNWICK_SEED"))
         length.firstSeed = qEnvironmentVariable("TARNWICK_SEED").toULongLong();
+    LoadWhatIsKept();
+    Warnings::Take();
     quint64 seed = length.firstSeed;
     while (played_ < length.events)
         Round(seed++, std::min(length.eventsOfARound, length.events - played_));
