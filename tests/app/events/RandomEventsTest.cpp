@@ -16,7 +16,7 @@ class RandomEvents : public RandomRounds {
 };
 
 TEST_F(RandomEvents, LeaveNothingBehind) {
-    Play({.events = 3000, .eventsOfARound = 1000, .firstSeed = 1});
+    Play({.events = 3000, .eventsOfARound = 1000, .firstSeed = 1, .moreRounds = 6});
     EXPECT_EQ(reached.MissedCommands(), QStringList());
     EXPECT_EQ(reached.MissedForms(), QStringList());
 }

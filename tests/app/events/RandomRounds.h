@@ -19,6 +19,8 @@ class RandomRounds : public testing::Test {
         int events;
         int eventsOfARound;
         quint64 firstSeed;
+        /// So many more at most, for as long as a form or a command is missed.
+        int moreRounds = 0;
     };
 
     /// Plays all rounds, with real boxes and with answered prompts by turns, then the first once more:

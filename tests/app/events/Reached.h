@@ -21,6 +21,7 @@ class Reached final : public QObject {
     QStringList MissedCommands() const;
     /// The forms of the program's sources that never came up yet.
     QStringList MissedForms() const;
+    bool HasMissed() const { return !MissedCommands().isEmpty() || !MissedForms().isEmpty(); }
     const QSet<QString>& Forms() const { return forms_; }
     qsizetype Commands() const { return commands_.size(); }
 

@@ -13,10 +13,12 @@ QMutex mutex;
 QStringList collected;
 QtMessageHandler before = nullptr;
 
-bool IsOfTheDisplay(const QString& message) {
+bool IsHarmless(const QString& message) {
     static const char* const known[] = {
         "This plugin does not support",
         "propagateSizeHints",
+        // Of a picture that others wrote halves of.
+        "JPEG",
     };
     return std::ranges::any_of(known,
                                [&](const char* part) { return message.contains(QString::fromLatin1(part)); });
@@ -27,7 +29,7 @@ void Collect(QtMsgType type, const QMessageLogContext& context, const QString& m
         return before(type, context, message);
     // What a page says in its own console is its own affair.
     const bool isOfAPage = context.category && std::string_view(context.category) == "js";
-    if (type == QtDebugMsg || type == QtInfoMsg || isOfAPage || IsOfTheDisplay(message))
+    if (type == QtDebugMsg || type == QtInfoMsg || isOfAPage || IsHarmless(message))
         return;
     const QMutexLocker lock(&mutex);
     if (!collected.contains(message))
