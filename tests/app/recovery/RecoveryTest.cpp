@@ -70,7 +70,9 @@ TEST_F(Recovering, ChangedDocumentIsCopiedUntilItIsSaved) {
     SetTo(run->Active(), "<P>new");
     run->Active().txtInput().SetSelStart(2);
     UntilCopied("<P>new");
-    EXPECT_EQ(CopiesThere().front(), (DocumentCopy{.path = path, .caret = 2, .content = {"<P>new", {}}}));
+    const FileMark read = *FileMark::FromText(FileMark::Of(path).ToText());
+    EXPECT_EQ(CopiesThere().front(),
+              (DocumentCopy{.path = path, .caret = 2, .content = {.utf8 = "<P>new", .mark = read}}));
     EXPECT_EQ(ReadFile(path), "old");
     run->frame->SaveActiveDocument();
     UntilNoCopy();
