@@ -13,6 +13,7 @@ std::vector<MsgAnswer> AnswersOf(MsgButtons buttons) {
     case MsgButtons::OKCancel:
         return {MsgAnswer::OK, MsgAnswer::Cancel};
     case MsgButtons::YesNo:
+    case MsgButtons::YesOrNoByDefault:
         return {MsgAnswer::No, MsgAnswer::Yes};
     case MsgButtons::YesNoCancel:
         return {MsgAnswer::No, MsgAnswer::Yes, MsgAnswer::Cancel};
