@@ -19,12 +19,13 @@ class WatchedDesign final : public QObject, public DesignControl {
     void TakeEncoding(TextEncoding encoding) override { real_.TakeEncoding(encoding); }
     void Load(const QString& path) override { real_.Load(path); }
     QString LoadedPath() const override { return real_.LoadedPath(); }
-    bool Save(const QString& path) override {
+    WriteResult Save(const QString& path) override {
         int& saving = saving_;
         ++saving;
         const auto over = qScopeGuard([&saving] { --saving; });
         return real_.Save(path);
     }
+    std::optional<QByteArray> Unsaved() const override { return real_.Unsaved(); }
 
   private:
     DesignControl& real_;
