@@ -29,7 +29,7 @@
 #include "app/window/LeaveByEscape.h"
 #include "app/window/ModeStrip.h"
 #include "app/window/OpenDocuments.h"
-#include "app/window/ReleaseButtons.h"
+#include "app/window/ShutOut.h"
 #include "app/window/StatusPanels.h"
 #include "app/window/ToolbarHolder.h"
 #include "builders/commands/EditTag.h"
@@ -155,7 +155,7 @@ void frmTarnwick::BuildStrips() {
 
 void frmTarnwick::HookWindow() {
     BindHelpKey(*this, *this);
-    ReleaseButtonsWhenBlocked(*this);
+    KeepShutOutWindowsStill(*this);
     connect(area_, &QMdiArea::subWindowActivated, this, &frmTarnwick::SubWindowActivated);
     // The text tells it too, but only where it gets the focus by it.
     connect(documents_, &OpenDocuments::Activated, tabStrip2_,

@@ -1,4 +1,4 @@
-#include "app/window/ReleaseButtons.h"
+#include "app/window/ShutOut.h"
 
 #include <QAbstractButton>
 #include <QApplication>
@@ -7,14 +7,21 @@
 namespace {
 
 /// A window that belongs to the modal one, at any depth, is free.
-bool IsBlocked(const QWidget& widget) {
+bool IsBlocked(const QWidget* widget) {
     const QWidget* modal = QApplication::activeModalWidget();
-    if (!modal)
+    if (!modal || !widget)
         return false;
-    const QWidget* window = widget.window();
+    const QWidget* window = widget->window();
     while (window && window != modal)
         window = window->parentWidget() ? window->parentWidget()->window() : nullptr;
     return !window;
+}
+
+/// Actions and shortcuts belong to the window of the control that has them.
+const QWidget* ControlOf(const QObject* object) {
+    while (object && !object->isWidgetType())
+        object = object->parent();
+    return static_cast<const QWidget*>(object);
 }
 
 class Watch final : public QObject {
@@ -24,10 +31,10 @@ class Watch final : public QObject {
   protected:
     bool eventFilter(QObject* watched, QEvent* event) override {
         // The timer goes on, so that the click comes with its first turn behind the box.
-        if (event->type() == QEvent::Timer) {
-            const auto* button = qobject_cast<QAbstractButton*>(watched);
-            return button && IsBlocked(*button);
-        }
+        if (event->type() == QEvent::Timer)
+            return IsBlocked(qobject_cast<QAbstractButton*>(watched));
+        if (event->type() == QEvent::Shortcut)
+            return IsBlocked(ControlOf(watched));
         if (event->type() == QEvent::WindowBlocked && watched == &window_)
             for (QAbstractButton* button : window_.findChildren<QAbstractButton*>())
                 button->setDown(false);
@@ -40,6 +47,6 @@ class Watch final : public QObject {
 
 } // namespace
 
-void ReleaseButtonsWhenBlocked(QWidget& window) {
+void KeepShutOutWindowsStill(QWidget& window) {
     new Watch(window);
 }
