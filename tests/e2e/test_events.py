@@ -123,7 +123,7 @@ class Events:
 
     def leave(self):
         """Closes all that is open, with nothing saved."""
-        for _ in range(200):
+        for turn in range(200):
             if self.desk.program.poll() is not None:
                 return
             window = self.window()
@@ -132,9 +132,11 @@ class Events:
                 self.do("key", "--clearmodifiers", "Escape", "alt+F4")
             elif not name:
                 self.one()
+            elif name == "Save Document?" or turn % 2:
+                # A button that is pressed by its key clicks a moment later: another key would come first.
+                self.do("key", "--clearmodifiers", "alt+n")
             else:
-                # What has no way out but its answers; then what has.
-                self.do("key", "--clearmodifiers", "alt+n", "Escape")
+                self.do("key", "--clearmodifiers", "Escape")
         raise driver.Failure("it can't be left: %r\n%s" % (self.desk.windows(), self.told()))
 
 
