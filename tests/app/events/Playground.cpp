@@ -54,20 +54,32 @@ bool Playground::Holds(const QString& path) {
     return full == all || full.startsWith(all + u'/');
 }
 
-Playground::Playground(Dice& dice) {
+Playground::Playground(Dice& dice) : folderBefore_(QDir::currentPath()) {
     QDir::setCurrent(QDir::rootPath());
     FreshUser();
     MakeFiles();
     MakeSettings(dice);
-    const auto set = [](const char* variable, const QString& value) {
-        qputenv(variable, QFile::encodeName(value));
-    };
-    set("HOME", Root() + u"/user"_s);
-    set("TMPDIR", Temporary());
-    set("PATH", Root() + u"/bin"_s);
+    SetVariable("HOME", Root() + u"/user"_s);
+    SetVariable("TMPDIR", Temporary());
+    SetVariable("PATH", Root() + u"/bin"_s);
     // No printer of the machine's.
-    set("CUPS_SERVER", Root() + u"/no-printer"_s);
+    SetVariable("CUPS_SERVER", Root() + u"/no-printer"_s);
     QDir::setCurrent(Root() + u"/user"_s);
+}
+
+Playground::~Playground() {
+    for (const auto& [variable, value] : before_) {
+        if (value.isNull())
+            qunsetenv(variable);
+        else
+            qputenv(variable, value);
+    }
+    QDir::setCurrent(folderBefore_);
+}
+
+void Playground::SetVariable(const char* variable, const QString& value) {
+    before_.emplace_back(variable, qEnvironmentVariableIsSet(variable) ? qgetenv(variable) : QByteArray());
+    qputenv(variable, QFile::encodeName(value));
 }
 
 void Playground::MakeFiles() const {
