@@ -1,11 +1,12 @@
 #!/usr/bin/python3
 """How long the program takes from process start to frame shown, and what memory it then holds.
 
-    bench/startup.py build/release/tarnwick
+    bench/startup.py build/release/tarnwick [another program, to compare with]
 
 One run measures, turn by turn on one virtual display with a window manager: the program with the browser and design
-views off, as a new user has them; a copy of it beside which their plugin does not lie; and the editor scite (Debian's
-package of that name) where it is installed. Medians are printed, and ratios, which hold on any machine.
+views off, as a new user has them; a copy of it beside which their plugin does not lie; the other program, such as a build
+from before a change; and the editor scite (Debian's package of that name) where it is installed. Medians are printed, and
+ratios, which hold on any machine; processor time is what others on the machine change least.
 Ends with 1 where the program takes more than twice scite's time, or where an unused plugin costs anything that shows.
 """
 import os
@@ -37,6 +38,13 @@ def memory(pid):
     return sum(int(fields[key].split()[0]) for key in ("Private_Clean", "Private_Dirty")) / 1000
 
 
+def processor(pid):
+    """The seconds that all threads of a process have worked so far."""
+    with open("/proc/%d/stat" % pid) as file:
+        fields = file.read().rsplit(")", 1)[1].split()
+    return (int(fields[11]) + int(fields[12])) / os.sysconf("SC_CLK_TCK")
+
+
 def start_once(desk, command):
     begun = time.monotonic()
     process = desk.start(command)
@@ -46,10 +54,11 @@ def start_once(desk, command):
     taken = time.monotonic() - begun
     time.sleep(0.5)  # what is loaded behind the first picture counts as memory too
     held = memory(process.pid)
+    worked = processor(process.pid)
     process.kill()
     process.wait()
     desk.processes.remove(process)
-    return taken, held
+    return taken, held, worked
 
 
 def main():
@@ -58,22 +67,27 @@ def main():
     os.makedirs(alone)
     shutil.copy2(driver.PROGRAM, os.path.join(alone, "tarnwick"))
     candidates = {"plugin unused": [driver.PROGRAM], "no plugin": [os.path.join(alone, "tarnwick")]}
+    if len(sys.argv) > 2:
+        candidates["the other"] = [os.path.abspath(sys.argv[2])]
     if shutil.which("scite"):
         candidates["scite"] = ["scite"]
     taken = {name: [] for name in candidates}
     held = {name: [] for name in candidates}
+    worked = {name: [] for name in candidates}
     try:
         for run in range(RUNS + 1):
             for name, command in candidates.items():
-                seconds, megabytes = start_once(desk, command)
+                seconds, megabytes, processor_seconds = start_once(desk, command)
                 if run > 0:  # the first run of each reads the disk
                     taken[name].append(seconds)
                     held[name].append(megabytes)
+                    worked[name].append(processor_seconds)
     finally:
         desk.close()
     for name in candidates:
-        print("%-14s frame shown after %3.0f ms, %5.1f MB of its own (medians of %d)" % (
-            name, statistics.median(taken[name]) * 1000, statistics.median(held[name]), RUNS))
+        print("%-14s frame shown after %3.0f ms, %3.0f ms of work, %5.1f MB of its own (medians of %d)" % (
+            name, statistics.median(taken[name]) * 1000, statistics.median(worked[name]) * 1000,
+            statistics.median(held[name]), RUNS))
 
     def ratio(what, values, other):
         return statistics.median(values[what]) / statistics.median(values[other])
@@ -82,6 +96,9 @@ def main():
         against = ratio("plugin unused", taken, "scite")
         print("against scite: %.2f of its time" % against)
         good = against <= MOST_AGAINST_SCITE
+    if "the other" in candidates:
+        print("against the other: %.2f of its time, %.2f of its work, %.2f of its memory" % tuple(
+            ratio("plugin unused", values, "the other") for values in (taken, worked, held)))
     for what, values in (("time", taken), ("memory", held)):
         unused = ratio("plugin unused", values, "no plugin")
         print("with the plugin there but unused, against none there: %.2f of the %s" % (unused, what))
