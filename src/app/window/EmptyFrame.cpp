@@ -38,7 +38,8 @@ bool EmptyFrame::Holds(const QWidget& widget) const {
 
 bool EmptyFrame::eventFilter(QObject* watched, QEvent* event) {
     const QEvent::Type type = event->type();
-    if (watched == area_.viewport() && type == QEvent::Paint && !painted_) {
+    // Events come while the area goes, too, when it can be asked for nothing any more; no painting does.
+    if (type == QEvent::Paint && !painted_ && watched == area_.viewport()) {
         painted_ = true;
         Schedule();
     }
