@@ -1,6 +1,8 @@
 // The settings and program folder of a user who never ran the program.
 #include "support/FreshUser.h"
 
+#include "platform/store/Settings.h"
+
 #include <QDir>
 #include <QTemporaryDir>
 
@@ -22,6 +24,17 @@ void FreshSettings() {
     qputenv("XDG_CONFIG_HOME", QFile::encodeName(path()));
 }
 
+/// All that is drawn beside what the menus and dialogs offer, and all that happens after a fault.
+void TurnExtrasOff() {
+    Settings store;
+    for (const SettingsKey& key :
+         {Keys::ModifiedMark, Keys::EmptyFrameText, Keys::BlankButtonTips, Keys::UntitledNames,
+          Keys::WindowChooser, Keys::StripKeys, Keys::Recovery, Keys::UseZoom, Keys::ShowPartnerTag,
+          Keys::ShowCurrentLine, Keys::ShowLineNumbers, Keys::FileDialogFolders, Keys::WideBoxes,
+          Keys::AskBeforeOverwrite, Keys::TellChangedFiles, Keys::TellFailedSaves, Keys::KeepCutPages})
+        store.WriteFlag(key, false);
+}
+
 } // namespace
 
 void FreshUser() {
@@ -39,6 +52,8 @@ void FreshUser() {
     set("XDG_DATA_HOME", "data");
     set("XDG_RUNTIME_DIR", "runtime");
     set("TARNWICK_HOME", "home");
+    if (qEnvironmentVariableIsSet("TARNWICK_WITHOUT_EXTRAS"))
+        TurnExtrasOff();
 }
 
 QString TestFolder() {
