@@ -27,6 +27,29 @@ class WindowButtons : public testing::Test {
         style.drawComplexControl(QStyle::CC_MdiControls, &option, &painter);
         return image;
     }
+    /// The title bar of a document that isn't maximised, with no title.
+    static QStyleOptionTitleBar TitleBar(const QStyle& style, const QPalette& palette, bool active) {
+        QStyleOptionTitleBar bar;
+        bar.palette = palette;
+        bar.titleBarFlags = Qt::Window | Qt::WindowTitleHint | Qt::WindowSystemMenuHint |
+                            Qt::WindowMinMaxButtonsHint | Qt::WindowCloseButtonHint;
+        bar.subControls = QStyle::SC_All;
+        bar.state = QStyle::State_Enabled;
+        bar.titleBarState = Qt::WindowNoState;
+        if (active) {
+            bar.state |= QStyle::State_Active;
+            bar.titleBarState |= QStyle::State_Active;
+        }
+        bar.rect = QRect(0, 0, 300, style.pixelMetric(QStyle::PM_TitleBarHeight, &bar));
+        return bar;
+    }
+    static QImage Drawn(const QStyle& style, const QStyleOptionTitleBar& bar) {
+        QImage image(bar.rect.size(), QImage::Format_RGB32);
+        image.fill(bar.palette.color(QPalette::Window));
+        QPainter painter(&image);
+        style.drawComplexControl(QStyle::CC_TitleBar, &bar, &painter);
+        return image;
+    }
     /// How far the most different point in the middle of the picture is from a colour, of 255.
     static int Distance(const QImage& image, const QColor& from) {
         int greatest = 0;
@@ -54,6 +77,23 @@ TEST_F(WindowButtons, AreSeenOnALightAndOnADarkPalette) {
              {QStyle::SC_MdiMinButton, QStyle::SC_MdiNormalButton, QStyle::SC_MdiCloseButton})
             EXPECT_GT(Distance(Drawn(style, button, palette), ground), 120) << dark << ' ' << button;
     }
+}
+
+TEST_F(WindowButtons, OfATitleBarAreSeenOnALightAndOnADarkPalette) {
+    const WindowButtonStyle style;
+    for (const bool dark : {false, true})
+        for (const bool active : {false, true}) {
+            const QColor ground = dark ? QColor(42, 46, 50) : QColor(239, 239, 239);
+            const QStyleOptionTitleBar bar =
+                TitleBar(style, Palette(dark ? Qt::white : Qt::black, ground), active);
+            const QImage image = Drawn(style, bar);
+            for (const auto button : {QStyle::SC_TitleBarMinButton, QStyle::SC_TitleBarMaxButton,
+                                      QStyle::SC_TitleBarCloseButton}) {
+                const QRect place = style.subControlRect(QStyle::CC_TitleBar, &bar, button, nullptr);
+                const QColor behind = image.pixelColor(place.topLeft() - QPoint(2, 0));
+                EXPECT_GT(Distance(image.copy(place), behind), 100) << dark << active << ' ' << button;
+            }
+        }
 }
 
 TEST_F(WindowButtons, AllDiffer) {
