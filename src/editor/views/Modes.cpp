@@ -11,6 +11,7 @@
 #include <QApplication>
 #include <QMdiSubWindow>
 #include <QPointer>
+#include <QStyle>
 
 namespace {
 
@@ -43,9 +44,19 @@ QSize OuterSize(QWidget& window) {
     return window.frameSize();
 }
 
+/// A maximised document has its frame and its title outside of what is seen of the area: its inside fills it.
+/// It isn't called maximised while the area takes another size.
+QSize UnseenFrame(const QWidget& window) {
+    const auto* document = qobject_cast<const QMdiSubWindow*>(&window);
+    if (!document || !document->widget() || document->widget()->size() != document->size())
+        return {0, 0};
+    const QStyle& style = *window.style();
+    const int frame = style.pixelMetric(QStyle::PM_MdiSubWindowFrameWidth, nullptr, &window);
+    return {2 * frame, frame + style.pixelMetric(QStyle::PM_TitleBarHeight, nullptr, &window)};
+}
+
 /// Left and top in twips, and what width and height fall short of the window's, in twips too.
-void Place(QWidget& view, QWidget& window, int left, int top, int lessWidth, int lessHeight) {
-    const QSize outer = OuterSize(window);
+void Place(QWidget& view, QSize outer, int left, int top, int lessWidth, int lessHeight) {
     view.setGeometry(Twips::ToPixels(left), Twips::ToPixels(top), outer.width() - Twips::ToPixels(lessWidth),
                      outer.height() - Twips::ToPixels(lessHeight));
 }
@@ -156,14 +167,15 @@ void DocumentModes::DesignAnsPos() {}
 
 void DocumentModes::PlaceAtLoad() {
     if (design_)
-        Place(design_->widget(), document_.Window(), 30, 15, 60, 40);
+        Place(design_->widget(), OuterSize(document_.Window()), 30, 15, 60, 40);
 }
 
 void DocumentModes::PlaceAtResize() {
+    const QSize outer = OuterSize(document_.Window()) + UnseenFrame(document_.Window());
     if (design_)
-        Place(design_->widget(), document_.Window(), -50, -50, 60, 340);
+        Place(design_->widget(), outer, -50, -50, 60, 340);
     if (browser_)
-        Place(browser_->widget(), document_.Window(), -50, -50, 60, 340);
+        Place(browser_->widget(), outer, -50, -50, 60, 340);
 }
 
 namespace {

@@ -140,6 +140,7 @@ TEST_F(frmTemplateOf, LoadTouchesNoOtherWindowWithColouringOff) {
 
 TEST_F(frmTemplateOf, DesignViewStandsInsideTheWindowUntilAResize) {
     PlainViews views;
+    Write(Keys::TemplateWindowState, "0");
     frmTemplate& document = WithViews(views);
     auto* design = document.findChild<QWidget*>(QStringLiteral("DHTMLEdit"));
     auto* browser = document.findChild<QWidget*>(QStringLiteral("WebBrowser1"));
@@ -149,6 +150,20 @@ TEST_F(frmTemplateOf, DesignViewStandsInsideTheWindowUntilAResize) {
     const QRect place(-3, -3, document.width() - 4, document.height() - 23);
     EXPECT_EQ(design->geometry(), place);
     EXPECT_EQ(browser->geometry(), place);
+}
+
+TEST_F(frmTemplateOf, ViewsLeaveNothingOfAMaximisedWindowBare) {
+    PlainViews views;
+    frmTemplate& document = WithViews(views);
+    ASSERT_TRUE(document.isMaximized());
+    const auto* browser = document.findChild<QWidget*>(QStringLiteral("WebBrowser1"));
+    ASSERT_TRUE(browser);
+    EXPECT_TRUE(browser->geometry().contains(document.widget()->rect()));
+    run->frame->resize(run->frame->size() + QSize(40, 30));
+    QCoreApplication::processEvents();
+    EXPECT_TRUE(browser->geometry().contains(document.widget()->rect()));
+    const auto* design = document.findChild<QWidget*>(QStringLiteral("DHTMLEdit"));
+    EXPECT_TRUE(design->geometry().contains(document.widget()->rect()));
 }
 
 TEST_F(frmTemplateOf, ActivationLeavesAViewInFrontTheFocus) {
@@ -168,6 +183,23 @@ TEST_F(frmTemplateOf, ActivationLeavesAViewInFrontTheFocus) {
     document.txtInput().setFocus();
     mEdit_Click(*run->frame, 3);
     EXPECT_EQ(run->prompts.beeps, 1);
+}
+
+TEST_F(frmTemplateOf, ADocumentThatIsChosenGivesTheKeysToTheViewInFront) {
+    PlainViews views;
+    Write(Keys::TemplateWindowState, "0");
+    frmTemplate& first = WithViews(views);
+    first.Modes()->DesignClicked();
+    auto* design = first.findChild<QWidget*>(QStringLiteral("DHTMLEdit"));
+    ASSERT_TRUE(design && design->isVisible());
+    design->setFocusPolicy(Qt::StrongFocus);
+    design->setFocus();
+    frmTemplate& second = run->New();
+    ASSERT_EQ(run->frame->focusWidget(), &second.txtInput());
+    run->frame->ActivateDocument(first);
+    EXPECT_EQ(run->frame->focusWidget(), design);
+    run->frame->ActivateDocument(second);
+    EXPECT_EQ(run->frame->focusWidget(), &second.txtInput());
 }
 
 TEST_F(frmTemplateOf, NoViewsUnlessTheyAreAskedFor) {
