@@ -48,6 +48,13 @@ void BrowserPane::Show(const QString& path) {
                 step();
         },
         Qt::QueuedConnection);
+    connect(
+        shown, &BrowserPage::loadFinished, this,
+        [this, shown] {
+            if (Page() == shown)
+                PassFocusOn();
+        },
+        Qt::SingleShotConnection);
     connect(shown, &BrowserPage::featurePermissionRequested, shown,
             [shown](const QUrl& origin, QWebEnginePage::Feature feature) {
                 shown->setFeaturePermission(origin, feature, QWebEnginePage::PermissionDeniedByUser);

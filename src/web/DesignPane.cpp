@@ -44,6 +44,8 @@ void DesignPane::Load(const QString& path) {
     DesignPage* shown = page.get();
     connect(shown, &DesignPage::Shown, this, [this](bool ok) {
         state_ = ok ? State::Ready : State::Empty;
+        // The caret comes with them, to the top.
+        PassFocusOn();
         emit Settled();
     });
     ShowPage(std::move(page));

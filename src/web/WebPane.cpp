@@ -93,6 +93,15 @@ void WebPane::ShowPage(std::unique_ptr<QWebEnginePage> page) {
     shown->setParent(view_);
 }
 
+void WebPane::PassFocusOn() {
+    QWidget* focused = window()->focusWidget();
+    if (!view_ || !focused || !isAncestorOf(focused))
+        return;
+    // It may be in the new page's control already, which the engine was told before there was a page.
+    focused->clearFocus();
+    view_->setFocus();
+}
+
 void WebPane::Empty() {
     if (!view_)
         return;

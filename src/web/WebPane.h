@@ -27,6 +27,8 @@ class WebPane : public QWidget {
     QWebEngineView* View() const { return view_; }
     /// The engine starts with the first profile, and so no earlier than with the first page.
     QWebEngineProfile& Profile();
+    /// To the page that came up, where the pane has the focus: else no key would reach it before a click.
+    void PassFocusOn();
     virtual void Emptied() {}
     /// Empties the pane, where its page is of no more use.
     virtual void End() { Empty(); }

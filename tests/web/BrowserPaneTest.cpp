@@ -121,6 +121,18 @@ TEST_F(Browser, ADeadEngineLeavesAnEmptyViewThatCanShowAgain) {
     EXPECT_TRUE(Shows(QStringLiteral("here")));
 }
 
+TEST_F(Browser, EachPageOfAViewThatHasTheKeysTakesThem) {
+    const QString hasKeys = QStringLiteral("document.hasFocus()");
+    ASSERT_TRUE(pane.Navigate(PageFiles::Write(QStringLiteral("a.htm"), "<title>first</title>")));
+    ASSERT_TRUE(Shows(QStringLiteral("first")));
+    window.activateWindow();
+    pane.setFocus();
+    EXPECT_TRUE(Probe::Until(pane, hasKeys));
+    ASSERT_TRUE(pane.Navigate(PageFiles::Write(QStringLiteral("b.htm"), "<title>second</title>")));
+    ASSERT_TRUE(Shows(QStringLiteral("second")));
+    EXPECT_TRUE(Probe::Until(pane, hasKeys));
+}
+
 TEST_F(Browser, PanesShareOneProfileThatGoesWithTheLast) {
     QPointer<QWebEngineProfile> profile;
     {

@@ -62,6 +62,24 @@ TEST_F(Design, AnEditChangesTheBodyAndNothingElse) {
     EXPECT_EQ(Saved(), before + "<p>typed one</p>\r\n<p>two</p>" + after);
 }
 
+// Whoever comes by the keys alone has no mouse to put the caret there.
+TEST_F(Design, KeysWriteAtTheTopBeforeAnyClick) {
+    const auto hasKeys = [&] { return pane.isAncestorOf(QApplication::focusWidget()); };
+    Load("<p>before</p>");
+    window.activateWindow();
+    pane.setFocus();
+    ASSERT_TRUE(QTest::qWaitFor(hasKeys));
+    Load("<p>one</p>");
+    ASSERT_TRUE(QTest::qWaitFor(hasKeys));
+    EXPECT_TRUE(pane.Save(path));
+    QTest::keyClicks(QApplication::focusWidget(), QStringLiteral("my "));
+    EXPECT_TRUE(Probe::Until(pane, QStringLiteral("document.body.textContent.startsWith('my one')")))
+        << Probe::Run(pane, QStringLiteral("document.body.innerHTML + '|' + document.hasFocus() + '|' + "
+                                           "document.activeElement + '|' + getSelection().rangeCount"))
+               .toString()
+               .toStdString();
+}
+
 struct Around {
     const char* name;
     QByteArray before, after; ///< of the paragraph that is edited
