@@ -66,10 +66,11 @@ def test_the_first_run_shows_the_options_and_the_second_does_not(desk):
 test_the_first_run_shows_the_options_and_the_second_does_not.desk = {"first_run": True}
 
 
-def with_modes(desk):
+def with_modes(desk, **more):
     path = desk.path("config", "tarnwick", "The Tarnwick.ini")
-    with open(path, "ab") as file:
-        file.write(b"UseMSIE=1\n")
+    with open(path, "a", encoding="utf-8") as file:
+        for key, value in {"UseMSIE": 1, **more}.items():
+            file.write("%s=%s\n" % (key, value))
 
 
 def pixel(desk, x, y):
@@ -125,6 +126,33 @@ if os.path.exists(WEB):
         assert saved.startswith(b"<!DOCTYPE HTML PUBLIC"), saved
         assert b"\r\n" in saved and b"\n" not in saved.replace(b"\r\n", b""), saved
         desk.wait_text("typed words")
+
+    def test_keys_alone_reach_design_and_come_back_to_it(desk):
+        with_modes(desk, TemplateWindowState=0)
+        first = desk.write("first.htm", b'<BODY BGCOLOR="#20C040"><P>first</P></BODY>\r\n')
+        second = desk.write("second.htm", b"<P>second</P>\r\n")
+        desk.run(second)
+        desk.wait_page("second")
+        desk.start([PROGRAM, first])
+        wait_for("the second window", lambda: len(desk.widgets("Document text", "text")) == 2)
+        for tab in ("View", "Design"):
+            desk.key("ctrl+Prior")
+            wait_for("the page's colour", lambda: pixel(desk, 640, 500) == "20C040", 60)
+            wait_for("its tab", lambda: desk.widgets(tab, "page tab list"))
+            desk.click(640, 500)
+        desk.key("ctrl+Home")
+        desk.type("one ")
+        desk.key("ctrl+Tab")
+        desk.widget("Document text", "text", focused=True)
+        desk.key("ctrl+Tab")
+        wait_for("the other page", lambda: desk.widget("", "document web", focused=True))
+        desk.type("two ")
+        desk.key("ctrl+Prior")
+        desk.wait_active("The Tarnwick")
+        wait_for("the question", lambda: desk.widget("Save Changes?"))
+        desk.key("alt+y")
+        wait_for("the typed words in the file", lambda: b"one two" in (read(first) or b""))
+        assert read(second) == b"<P>second</P>\r\n"
 
 
 if __name__ == "__main__":

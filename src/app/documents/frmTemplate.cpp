@@ -106,8 +106,16 @@ void frmTemplate::TakeBackground() {
 
 void frmTemplate::Form_Activate() {
     TakeBackground();
-    txtInput_->SetFocus();
+    FocusFront(Qt::OtherFocusReason);
     TellEncoding(frame_, *this);
+}
+
+void frmTemplate::FocusFront(Qt::FocusReason reason) {
+    if (!txtInput_->isHidden())
+        return txtInput_->SetFocus();
+    for (QWidget* view : client_->findChildren<QWidget*>(Qt::FindDirectChildrenOnly))
+        if (view->isVisible())
+            return view->setFocus(reason);
 }
 
 void frmTemplate::Form_Resize() {

@@ -25,6 +25,8 @@ class frmTemplate final : public QMdiSubWindow, public Document {
     void Form_Load();
     /// The window became the active one.
     void Form_Activate();
+    /// Gives the focus to what is in front: the text, or the design or browser view.
+    void FocusFront(Qt::FocusReason reason);
     /// The background that is chosen now, black included.
     void TakeBackground();
     /// The text takes the window's inside; the design and browser views keep their distance. Public, since

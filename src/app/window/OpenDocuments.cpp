@@ -65,12 +65,8 @@ void OpenDocuments::FocusText() {
 }
 
 void OpenDocuments::FocusView() {
-    frmTemplate* document = Active();
-    if (!document || !document->txtInput().isHidden())
-        return FocusText();
-    for (QWidget* view : document->widget()->findChildren<QWidget*>(Qt::FindDirectChildrenOnly))
-        if (view->isVisible())
-            return view->setFocus(Qt::TabFocusReason);
+    if (frmTemplate* document = Active())
+        document->FocusFront(Qt::TabFocusReason);
 }
 
 void OpenDocuments::Wake() {
