@@ -2,36 +2,19 @@
 
 #include "platform/store/WholeFile.h"
 
-#include <mutex>
-#include <thread>
-
-struct FilesThere::Receiver {
-    std::mutex mutex;
-    FilesThere* there; ///< null once it is gone
-};
-
-FilesThere::FilesThere(QObject* parent) : QObject(parent), receiver_(std::make_shared<Receiver>()) {
-    receiver_->there = this;
-}
-
-FilesThere::~FilesThere() {
-    const std::lock_guard lock(receiver_->mutex);
-    receiver_->there = nullptr;
-}
+FilesThere::FilesThere(QObject* parent)
+    : QObject(parent),
+      lookup_([](const QString& path) { return WholeFile::Size(path) > 0; },
+              [this](const QString& path, bool there) {
+                  QMetaObject::invokeMethod(
+                      this, [this, path, there] { Take(path, there); }, Qt::QueuedConnection);
+              }) {}
 
 void FilesThere::Ask(const QString& path) {
     if (asked_.contains(path))
         return;
     asked_ << path;
-    const auto ask = [receiver = receiver_, path] {
-        const bool there = WholeFile::Size(path) > 0;
-        const std::lock_guard lock(receiver->mutex);
-        if (FilesThere* asker = receiver->there)
-            QMetaObject::invokeMethod(
-                asker, [asker, path, there] { asker->Take(path, there); }, Qt::QueuedConnection);
-    };
-    // Not one of a pool's: the program's end would wait for it.
-    std::thread(ask).detach();
+    lookup_.Ask(path);
 }
 
 void FilesThere::Take(const QString& path, bool there) {

@@ -1,17 +1,17 @@
 #include "platform/desktop/SideBar.h"
 
+#include "platform/store/PathLookup.h"
+
 #include <algorithm>
-#include <condition_variable>
 #include <filesystem>
-#include <memory>
-#include <mutex>
 #include <QDateTime>
 #include <QHeaderView>
 #include <QLocale>
 #include <QScreen>
+#include <QSemaphore>
+#include <QSet>
 #include <QSplitter>
 #include <QTreeView>
-#include <thread>
 #include <utility>
 
 namespace {
@@ -25,22 +25,9 @@ constexpr int shortestName = 44;
 /// Margins, frames and a scroll bar, in pixels.
 constexpr int edges = 60;
 
-/// What a thread finds out about folders, and how far it is.
-struct Inquiry {
-    std::mutex mutex;
-    std::condition_variable answered;
-    std::vector<std::filesystem::path> paths;
-    std::vector<bool> isFolder;
-};
-
-void Inquire(const std::shared_ptr<Inquiry>& inquiry) {
-    for (const std::filesystem::path& path : inquiry->paths) {
-        std::error_code failure;
-        const bool isFolder = std::filesystem::is_directory(path, failure);
-        const std::lock_guard lock(inquiry->mutex);
-        inquiry->isFolder.push_back(isFolder);
-        inquiry->answered.notify_one();
-    }
+bool IsFolder(const QString& path) {
+    std::error_code failure;
+    return std::filesystem::is_directory(path.toStdU16String(), failure);
 }
 
 QTreeView* DetailsOf(const QFileDialog& dialog) {
@@ -65,21 +52,22 @@ QList<QUrl> SideBarUrls(const QList<QUrl>& before, const QStringList& folders) {
 }
 
 QStringList ExistingFolders(const QStringList& paths, std::chrono::milliseconds patience) {
-    if (paths.isEmpty())
-        return {};
-    const auto inquiry = std::make_shared<Inquiry>();
-    for (const QString& path : paths)
-        inquiry->paths.emplace_back(path.toStdU16String());
-    // A thread that hangs in the system is left to itself; all it touches is its own.
-    std::thread([inquiry] { Inquire(inquiry); }).detach();
-    std::unique_lock lock(inquiry->mutex);
-    inquiry->answered.wait_for(lock, patience,
-                               [&] { return inquiry->isFolder.size() == inquiry->paths.size(); });
-    QStringList folders;
-    for (std::size_t i = 0; i < inquiry->isFolder.size(); ++i)
-        if (inquiry->isFolder[i])
-            folders << paths[static_cast<qsizetype>(i)];
-    return folders;
+    QSet<QString> folders;
+    QSemaphore answers;
+    // What is still to come when the lookup goes touches nothing here.
+    {
+        PathLookup lookup(IsFolder, [&](const QString& path, bool isFolder) {
+            if (isFolder)
+                folders << path;
+            answers.release();
+        });
+        for (const QString& path : paths)
+            lookup.Ask(path);
+        answers.tryAcquire(static_cast<int>(paths.size()), static_cast<int>(patience.count()));
+    }
+    QStringList existing = paths;
+    existing.removeIf([&](const QString& path) { return !folders.contains(path); });
+    return existing;
 }
 
 LentSideBar::LentSideBar(QFileDialog& dialog, const QStringList& folders) : dialog_(dialog) {

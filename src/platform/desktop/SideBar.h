@@ -12,8 +12,8 @@
 /// What the side bar shows: what it showed before, then the folders that it did not, each once.
 QList<QUrl> SideBarUrls(const QList<QUrl>& before, const QStringList& folders);
 
-/// Those of some paths that are folders, in their order. A share that does not answer is not waited for:
-/// what is not known when patience ends counts as not there.
+/// Those of some paths that are folders, in their order. A share that does not answer is not waited for, and
+/// keeps back no other: what is not known when patience ends counts as not there.
 QStringList ExistingFolders(const QStringList& paths, std::chrono::milliseconds patience);
 
 /// A file dialog with further folders at its side, for as long as this lives. The toolkit keeps the side bar
