@@ -1,7 +1,7 @@
 // Files of open documents that others changed, told in panel 3 when the program comes to the front.
 #pragma once
 
-#include "editor/spelling/Background.h"
+#include "platform/store/Background.h"
 
 #include <QList>
 #include <QObject>

@@ -2,8 +2,8 @@
 // know.
 #pragma once
 
-#include "editor/spelling/Background.h"
 #include "editor/spelling/WordCutter.h"
+#include "platform/store/Background.h"
 
 #include <memory>
 #include <QHash>
