@@ -2,6 +2,7 @@
 
 #include "app/documents/TakeInText.h"
 #include "editor/frame/Document.h"
+#include "editor/frame/Forms.h"
 #include "editor/frame/Frame.h"
 
 #include <algorithm>
@@ -45,7 +46,7 @@ std::chrono::milliseconds AwaitedFile::NextPause(std::chrono::milliseconds last)
 
 void AwaitedFile::TryAgain() {
     if (!frameWindow_ || document_.Window().isHidden() || !document_.Caption().isEmpty() ||
-        IsLoaded(frame_, path_)) {
+        frame_.LoadedForms().FindByCaption(path_)) {
         deleteLater();
         return;
     }

@@ -4,6 +4,7 @@
 #include "app/documents/DocumentFiles.h"
 #include "app/documents/RecentFiles.h"
 #include "app/documents/TakeInText.h"
+#include "editor/frame/Forms.h"
 #include "editor/frame/Frame.h"
 #include "platform/desktop/Prompts.h"
 #include "platform/store/WholeFile.h"
@@ -13,7 +14,7 @@ namespace {
 /// Says so when a file is open already. The comparison is exact: another spelling of its path opens a file
 /// twice.
 bool RefusedAsDuplicate(Frame& frame, const QString& path) {
-    if (!IsLoaded(frame, path))
+    if (!frame.LoadedForms().FindByCaption(path))
         return false;
     frame.Ask().MsgBox(
         frame.Window(),

@@ -7,7 +7,6 @@
 #include "editor/color/ColoredTags.h"
 #include "editor/color/ColorizeText.h"
 #include "editor/frame/Document.h"
-#include "editor/frame/Forms.h"
 #include "editor/frame/Frame.h"
 #include "platform/store/Settings.h"
 #include "platform/text/RichTextBox.h"
@@ -56,15 +55,6 @@ void TakeInFile(Document& document, const QString& path, const FileText& file) {
 }
 
 } // namespace
-
-bool IsLoaded(Frame& frame, const QString& path) {
-    const Forms& forms = frame.LoadedForms();
-    for (int i = 0; i < forms.Count(); ++i) {
-        if (forms.CaptionAt(i) == path)
-            return true;
-    }
-    return false;
-}
 
 void TakeInText(Frame& frame, const QString& path, FileText file) {
     Document* document = frame.ActiveForm();

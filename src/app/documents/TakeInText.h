@@ -7,9 +7,6 @@
 
 class Frame;
 
-/// Whether a loaded form, document or dialog, has the path for its caption.
-bool IsLoaded(Frame& frame, const QString& path);
-
 /// Makes a file's text the content of the active window and gives it the path and the encoding: coloured when
 /// ColoredTags is 1, with an entry in the recent files and a document tab. Nothing is changed since, and
 /// nothing can be undone.

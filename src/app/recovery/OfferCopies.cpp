@@ -16,18 +16,11 @@
 
 namespace {
 
-Document* OpenDocumentOf(Frame& frame, const QString& path) {
-    const Forms& forms = frame.LoadedForms();
-    for (int i = 0; i < forms.Count(); ++i)
-        if (auto* document = dynamic_cast<Document*>(forms.At(i)); document && document->Caption() == path)
-            return document;
-    return nullptr;
-}
-
 /// The window that gets a copy is the active one then. One that the command line opened has the file's text,
 /// in which nothing was changed yet.
 void BringUpWindow(Frame& frame, const QString& path) {
-    Document* open = path.isEmpty() ? nullptr : OpenDocumentOf(frame, path);
+    QWidget* form = path.isEmpty() ? nullptr : frame.LoadedForms().FindByCaption(path);
+    auto* open = dynamic_cast<Document*>(form);
     if (!open)
         return frame.NewDocument();
     frame.ActivateDocument(*open);

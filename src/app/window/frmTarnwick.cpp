@@ -239,10 +239,8 @@ void frmTarnwick::PathTaken(const QString& path, const QString& caption) {
 }
 
 void frmTarnwick::TabStrip2_Click(int index) {
-    const QString tag = tabStrip2_->Tag(index);
-    for (int i = 0; i < forms_->Count(); ++i)
-        if (forms_->CaptionAt(i) == tag)
-            return focus_->FocusForm(*forms_->At(i));
+    if (QWidget* form = forms_->FindByCaption(tabStrip2_->Tag(index)))
+        focus_->FocusForm(*form);
 }
 
 QWidget& frmTarnwick::Picture4() {

@@ -4,14 +4,16 @@
 
 #include <algorithm>
 
-Forms::Forms(QObject* parent) : QObject(parent) {}
+namespace {
 
-QString Forms::CaptionAt(int index) const {
-    QWidget* form = At(index);
-    if (const auto* document = dynamic_cast<const Document*>(form))
-        return document->Caption();
-    return form->windowTitle();
+QString CaptionOf(const QWidget& form) {
+    const auto* document = dynamic_cast<const Document*>(&form);
+    return document ? document->Caption() : form.windowTitle();
 }
+
+} // namespace
+
+Forms::Forms(QObject* parent) : QObject(parent) {}
 
 bool Forms::Holds(const QWidget* form) const {
     return std::ranges::find(forms_, form) != forms_.end();
@@ -29,6 +31,12 @@ void Forms::Remove(QWidget* form) {
 QWidget* Forms::Find(const QString& name) const {
     const auto found =
         std::ranges::find_if(forms_, [&](QWidget* form) { return form->objectName() == name; });
+    return found == forms_.end() ? nullptr : *found;
+}
+
+QWidget* Forms::FindByCaption(const QString& caption) const {
+    const auto found =
+        std::ranges::find_if(forms_, [&](const QWidget* form) { return CaptionOf(*form) == caption; });
     return found == forms_.end() ? nullptr : *found;
 }
 

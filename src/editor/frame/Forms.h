@@ -20,8 +20,6 @@ class Forms : public QObject {
     QWidget* At(int index) const { return forms_[static_cast<size_t>(index)]; }
     /// Whether the list holds a form. It is only compared: one that is gone is not there.
     bool Holds(const QWidget* form) const;
-    /// A document's Caption, the window title of any other form.
-    QString CaptionAt(int index) const;
     /// Puts a form at the list's end; it leaves by itself when it is destroyed.
     void Add(QWidget* form);
     /// Takes a form off the list ahead of its destruction: from then on no one finds it.
@@ -36,6 +34,9 @@ class Forms : public QObject {
     }
     /// The loaded form of a name (objectName), or null: for those who have the name from a table.
     QWidget* Find(const QString& name) const;
+    /// The first form of a caption, compared exactly, or null. That is a document's Caption, and the window
+    /// title of any other form.
+    QWidget* FindByCaption(const QString& caption) const;
 
     /// The form of type T, constructed with the arguments if it is not loaded. It has the name of its class.
     template <typename T, typename... Arguments> T& Load(Arguments&&... arguments) {

@@ -249,13 +249,7 @@ void SpellRun::Say(const QString& text) {
 }
 
 bool SpellRun::DocumentClosed() const {
-    if (!followed_)
-        return false;
-    const Forms& forms = frame_.LoadedForms();
-    for (int i = 0; i < forms.Count(); ++i)
-        if (forms.At(i) == document_)
-            return false;
-    return true;
+    return followed_ && !frame_.LoadedForms().Holds(document_);
 }
 
 RichTextBox* SpellRun::PieceText() const {

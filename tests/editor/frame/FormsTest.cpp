@@ -1,6 +1,8 @@
 // The list of loaded forms: each exists once, is found by its type, and is gone once it was unloaded.
 #include "editor/frame/Forms.h"
 
+#include "support/TestFrame.h"
+
 #include <gtest/gtest.h>
 #include <QPointer>
 #include <QSignalSpy>
@@ -59,6 +61,23 @@ TEST(Forms, AFormIsFoundByItsTypeAndByItsName) {
     EXPECT_EQ(forms.Find(QStringLiteral("frmThree")), nullptr);
     delete &one;
     delete &two;
+}
+
+TEST(Forms, AFormIsFoundByItsCaption) {
+    TestFrame frame;
+    Forms& forms = frame.LoadedForms();
+    TestDocument* first = frame.active;
+    first->caption = QStringLiteral("/site/a.htm");
+    first->setWindowTitle(QStringLiteral("a"));
+    frame.NewDocument();
+    frame.active->caption = first->caption;
+    frmOne& one = forms.Load<frmOne>();
+    one.setWindowTitle(QStringLiteral("One"));
+    EXPECT_EQ(forms.FindByCaption(QStringLiteral("/site/a.htm")), first);
+    EXPECT_EQ(forms.FindByCaption(QStringLiteral("One")), &one);
+    for (const auto& none : {QStringLiteral("/site/A.htm"), QStringLiteral("a"), QString()})
+        EXPECT_EQ(forms.FindByCaption(none), nullptr) << none.toStdString();
+    delete &one;
 }
 
 TEST(Forms, OneThatWasUnloadedIsFoundNoMoreThoughItIsStillThere) {
