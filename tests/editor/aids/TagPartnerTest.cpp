@@ -3,6 +3,7 @@
 #include "support/Text.h"
 
 #include <gtest/gtest.h>
+#include <span>
 
 namespace {
 
@@ -25,10 +26,23 @@ QString Marked(QString text, const std::optional<TagPartners>& found) {
     return text;
 }
 
+/// What is found in a text that has "|" at the caret.
+QString Found(QString text) {
+    const auto caret = static_cast<int>(text.indexOf(u'|'));
+    text.remove(caret, 1);
+    return Marked(text, TagPartner(text, caret));
+}
+
 struct Row {
     const char16_t* text; ///< "|" is the caret
     const char16_t* marked;
 };
+
+void Check(std::span<const Row> rows) {
+    for (const Row& row : rows)
+        EXPECT_EQ(Found(QString::fromUtf16(row.text)), QString::fromUtf16(row.marked))
+            << QString::fromUtf16(row.text).toStdString();
+}
 
 } // namespace
 
@@ -48,14 +62,7 @@ TEST(TagPartner, IsFoundFromEachEnd) {
         {u"plain|", u"none"},
         {u"x|y <b>z</b>", u"none"},
     };
-    for (const Row& row : rows) {
-        QString text = QString::fromUtf16(row.text);
-        const auto caret = static_cast<int>(text.indexOf(u'|'));
-        text.remove(caret, 1);
-        EXPECT_EQ(Marked(text, TagPartner(text, caret)).toStdString(),
-                  QString::fromUtf16(row.marked).toStdString())
-            << QString::fromUtf16(row.text).toStdString();
-    }
+    Check(rows);
 }
 
 TEST(TagPartner, CountsTheTagsOfItsWord) {
@@ -79,25 +86,15 @@ TEST(TagPartner, CountsTheTagsOfItsWord) {
         {u"<\u05d0|>x</\u05d0>", u"none"}, // no letter that begins a word
         {u"<b|\r\nid=1\r\n>x</b\r\n>", u"{<b\r\nid=1\r\n>}x[</b\r\n>]"},
     };
-    for (const Row& row : rows) {
-        QString text = QString::fromUtf16(row.text);
-        const auto caret = static_cast<int>(text.indexOf(u'|'));
-        text.remove(caret, 1);
-        EXPECT_EQ(Marked(text, TagPartner(text, caret)).toStdString(),
-                  QString::fromUtf16(row.marked).toStdString())
-            << QString::fromUtf16(row.text).toStdString();
-    }
+    Check(rows);
 }
 
 TEST(TagPartner, ElementsWithoutAnEndHaveNone) {
     for (const char16_t* text : {u"<br|></br>", u"<BR|>x</BR>", u"<img src=\"a\"|></img>", u"<hr|></hr>",
                                  u"<input|></input>", u"<meta|></meta>", u"<link|></link>", u"x</br|>",
-                                 u"<b/|>x</b>", u"<b /|>x</b>", u"<a href=\"x\"/|>x</a>"}) {
-        QString page = QString::fromUtf16(text);
-        const auto caret = static_cast<int>(page.indexOf(u'|'));
-        page.remove(caret, 1);
-        EXPECT_EQ(TagPartner(page, caret), std::nullopt) << page.toStdString();
-    }
+                                 u"<b/|>x</b>", u"<b /|>x</b>", u"<a href=\"x\"/|>x</a>"})
+        EXPECT_EQ(Found(QString::fromUtf16(text)), QStringLiteral("none"))
+            << QString::fromUtf16(text).toStdString();
 }
 
 TEST(TagPartner, OneThatClosesItselfIsNotCounted) {
@@ -143,14 +140,7 @@ TEST(TagPartner, QuotesCommentsAndScriptsHideTags) {
         {u"<|>", u"none"},
         {u"</|>", u"none"},
     };
-    for (const Row& row : rows) {
-        QString text = QString::fromUtf16(row.text);
-        const auto caret = static_cast<int>(text.indexOf(u'|'));
-        text.remove(caret, 1);
-        EXPECT_EQ(Marked(text, TagPartner(text, caret)).toStdString(),
-                  QString::fromUtf16(row.marked).toStdString())
-            << QString::fromUtf16(row.text).toStdString();
-    }
+    Check(rows);
 }
 
 TEST(TagPartner, PositionsOutsideOfTheTextHaveNone) {
