@@ -4,10 +4,10 @@
 #include "app/run/ProgramState.h"
 #include "app/window/KnownForms.h"
 #include "app/window/MainFrame.h"
-#include "app/window/WindowState.h"
 #include "dialogs/frmImage.h"
 #include "editor/frame/Document.h"
 #include "editor/frame/Forms.h"
+#include "platform/desktop/WindowState.h"
 #include "platform/store/Settings.h"
 #include "platform/values/Twips.h"
 

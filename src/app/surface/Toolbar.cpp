@@ -1,7 +1,7 @@
 #include "app/surface/Toolbar.h"
 
 #include "app/surface/CommandActions.h"
-#include "app/window/FlowLayout.h"
+#include "app/surface/FlowLayout.h"
 #include "app/window/KnownForms.h"
 #include "app/window/LeaveByEscape.h"
 #include "dialogs/Icons.h"

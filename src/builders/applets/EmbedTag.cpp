@@ -1,7 +1,7 @@
 #include "builders/applets/EmbedTag.h"
 
-#include "builders/commands/TagValue.h"
 #include "dialogs/BuildTag.h"
+#include "dialogs/TagValue.h"
 
 QString EmbedTag(const EmbedFields& fields, TagCase tagCase) {
     return BuildTag(QStringLiteral("<EMBED"),

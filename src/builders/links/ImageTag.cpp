@@ -1,7 +1,7 @@
 #include "builders/links/ImageTag.h"
 
-#include "builders/commands/TagValue.h"
 #include "dialogs/BuildTag.h"
+#include "dialogs/TagValue.h"
 
 QString ImageTag(const ImageFields& fields, TagCase tagCase) {
     const QString tag = BuildTag(QStringLiteral("<IMG"),

@@ -7,7 +7,7 @@
 #include "editor/frame/Document.h"
 #include "editor/frame/Forms.h"
 #include "editor/frame/Frame.h"
-#include "editor/typing/KeyCodes.h"
+#include "platform/text/KeyCodes.h"
 #include "platform/text/RichTextBox.h"
 #include "platform/values/Twips.h"
 #include "ui_frmDropDown.h"

@@ -5,7 +5,7 @@
 #include "editor/color/WriteColoredText.h"
 #include "editor/frame/Document.h"
 #include "editor/frame/Frame.h"
-#include "editor/typing/KeyCodes.h"
+#include "platform/text/KeyCodes.h"
 #include "platform/text/RichTextBox.h"
 
 void TagCloser::KeyPress(int& KeyAscii) {

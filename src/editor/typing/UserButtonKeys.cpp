@@ -2,8 +2,8 @@
 
 #include "editor/color/InsertTag.h"
 #include "editor/frame/Frame.h"
-#include "editor/typing/KeyCodes.h"
 #include "editor/typing/UserButtonTexts.h"
+#include "platform/text/KeyCodes.h"
 
 void UserButtonKeys::KeyDown(int KeyCode, int Shift) {
     if (Shift != CtrlAlone || KeyCode < KeyCodeOf::Digit0 || KeyCode > KeyCodeOf::Digit9)

@@ -2,7 +2,7 @@
 #include "editor/autofill/AutoFillKeys.h"
 
 #include "editor/autofill/frmDropDown.h"
-#include "editor/typing/KeyCodes.h"
+#include "platform/text/KeyCodes.h"
 #include "support/TypingFrame.h"
 
 #include <gtest/gtest.h>

@@ -1,4 +1,4 @@
-#include "builders/commands/TagValue.h"
+#include "dialogs/TagValue.h"
 
 #include "support/Text.h"
 

@@ -1,4 +1,4 @@
-#include "app/window/WindowState.h"
+#include "platform/desktop/WindowState.h"
 
 #include <QWidget>
 

@@ -1,4 +1,4 @@
-#include "app/window/FlowLayout.h"
+#include "app/surface/FlowLayout.h"
 
 #include <algorithm>
 #include <QStyle>
