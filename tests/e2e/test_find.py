@@ -1,5 +1,6 @@
 """Find, replace and replace over many files on the screen, by keys."""
 import os
+import shutil
 import sys
 from driver import main, read, wait_for
 
@@ -120,6 +121,33 @@ def test_many_files(desk):
     desk.key("Escape")
     desk.wait_no_window(DIALOG)
     assert desk.text() == "<P>stays</P>\r\n"
+
+
+def test_many_files_of_which_some_cannot_be_written(desk):
+    page(desk, b"<P>stays</P>\r\n")
+    os.mkdir(desk.path("gone"))
+    paths = [desk.write("here.htm", b"old"), desk.write("gone/1.htm", b"old"), desk.write("gone/2.htm", b"old")]
+    desk.key("alt+e", "m")
+    desk.wait_active(DIALOG)
+    desk.type("old")
+    desk.key("alt+d")
+    desk.wait_active("Open")
+    desk.type(" ".join('"%s"' % path for path in paths))
+    desk.key("Return")
+    desk.wait_no_window("Open")
+    desk.wait_active(DIALOG)
+    desk.widget(paths[2], "list item")
+    shutil.rmtree(desk.path("gone"))
+    desk.key("Return")
+    confirm(desk, "Finished!")
+    desk.wait_active(DIALOG)
+    # The key that answered the box does not end it, the next one does.
+    notice = "Could not save 2 files, the first 1.htm: No such file or directory"
+    wait_for("the notice", lambda: desk.widget_text_contains(notice))
+    assert read(paths[0]) == b"\r\n", read(paths[0])
+    desk.key("Escape")
+    desk.wait_no_window(DIALOG)
+    wait_for("the notice to end", lambda: not desk.widget_text_contains(notice))
 
 
 def test_the_toolbar_shows_a_window_beside_the_program(desk):

@@ -1,12 +1,22 @@
 #include "tools/find/ReplaceInFiles.h"
 
+#include "editor/frame/TellFailedSave.h"
 #include "platform/store/WholeFile.h"
 #include "tools/find/BytesReplacement.h"
 
 #include <utility>
 
-void ReplaceInFiles(const QStringList& paths, const BytesReplacement& replacement,
-                    const std::function<void(int)>& next) {
+namespace {
+
+WriteResult Write(const QString& path, const QByteArray& text) {
+    return WholeFile::Write(path, text, WholeFile::Readers::AsTheUsersMaskAsks, WholeFile::Flush::Later);
+}
+
+} // namespace
+
+FailedSaves ReplaceInFiles(const QStringList& paths, const BytesReplacement& replacement,
+                           const std::function<void(int)>& next) {
+    FailedSaves failed;
     QByteArray text;
     int number = 0;
     for (const QString& path : paths) {
@@ -14,7 +24,8 @@ void ReplaceInFiles(const QStringList& paths, const BytesReplacement& replacemen
         if (std::optional<QByteArray> content = WholeFile::Read(path))
             text = *std::move(content);
         text = replacement.In(text);
-        WholeFile::Write(path, text + "\r\n", WholeFile::Readers::AsTheUsersMaskAsks,
-                         WholeFile::Flush::Later);
+        if (const WriteResult written = Write(path, text + "\r\n"); !written)
+            failed.Add(path, written.Reason());
     }
+    return failed;
 }

@@ -5,6 +5,7 @@
 #include "editor/color/InsertTag.h"
 #include "editor/frame/ActiveText.h"
 #include "editor/frame/Frame.h"
+#include "editor/frame/TellFailedSave.h"
 #include "platform/desktop/Prompts.h"
 #include "platform/text/RichTextBox.h"
 #include "platform/values/Twips.h"
@@ -169,12 +170,16 @@ void frmFindReplace::FindGlobal() {
     // The events that are let through may end the program, and this form with it.
     const QPointer<frmFindReplace> self(this);
     Frame& frame = frame_;
-    ReplaceInFiles(paths, replacement, [&](int number) {
+    const FailedSaves failed = ReplaceInFiles(paths, replacement, [&](int number) {
         frame.SetStatusPanel(tr("File %1 of %2").arg(number).arg(paths.size()), true);
         // What the user presses waits for its turn; windows are painted.
         QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
     });
     frame.SetStatusPanel(QString());
+    const QPointer<QWidget> window(frame.Window());
     frame.Ask().MsgBox(self ? self.data() : frame.Window(), QStringLiteral("Finished!"), MsgButtons::OK,
                        MsgIcon::Information, QString());
+    // Behind the box: the key that answers it would end the notice.
+    if (window)
+        TellFailedSaves(frame, failed);
 }

@@ -1,6 +1,7 @@
 // Replacing over files: what each holds afterwards, whatever fails.
 #include "tools/find/ReplaceInFiles.h"
 
+#include "editor/frame/TellFailedSave.h"
 #include "support/Files.h"
 #include "support/FreshUser.h"
 #include "support/NoPlainFile.h"
@@ -26,11 +27,12 @@ class ReplaceInFilesTest : public testing::Test {
     }
     void Run(const QStringList& paths, const QString& find = u"a"_s, const QString& replacement = u"b"_s) {
         numbers.clear();
-        ReplaceInFiles(paths, BytesReplacement(find, replacement, Compare::Exact),
-                       [&](int number) { numbers.push_back(number); });
+        failed = ReplaceInFiles(paths, BytesReplacement(find, replacement, Compare::Exact),
+                                [&](int number) { numbers.push_back(number); });
     }
 
     std::vector<int> numbers;
+    FailedSaves failed;
 };
 
 TEST_F(ReplaceInFilesTest, EachFileGetsALineEnd) {
@@ -42,6 +44,7 @@ TEST_F(ReplaceInFilesTest, EachFileGetsALineEnd) {
     EXPECT_EQ(ReadFile(none), "x\r\n");
     EXPECT_EQ(ReadFile(empty), "\r\n");
     EXPECT_THAT(numbers, ElementsAre(1, 2, 3));
+    EXPECT_EQ(failed.count, 0);
     Run({});
     EXPECT_THAT(numbers, ElementsAre());
 }
@@ -86,6 +89,9 @@ TEST_F(ReplaceInFilesTest, WhatCannotBeWrittenStays) {
         EXPECT_FALSE(QFileInfo(file).isFile()) << file.toStdString();
     EXPECT_FALSE(QFileInfo::exists(At("no folder")));
     EXPECT_EQ(ReadFile(At("new")), "b\r\n");
+    EXPECT_EQ(failed.count, files.size() + 2);
+    EXPECT_EQ(failed.first, files.first());
+    EXPECT_EQ(failed.reason, u"Operation not supported"_s);
 }
 
 TEST_F(ReplaceInFilesTest, AReadOnlyFileStaysWhole) {

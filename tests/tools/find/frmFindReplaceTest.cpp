@@ -437,6 +437,30 @@ TEST_F(frmFindReplaceTest, EveryFileIsWrittenAndToldOf) {
     EXPECT_EQ(frame.Box().Text(), QString()) << "no document takes part";
 }
 
+TEST_F(frmFindReplaceTest, FilesThatCannotBeWrittenAreToldOfBehindTheBox) {
+    OpenAt("mnuMultiFile");
+    const QString written = TestFolder() + u"/1.htm"_s;
+    WriteFile(written, "a");
+    for (const QString& path : {written, TestFolder() + u"/gone/2.htm"_s, TestFolder() + u"/gone/3.htm"_s}) {
+        frame.prompts.openAnswers = {ScriptedPrompts::Picked(path)};
+        Press(u"cmdGetFle"_s);
+    }
+    for (const bool told : {true, false}) {
+        frame.Store().WriteFlag(Keys::TellFailedSaves, told);
+        frame.statuses.clear();
+        frame.prompts.asked.clear();
+        QStringList before;
+        frame.prompts.whileAsked = [&] { before = frame.statuses; };
+        Press(u"cmdOK"_s);
+        EXPECT_THAT(frame.prompts.Messages(), ElementsAre(u"Finished!"_s));
+        EXPECT_EQ(before, (QStringList{u"File 1 of 3"_s, u"File 2 of 3"_s, u"File 3 of 3"_s, QString()}));
+        EXPECT_EQ(frame.statuses.sliced(before.size()),
+                  told ? QStringList{u"Could not save 2 files, the first 2.htm: No such file or directory"_s}
+                       : QStringList());
+    }
+    EXPECT_EQ(ReadFile(written), "a\r\n\r\n");
+}
+
 TEST_F(frmFindReplaceTest, AnEmptyListIsFinishedAtOnce) {
     OpenAt("mnuMultiFile");
     frame.CloseDocument();
