@@ -1,15 +1,18 @@
 // The typing engine under random keys: the text, the caret and every colour are those of a plain model that
-// knows nothing of the control. With the auto-fill lists on, where there is no model, nothing may break and
-// every character has a colour.
+// knows nothing of the control. With the auto-fill lists on, where there is no model, nothing may break,
+// every character has a colour, and one that the user picks is written.
 #include "editor/autofill/frmDropDown.h"
 #include "editor/color/WriteColoredText.h"
 #include "editor/typing/CharacterTable.h"
 #include "FuzzApplication.h"
+#include "platform/text/ColorNumber.h"
 #include "platform/text/RtfReader.h"
 #include "platform/values/Cp1252.h"
 #include "support/TypingFrame.h"
 
 #include <cstdlib>
+#include <optional>
+#include <utility>
 #include <vector>
 
 namespace {
@@ -137,9 +140,29 @@ void TypeAgainstModel(TypingFrame& frame, const uint8_t* data, size_t size) {
     }
 }
 
+/// What a person picks who is asked for a colour: Cancel now and then.
+std::optional<ColorNumber> Pick(size_t number) {
+    if (number % 4 == 0)
+        return std::nullopt;
+    constexpr size_t step = 0x0A3B11;
+    return static_cast<ColorNumber>(number * step % 0x1000000);
+}
+
+/// A key asks for one colour at the most, and writes the one that is picked.
+void CheckPick(TypingFrame& frame, std::optional<ColorNumber> pick) {
+    const auto asked = std::exchange(frame.prompts.asked, {});
+    if (asked.isEmpty())
+        return;
+    Require(asked.size() == 1 && asked.first().kind == Asked::Color);
+    const RichTextBox& box = frame.Box();
+    Require(!pick || box.Text().first(box.SelStart()).endsWith(u'#' + ColorHex(*pick)));
+}
+
 void TypeWithLists(TypingFrame& frame, const uint8_t* data, size_t size) {
     static constexpr Qt::Key keys[] = {Qt::Key_Up, Qt::Key_Down, Qt::Key_Right, Qt::Key_Escape, Qt::Key_Left};
     for (size_t i = 0; i < size; ++i) {
+        const std::optional<ColorNumber> pick = Pick(i + size);
+        frame.prompts.colorAnswers = {pick};
         if (data[i] == 2 && frame.PausePending())
             frame.Pause();
         else if (data[i] == 3)
@@ -150,6 +173,7 @@ void TypeWithLists(TypingFrame& frame, const uint8_t* data, size_t size) {
             frame.Key(keys[data[i] - 5]);
         else
             frame.Type(QString(KeyOf(data[i])));
+        CheckPick(frame, pick);
         RichTextBox& box = frame.Box();
         Require(box.SelStart() + box.SelLength() <= box.TextLength());
         for (int at = 0; at < box.TextLength(); ++at)
@@ -183,6 +207,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
         TypeWithLists(frame, data + 1, size - 1);
     else
         TypeAgainstModel(frame, data + 1, size - 1);
+    frame.Box().streams.clear();
     frame.statuses.clear();
     frame.selectedTabs.clear();
     return 0;
