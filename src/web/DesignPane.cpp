@@ -19,7 +19,11 @@ template <typename Sender, typename Signal> void WaitFor(Sender* sender, Signal 
     QEventLoop loop;
     QObject::connect(sender, signal, &loop, &QEventLoop::quit);
     QObject::connect(sender, &QObject::destroyed, &loop, &QEventLoop::quit);
-    QTimer::singleShot(patienceMilliseconds, &loop, &QEventLoop::quit);
+    // One that goes with the loop: a shot in the air would outlive it for as long as the patience.
+    QTimer patience;
+    patience.setSingleShot(true);
+    QObject::connect(&patience, &QTimer::timeout, &loop, &QEventLoop::quit);
+    patience.start(patienceMilliseconds);
     loop.exec(QEventLoop::ExcludeUserInputEvents);
 }
 
