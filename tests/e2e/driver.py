@@ -140,10 +140,16 @@ class Desk:
         ids = self.xdo("search", "--onlyvisible", "--name", ".*").stdout.split()
         return [self.xdo("getwindowname", one).stdout.rstrip("\n") for one in ids]
 
+    def place(self, name):
+        """Left, top, width and height of a window's inside. One that takes in a page is made anew, maybe just now."""
+        def told():
+            shape = self.xdo("getwindowgeometry", "--shell", self.wait_window(name)).stdout
+            return re.findall(r"^(?:X|Y|WIDTH|HEIGHT)=(-?\d+)$", shape, re.M)
+        return [int(number) for number in wait_for("the place of the window " + name, told)]
+
     def size(self, name):
         """Width and height of a window's inside."""
-        shape = self.xdo("getwindowgeometry", "--shell", self.wait_window(name)).stdout
-        return [int(re.search(r"^%s=(\d+)$" % key, shape, re.M).group(1)) for key in ("WIDTH", "HEIGHT")]
+        return self.place(name)[2:]
 
     def wait_window(self, name):
         def found():

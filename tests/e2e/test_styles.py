@@ -202,11 +202,9 @@ test_on_a_fine_screen_everything_is_in_sight.desk = {"size": "1024x768", "scale"
 
 def bottom_pixel(desk):
     """The colour of a place low in the form, where the preview is."""
-    shape = desk.xdo("getwindowgeometry", "--shell", desk.wait_window(FORM)).stdout
-    place = dict(line.split("=") for line in shape.splitlines())
-    x = int(place["X"]) + int(place["WIDTH"]) // 2
-    y = int(place["Y"]) + int(place["HEIGHT"]) - 70
-    text = subprocess.run(["import", "-window", "root", "-crop", "1x1+%d+%d" % (x, y), "-depth", "8", "txt:-"],
+    left, top, width, height = desk.place(FORM)
+    middle, low = left + width // 2, top + height - 70
+    text = subprocess.run(["import", "-window", "root", "-crop", "1x1+%d+%d" % (middle, low), "-depth", "8", "txt:-"],
                           env=desk.env, capture_output=True, text=True).stdout
     return text.split("#")[-1][:6].upper()
 
