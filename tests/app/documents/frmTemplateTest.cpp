@@ -198,6 +198,10 @@ TEST_F(frmTemplateOf, ADocumentThatIsChosenGivesTheKeysToTheViewInFront) {
     ASSERT_EQ(run->frame->focusWidget(), &second.txtInput());
     run->frame->ActivateDocument(first);
     EXPECT_EQ(run->frame->focusWidget(), design);
+    // Nor do they stay where the area left them.
+    run->frame->setFocus();
+    first.Form_Activate();
+    EXPECT_EQ(run->frame->focusWidget(), design);
     run->frame->ActivateDocument(second);
     EXPECT_EQ(run->frame->focusWidget(), &second.txtInput());
 }
