@@ -94,6 +94,18 @@ def test_replace_all_in_a_selection(desk):
     desk.wait_text("b b aa\r\n")
 
 
+def add_files(desk, paths):
+    """Puts files on the list of those to replace in."""
+    desk.key("alt+d")
+    desk.wait_active("Open")
+    desk.type(" ".join('"%s"' % path for path in paths))
+    desk.key("Return")
+    desk.wait_no_window("Open")
+    desk.wait_active(DIALOG)
+    for path in paths:
+        desk.widget(path, "list item")
+
+
 def test_many_files(desk):
     page(desk, b"<P>stays</P>\r\n")
     os.mkdir(desk.path("site"))
@@ -104,14 +116,7 @@ def test_many_files(desk):
     desk.type("old \u00e9")
     desk.key("alt+p")
     desk.type("new")
-    desk.key("alt+d")
-    desk.wait_active("Open")
-    desk.type(" ".join('"%s"' % path for path in paths))
-    desk.key("Return")
-    desk.wait_no_window("Open")
-    desk.wait_active(DIALOG)
-    for path in paths:
-        desk.widget(path, "list item")
+    add_files(desk, paths)
     desk.key("Return")
     confirm(desk, "Finished!")
     desk.wait_active(DIALOG)
@@ -130,13 +135,7 @@ def test_many_files_of_which_some_cannot_be_written(desk):
     desk.key("alt+e", "m")
     desk.wait_active(DIALOG)
     desk.type("old")
-    desk.key("alt+d")
-    desk.wait_active("Open")
-    desk.type(" ".join('"%s"' % path for path in paths))
-    desk.key("Return")
-    desk.wait_no_window("Open")
-    desk.wait_active(DIALOG)
-    desk.widget(paths[2], "list item")
+    add_files(desk, paths)
     shutil.rmtree(desk.path("gone"))
     desk.key("Return")
     confirm(desk, "Finished!")
